@@ -1,0 +1,26 @@
+#include "core/error.h"
+
+namespace Tamrivo
+{
+
+ErrorRecord CurrentError()
+{
+    try
+    {
+        throw;
+    }
+    catch (const Failure& failure)
+    {
+        return failure.Record();
+    }
+    catch (const std::exception& exception)
+    {
+        return {ErrorNumber::Unexpected, "Tamrivo", exception.what(), {}, 0};
+    }
+    catch (...)
+    {
+        return {ErrorNumber::Unexpected, "Tamrivo", "Unexpected failure", {}, 0};
+    }
+}
+
+} // namespace Tamrivo

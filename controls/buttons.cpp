@@ -1,0 +1,60 @@
+#include "controls/buttons.h"
+
+#include "controls/container.h"
+
+namespace Tamrivo
+{
+
+CheckBox::CheckBox(const Declaration& declaration, const Settings& settings)
+    : Control(declaration),
+      m_caption(settings.Caption),
+      m_tabStop(settings.Enabled && settings.Visible)
+{
+    SetEnabled(settings.Enabled);
+    SetVisible(settings.Visible);
+}
+
+Tamrivo::Properties CheckBox::Properties() const
+{
+    auto properties = Control::Properties();
+    properties.insert(properties.end(), {{"Caption", m_caption}, {"Value", m_value}});
+    return properties;
+}
+
+void OptionButton::SetValue(bool value)
+{
+    if (!Assign(m_value, value) || !value)
+        return;
+    for (Control* sibling : Parent().Children())
+    {
+        auto* option = dynamic_cast<OptionButton*>(sibling);
+        if (option != nullptr && option != this)
+            option->SetValue(false);
+    }
+    Click();
+}
+
+Tamrivo::Properties OptionButton::Properties() const
+{
+    auto properties = Control::Properties();
+    properties.insert(properties.end(), {{"Caption", m_caption}, {"Value", m_value}});
+    return properties;
+}
+
+CommandButton::CommandButton(const Declaration& declaration, const Settings& settings)
+    : Control(declaration),
+      m_caption(settings.Caption),
+      m_toolTipText(settings.ToolTipText),
+      m_font(settings.Font)
+{
+    SetEnabled(settings.Enabled);
+}
+
+Tamrivo::Properties CommandButton::Properties() const
+{
+    auto properties = Control::Properties();
+    properties.insert(properties.end(), {{"Caption", m_caption}, {"ToolTipText", m_toolTipText}});
+    return properties;
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <memory>
+
+namespace Tamrivo
+{
+
+/// A place on the form for a control of the host, which brings its own operations and events.
+template <class T>
+class HostedControl : public Control
+{
+public:
+    struct Settings
+    {
+        std::shared_ptr<T> Object; ///< Never null.
+        bool TabStop = true;
+    };
+
+    HostedControl(const Declaration& declaration, const Settings& settings)
+        : Control(declaration), m_object(settings.Object), m_tabStop(settings.TabStop)
+    {
+    }
+
+    T& Object() const { return *m_object; }
+    T* operator->() const { return m_object.get(); }
+
+    bool IsTabStop() const override { return m_tabStop; }
+
+private:
+    std::shared_ptr<T> m_object;
+    bool m_tabStop;
+};
+
+} // namespace Tamrivo

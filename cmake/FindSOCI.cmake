@@ -25,6 +25,10 @@ if(SOCI_FOUND AND NOT TARGET SOCI::core)
     set_target_properties(SOCI::core PROPERTIES
         IMPORTED_LOCATION ${SOCI_CORE_LIBRARY}
         INTERFACE_INCLUDE_DIRECTORIES ${SOCI_INCLUDE_DIR})
+    if(TAMRIVO_SANITIZE)
+        # The shared library keeps the type information of its inner classes to itself.
+        target_compile_options(SOCI::core INTERFACE -fno-sanitize=vptr)
+    endif()
     foreach(backend IN LISTS SOCI_FIND_COMPONENTS)
         add_library(SOCI::${backend} UNKNOWN IMPORTED)
         set_target_properties(SOCI::${backend} PROPERTIES

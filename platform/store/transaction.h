@@ -1,0 +1,35 @@
+#pragma once
+
+namespace Tamrivo
+{
+
+class Database;
+
+/// A piece of work on the store that happens whole or not at all: what was written since its
+/// beginning is taken back unless `Commit` has returned. Transactions may be nested on one store;
+/// an inner one that is taken back takes back its own writes alone, and what it has committed
+/// becomes durable with the outermost one.
+///
+/// Objects that were saved inside a transaction that is taken back keep the numbers they were
+/// given and must not be saved again.
+class Transaction
+{
+public:
+    /// The outermost transaction reserves the store for writing at once: it waits up to five
+    /// seconds for another writer, then raises `StoreError::Locked`. Raises `StoreError::ReadOnly`
+    /// for a read-only store.
+    explicit Transaction(Database& database);
+    ~Transaction();
+
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    /// Makes the writes durable. Raises a failure of the store; nothing is then stored.
+    void Commit();
+
+private:
+    Database& m_database;
+    bool m_open = true;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+namespace Tamrivo
+{
+
+/// Statuses that the program ends with.
+namespace ExitStatus
+{
+inline constexpr int Done = 0;
+inline constexpr int Failed = 1; ///< Refused or failed; the reason stands on standard error.
+inline constexpr int Usage = 2;  ///< The command line itself is wrong.
+} // namespace ExitStatus
+
+/// What the subcommands share.
+struct Context
+{
+    std::istream& In;
+    std::ostream& Out;
+    std::ostream& Err;
+    /// Where the store is: `--store`, else `TAMRIVO_STORE`, else the user's own. In place before a
+    /// command runs.
+    std::string StoreLocation;
+    /// For a command that has done part of its work; a `Failure` that leaves a command is printed
+    /// on `Err` and means `ExitStatus::Failed` anyway.
+    int Status = ExitStatus::Done;
+};
+
+/// Adds a subcommand that knows `--store`. Its callback, set with `CLI::App::callback`, does the
+/// work once the whole command line has been read.
+/// @param examples lines for the end of `--help`, each a command and what it does
+CLI::App& AddCommand(CLI::App& program, Context& context, const std::string& name,
+                     const std::string& description, const std::string& examples);
+
+// The subcommands, one file each.
+
+void AddListCommand(CLI::App& program, Context& context);
+void AddShowCommand(CLI::App& program, Context& context);
+void AddImportCommand(CLI::App& program, Context& context);
+void AddExportCommand(CLI::App& program, Context& context);
+void AddDeleteCommand(CLI::App& program, Context& context);
+void AddReportCommand(CLI::App& program, Context& context);
+void AddShellCommand(CLI::App& program, Context& context);
+
+} // namespace Tamrivo

@@ -1,0 +1,66 @@
+#include "console/program.h"
+
+#include "console/commands/command.h"
+#include "core/error.h"
+#include "platform/framework/directories.h"
+
+#include <algorithm>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr void (*commands[])(CLI::App&, Context&) = {
+    AddShellCommand,
+};
+
+void AddStoreOption(CLI::App& app, Context& context)
+{
+    app.add_option("--store", context.StoreLocation,
+                   "A database file, or the address of a PostgreSQL database; by default "
+                   "$TAMRIVO_STORE or a file in the XDG data directory")
+        ->type_name("LOCATION");
+}
+
+} // namespace
+
+CLI::App& AddCommand(CLI::App& program, Context& context, const std::string& name,
+                     const std::string& description, const std::string& examples)
+{
+    CLI::App& command = *program.add_subcommand(name, description);
+    AddStoreOption(command, context);
+    command.footer("Examples:\n" + examples);
+    return command;
+}
+
+int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostream& out,
+               std::ostream& err)
+{
+    Context context{in, out, err, DefaultStoreLocation()};
+    CLI::App program("Defines STR loci and chooses those that an analysis uses.", "tamrivo");
+    program.set_version_flag("--version", "tamrivo " TAMRIVO_VERSION);
+    program.require_subcommand(1);
+    AddStoreOption(program, context);
+    for (const auto add : commands)
+        add(program, context);
+
+    try
+    {
+        std::ranges::reverse(arguments);
+        program.parse(std::move(arguments));
+        return context.Status;
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return program.exit(error, out, err) == 0 ? ExitStatus::Done : ExitStatus::Usage;
+    }
+    catch (...)
+    {
+        err << "tamrivo: " << CurrentError().Description << '\n';
+        return ExitStatus::Failed;
+    }
+}
+
+} // namespace Tamrivo

@@ -59,7 +59,7 @@ bool GroupsFit(const std::vector<std::size_t>& groups, std::string_view grouping
     for (std::size_t i = groups.size(); i-- > 0; rule = std::min(rule + 1, grouping.size() - 1))
     {
         const bool unlimited = grouping[rule] <= 0 || grouping[rule] == CHAR_MAX;
-        const auto size = static_cast<std::size_t>(grouping[rule]);
+        const std::size_t size = static_cast<unsigned char>(grouping[rule]);
         const bool leftmost = i == 0;
         const bool fits = leftmost ? groups[i] > 0 && (unlimited || groups[i] <= size)
                                    : !unlimited && groups[i] == size;

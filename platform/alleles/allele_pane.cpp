@@ -1,0 +1,235 @@
+#include "platform/alleles/allele_pane.h"
+
+#include "controls/user.h"
+#include "core/numbers.h"
+
+#include <algorithm>
+#include <compare>
+#include <iterator>
+#include <unordered_set>
+#include <utility>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// The alleles of a locus by size; also sizes that are no numbers have their place.
+AlleleRows RowsOf(Locus& locus)
+{
+    AlleleRows rows;
+    for (const auto& member : locus.Alleles().Members())
+        rows.push_back(As<Allele>(member));
+    std::ranges::stable_sort(
+        rows, [](double left, double right) { return std::weak_order(left, right) < 0; },
+        [](const std::shared_ptr<Allele>& allele) { return allele->AlleleReal1; });
+    return rows;
+}
+
+std::unordered_set<const BusinessObject*> SetOf(const AlleleRows& rows)
+{
+    std::unordered_set<const BusinessObject*> set;
+    for (const auto& row : rows)
+        set.insert(row.get());
+    return set;
+}
+
+AlleleRows Without(const AlleleRows& rows, const AlleleRows& others)
+{
+    AlleleRows rest;
+    std::ranges::remove_copy_if(rows, std::back_inserter(rest),
+                                [others = SetOf(others)](const std::shared_ptr<Allele>& row)
+                                { return others.contains(row.get()); });
+    return rest;
+}
+
+void RemoveFrom(ObjectList& list, const AlleleRows& rows)
+{
+    const auto removed = SetOf(rows);
+    for (std::int32_t index = removed.empty() ? 0 : list.Count(); index > 0; --index)
+    {
+        if (removed.contains(list.Item(index).get()))
+            list.Remove(index);
+    }
+}
+
+double ConfidenceInterval(const Locus& locus)
+{
+    return locus.UserSpecifiedConfInt == 1 ? locus.ConfInt : locus.SystemConfInt;
+}
+
+} // namespace
+
+void AllelePane::SetLocus(const std::shared_ptr<Locus>& oLocus)
+{
+    AlleleRows rows = oLocus ? RowsOf(*oLocus) : AlleleRows();
+    m_locus = oLocus;
+    m_done.clear();
+    m_undone.clear();
+    Show(std::move(rows));
+    Changed();
+    AnnounceValidity();
+}
+
+void AllelePane::RefreshAlleles()
+{
+    if (!m_locus)
+        return;
+    AlleleRows rows = RowsOf(*m_locus);
+    Change change{.ToRemove = Without(rows, m_rows), .ToAdd = Without(m_rows, rows)};
+    if (!change.ToRemove.empty() || !change.ToAdd.empty())
+    {
+        m_done.push_back(change);
+        m_undone.clear();
+    }
+    Show(std::move(rows));
+    Announce(change);
+}
+
+std::int32_t AllelePane::AddRow()
+{
+    RequireLocus();
+    const auto allele = CreateObject<Allele>(m_objects.Manager(), "Allele");
+    allele->SetAlleleOwner(m_locus);
+    static_cast<AlleleFields&>(*allele) = NextFields();
+    Do({.ToAdd = {allele}});
+    return NumberOf(*allele);
+}
+
+void AllelePane::RemoveRow(std::int32_t row)
+{
+    Do({.ToRemove = {RowAt(row)}});
+}
+
+std::int32_t AllelePane::EditCell(std::int32_t row, const AlleleColumn& column,
+                                  std::string_view text)
+{
+    const std::shared_ptr<Allele> allele = RowAt(row);
+    AlleleFields fields = *allele;
+    try
+    {
+        SetCellText(fields, column, text);
+    }
+    catch (const User::Refusal& refusal)
+    {
+        throw User::Refusal("Row " + std::to_string(row) + ", " + std::string(column.Title) + ": " +
+                            refusal.what());
+    }
+    if (fields == *allele)
+        return row;
+    fields.AlleleInt1 = AlleleOrigin::Edited;
+    Do({.Edited = allele, .Fields = fields});
+    return NumberOf(*allele);
+}
+
+void AllelePane::Undo()
+{
+    if (!CanUndo())
+        throw User::Refusal("The allele list has no change to undo");
+    Step(m_done, m_undone);
+}
+
+void AllelePane::Redo()
+{
+    if (!CanRedo())
+        throw User::Refusal("The allele list has no change to make again");
+    Step(m_undone, m_done);
+}
+
+const std::shared_ptr<Allele>& AllelePane::RowAt(std::int32_t row) const
+{
+    RequireLocus();
+    if (row < 1 || row > std::ssize(m_rows))
+        throw User::Refusal("The allele list has no row " + std::to_string(row) + "; it has " +
+                            std::to_string(m_rows.size()));
+    return m_rows[static_cast<std::size_t>(row - 1)];
+}
+
+std::int32_t AllelePane::NumberOf(const Allele& allele) const
+{
+    const auto found = std::ranges::find(m_rows, &allele, &std::shared_ptr<Allele>::get);
+    return static_cast<std::int32_t>(found - m_rows.begin()) + 1;
+}
+
+AlleleFields AllelePane::NextFields() const
+{
+    AlleleFields fields;
+    if (m_rows.empty())
+    {
+        const std::string& repeats = m_locus->RepeatsInShortestAllele;
+        fields.AlleleReal1 = m_locus->ShortestAlleleSize;
+        fields.AlleleReal4 = IsNumeric(repeats) ? ToDouble(repeats) : 0;
+    }
+    else
+    {
+        fields.AlleleReal1 = m_rows.back()->AlleleReal1 + m_locus->RepeatLength;
+        fields.AlleleReal4 = m_rows.back()->AlleleReal4 + 1;
+    }
+    fields.AlleleReal2 = fields.AlleleReal1 - ConfidenceInterval(*m_locus);
+    fields.AlleleReal3 = fields.AlleleReal1 + ConfidenceInterval(*m_locus);
+    fields.AlleleInt1 = AlleleOrigin::Edited;
+    return fields;
+}
+
+void AllelePane::RequireLocus() const
+{
+    if (!m_locus)
+        throw User::Refusal("The allele list shows no locus");
+}
+
+void AllelePane::Do(Change change)
+{
+    Make(change);
+    m_undone.clear();
+    m_done.push_back(change);
+    Announce(change);
+}
+
+void AllelePane::Step(std::vector<Change>& from, std::vector<Change>& to)
+{
+    Change change = from.back();
+    Make(change);
+    from.pop_back();
+    to.push_back(change);
+    Announce(change);
+}
+
+void AllelePane::Make(Change& change)
+{
+    ObjectList& alleles = m_locus->Alleles();
+    RemoveFrom(alleles, change.ToRemove);
+    for (const auto& row : change.ToAdd)
+        alleles.Add(row);
+    std::swap(change.ToRemove, change.ToAdd);
+    if (change.Edited)
+        std::swap(static_cast<AlleleFields&>(*change.Edited), change.Fields);
+    Show(RowsOf(*m_locus));
+}
+
+void AllelePane::Announce(const Change& change)
+{
+    Changed();
+    if (change.Edited)
+        AlleleEdited(*change.Edited);
+    if (!change.ToRemove.empty() || !change.ToAdd.empty())
+        ListChanged();
+    AnnounceValidity();
+}
+
+void AllelePane::Show(AlleleRows rows)
+{
+    m_rows = std::move(rows);
+    m_problems = AlleleProblems(m_rows);
+}
+
+void AllelePane::AnnounceValidity()
+{
+    bool isValid = IsValid();
+    if (isValid == m_announcedValid)
+        return;
+    m_announcedValid = isValid;
+    ValidityChanged(isValid);
+}
+
+} // namespace Tamrivo

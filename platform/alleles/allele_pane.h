@@ -1,0 +1,88 @@
+#pragma once
+
+#include "contracts/allele_pane.h"
+#include "contracts/object_manager.h"
+#include "platform/alleles/allele_columns.h"
+#include "platform/alleles/allele_problems.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// The allele pane as a real part: the rows of a locus, what a person does to them, and whether
+/// they make a valid list. It works on `Locus::Alleles` itself and shows the rows by size; rows of
+/// one size stand in the locus's order. Rows are counted from 1.
+///
+/// Events come once a change is complete: `Changed`, then `AlleleEdited` or `ListChanged`, then
+/// `ValidityChanged`. `ListChanged` is raised for whatever adds or removes rows of the locus on
+/// show, a generation included, and not for turning to another locus. `ValidityChanged` is raised
+/// when the answer differs from the last one; the pane starts empty and valid.
+class AllelePane : public PaneAlleleList
+{
+public:
+    explicit AllelePane(ObjectManagerGlobal& objects) : m_objects(objects) {}
+
+    /// Also forgets what could be undone. No locus: the pane is empty.
+    void SetLocus(const std::shared_ptr<Locus>& oLocus) override;
+    void RefreshAlleles() override;
+
+    const AlleleRows& Rows() const { return m_rows; }
+    /// Why the list is not valid; empty when it is.
+    const std::vector<AlleleProblem>& Problems() const { return m_problems; }
+    bool IsValid() const { return m_problems.empty(); }
+    bool CanUndo() const { return !m_done.empty(); }
+    bool CanRedo() const { return !m_undone.empty(); }
+
+    /// For the front end that shows the pane: rows, problems or what can be undone have changed.
+    Event<> Changed;
+
+    // What a person does, behind platform/alleles/pane_user.h. Each raises `User::Refusal` for what
+    // can't be done and marks the rows that it changes as `AlleleOrigin::Edited`.
+
+    /// Adds a row one repeat unit past the longest one, its bin as wide as the confidence interval
+    /// that counts, still without a name. Gives its number.
+    std::int32_t AddRow();
+    void RemoveRow(std::int32_t row);
+    /// Gives a cell another value. Gives the number of the row, which a new size may have moved.
+    std::int32_t EditCell(std::int32_t row, const AlleleColumn& column, std::string_view text);
+    /// Takes the last change back; a generation of the list counts as one.
+    void Undo();
+    /// Makes the change again that was taken back last.
+    void Redo();
+
+private:
+    /// A change that is still to be made. Making it turns it into its own inverse.
+    struct Change
+    {
+        AlleleRows ToRemove = {};
+        AlleleRows ToAdd = {};
+        std::shared_ptr<Allele> Edited = nullptr;
+        AlleleFields Fields = {}; ///< Of `Edited`.
+    };
+
+    const std::shared_ptr<Allele>& RowAt(std::int32_t row) const;
+    std::int32_t NumberOf(const Allele& allele) const;
+    AlleleFields NextFields() const;
+    void RequireLocus() const;
+
+    void Do(Change change);
+    void Make(Change& change);
+    void Step(std::vector<Change>& from, std::vector<Change>& to);
+    void Announce(const Change& change);
+    void Show(AlleleRows rows);
+    void AnnounceValidity();
+
+    ObjectManagerGlobal& m_objects;
+    std::shared_ptr<Locus> m_locus;
+    AlleleRows m_rows;
+    std::vector<AlleleProblem> m_problems;
+    bool m_announcedValid = true;
+    std::vector<Change> m_done;
+    std::vector<Change> m_undone;
+};
+
+} // namespace Tamrivo

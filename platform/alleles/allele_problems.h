@@ -1,0 +1,34 @@
+#pragma once
+
+#include "contracts/allele.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Tamrivo
+{
+
+using AlleleRows = std::vector<std::shared_ptr<Allele>>;
+
+/// What keeps a row of an allele list from being valid.
+struct AlleleProblem
+{
+    std::int32_t Row; ///< Counted from 1.
+    std::string Reason;
+
+    bool operator==(const AlleleProblem&) const = default;
+};
+
+/// All problems of a list, ordered by row; none when the list is valid, which means:
+///
+/// - every allele has a name that no other has; neither case nor blanks around it count;
+/// - its size lies inside its bin, bounds included;
+/// - no two bins overlap. Bins that merely touch don't, as the bins of neighbours do when the
+///   confidence interval is half the repeat unit. Two equal bins do, even without extent.
+///
+/// Takes n log n time for n rows.
+std::vector<AlleleProblem> AlleleProblems(const AlleleRows& rows);
+
+} // namespace Tamrivo

@@ -1,0 +1,50 @@
+#include "platform/alleles/pane_user.h"
+
+#include "controls/user.h"
+
+namespace Tamrivo::User
+{
+
+namespace
+{
+
+AllelePane& Reached(const AllelePaneControl& pane)
+{
+    RequireReach(pane);
+    return AllelesOf(pane);
+}
+
+} // namespace
+
+AllelePane& AllelesOf(const AllelePaneControl& pane)
+{
+    return dynamic_cast<AllelePane&>(pane.Object());
+}
+
+std::int32_t AddAllele(const AllelePaneControl& pane)
+{
+    return Reached(pane).AddRow();
+}
+
+void RemoveAllele(const AllelePaneControl& pane, std::int32_t row)
+{
+    Reached(pane).RemoveRow(row);
+}
+
+std::int32_t EditAllele(const AllelePaneControl& pane, std::int32_t row, const AlleleColumn& column,
+                        std::string_view text)
+{
+    return Reached(pane).EditCell(row, column, text);
+}
+
+void UndoAlleles(const AllelePaneControl& pane)
+{
+    Reached(pane).Undo();
+}
+
+void RedoAlleles(const AllelePaneControl& pane)
+{
+    Reached(pane).Redo();
+}
+
+} // namespace Tamrivo::User

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "controls/hosted_control.h"
+#include "platform/alleles/allele_pane.h"
+
+#include <cstdint>
+#include <string_view>
+
+/// What a person can do with the allele pane on a form, as controls/user.h is for the controls.
+/// Every operation raises `Refusal` when the pane can't be reached, is disabled or hidden, or when
+/// its own rules forbid it; failures of the store and of event handlers pass through.
+namespace Tamrivo::User
+{
+
+using AllelePaneControl = HostedControl<PaneAlleleList>;
+
+/// The pane behind the control, for reading.
+AllelePane& AllelesOf(const AllelePaneControl& pane);
+
+/// Adds a row. Gives its number, counted from 1.
+std::int32_t AddAllele(const AllelePaneControl& pane);
+void RemoveAllele(const AllelePaneControl& pane, std::int32_t row);
+/// Changes a cell. Gives the row's number afterwards, since a new size may move it.
+std::int32_t EditAllele(const AllelePaneControl& pane, std::int32_t row, const AlleleColumn& column,
+                        std::string_view text);
+void UndoAlleles(const AllelePaneControl& pane);
+void RedoAlleles(const AllelePaneControl& pane);
+
+} // namespace Tamrivo::User

@@ -1,6 +1,6 @@
 #include "core/text.h"
 
-#include "core/case_folding.h"
+#include "core/utf8.h"
 
 #include <algorithm>
 
@@ -9,44 +9,6 @@ namespace Tamrivo
 
 namespace
 {
-
-constexpr char32_t InvalidByteBase = 0xDC00;
-
-/// A code point and the number of bytes that it takes.
-struct Decoded
-{
-    char32_t Character;
-    std::size_t Length;
-};
-
-Decoded DecodeFirst(std::string_view text)
-{
-    const auto lead = static_cast<unsigned char>(text.front());
-    if (lead < 0x80)
-        return {lead, 1};
-
-    const std::size_t length = lead >= 0xF0 && lead < 0xF5   ? 4
-                               : lead >= 0xE0 && lead < 0xF0 ? 3
-                               : lead >= 0xC2 && lead < 0xE0 ? 2
-                                                             : 0;
-    const Decoded invalid{InvalidByteBase + lead, 1};
-    if (length == 0 || text.size() < length)
-        return invalid;
-
-    char32_t character = lead & (0x7FU >> length);
-    for (const char next : text.substr(1, length - 1))
-    {
-        const auto byte = static_cast<unsigned char>(next);
-        if ((byte & 0xC0U) != 0x80U)
-            return invalid;
-        character = (character << 6U) | (byte & 0x3FU);
-    }
-    constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    const bool surrogate = character >= 0xD800 && character < 0xE000;
-    if (character < smallest[length] || surrogate || character > 0x10FFFF)
-        return invalid;
-    return {character, length};
-}
 
 void AppendEncoded(std::string& text, char32_t character)
 {
@@ -79,14 +41,6 @@ void AppendEncoded(std::string& text, char32_t character)
     }
 }
 
-/// Takes the first character off the text, folded.
-char32_t TakeFolded(std::string_view& text)
-{
-    const auto [character, length] = DecodeFirst(text);
-    text.remove_prefix(length);
-    return FoldCase(character);
-}
-
 } // namespace
 
 std::string TrimRight(std::string_view text)
@@ -106,23 +60,6 @@ std::string FoldCase(std::string_view text)
     while (!text.empty())
         AppendEncoded(folded, TakeFolded(text));
     return folded;
-}
-
-int CompareNoCase(std::string_view left, std::string_view right)
-{
-    while (!left.empty() && !right.empty())
-    {
-        const char32_t leftCharacter = TakeFolded(left);
-        const char32_t rightCharacter = TakeFolded(right);
-        if (leftCharacter != rightCharacter)
-            return leftCharacter < rightCharacter ? -1 : 1;
-    }
-    return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
-}
-
-bool EqualNoCase(std::string_view left, std::string_view right)
-{
-    return CompareNoCase(left, right) == 0;
 }
 
 std::size_t CharacterCount(std::string_view text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/utf8.h"
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -21,11 +23,25 @@ std::string Trim(std::string_view text);
 /// texts differ in case alone exactly when their folded texts are equal.
 std::string FoldCase(std::string_view text);
 
-/// Whether the texts are equal apart from upper and lower case. Blanks count.
-bool EqualNoCase(std::string_view left, std::string_view right);
+/// Orders texts without minding case: negative, 0 or positive. Inline, since a program that loads
+/// the library at run time shares collections with it and can't link this.
+inline int CompareNoCase(std::string_view left, std::string_view right)
+{
+    while (!left.empty() && !right.empty())
+    {
+        const char32_t leftCharacter = TakeFolded(left);
+        const char32_t rightCharacter = TakeFolded(right);
+        if (leftCharacter != rightCharacter)
+            return leftCharacter < rightCharacter ? -1 : 1;
+    }
+    return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
+}
 
-/// Orders texts without minding case: negative, 0 or positive.
-int CompareNoCase(std::string_view left, std::string_view right);
+/// Whether the texts are equal apart from upper and lower case. Blanks count.
+inline bool EqualNoCase(std::string_view left, std::string_view right)
+{
+    return CompareNoCase(left, right) == 0;
+}
 
 /// Less-than without minding case, for ordered containers.
 struct LessNoCase

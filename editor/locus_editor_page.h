@@ -1,0 +1,133 @@
+#pragma once
+
+#include "core/guard.h"
+#include "core/reference.h"
+#include "editor/locus_editor_form.h"
+
+namespace Tamrivo
+{
+
+/// The page of the wizard "LocusEditor": edits one locus tag.
+///
+/// It opens on the `Locus` under `ParameterKey::Locus`, shows it in its fields and stores it when
+/// the framework raises Save. Alleles are generated and edited in a working copy, and reach the
+/// locus at Save. With a `BinningContext` under `ParameterKey::Binning` the page shares the locus
+/// with its host instead: it reads part of it again at each Activate, writes that part back at each
+/// Deactivate, and the pane works on the locus itself.
+///
+/// A handler bears the name of its object and event. Failures of page events go to the framework;
+/// those of control events end in the page, after a report.
+class LocusEditorPage final : public LocusEditorForm, public IPageAccess, private Guarded
+{
+public:
+    explicit LocusEditorPage(Host& host);
+    ~LocusEditorPage() override;
+
+    /// The page's side of the framework, created with the page.
+    std::shared_ptr<PageBase> Page() override;
+
+private:
+    // What the fields and the locus exchange, step by step; see editor/steps.h.
+    struct Steps;
+    struct NamingOption;
+
+    // Life cycle
+    void ConnectControls();
+    void ConnectPageBase();
+    void UserControl_Initialize();
+    void m_oPageBase_Initialize(const std::shared_ptr<PanePositions>& oLastPanePositions);
+    void m_oPageBase_Activate();
+    void m_oPageBase_Deactivate();
+    void m_oPageBase_Save();
+    void chkMakeCurrent_Click();
+    static void m_oLocus_IsCurrentChanged();
+    void HoldLocus(const std::shared_ptr<Locus>& oLocus);
+    void ShowMode();
+
+    // Fields and locus
+    void LoadLocusData();
+    /// Carries all fields into `oLocus`, without reading it.
+    void UpdateLocus(const Reference<Locus>& oLocus);
+    void ClearInformation();
+    void LoadProjects();
+    void LoadDefaults();
+
+    // Validation
+    void m_oPageBase_Validate(bool& bIsValid);
+
+    // Input rules
+    bool IsDecimalPresent(std::int16_t iKey, const std::string& sText);
+    void txtFragStart_KeyPress(std::int16_t& KeyAscii);
+    void txtFragEnd_KeyPress(std::int16_t& KeyAscii);
+    void txtRepeat_KeyPress(std::int16_t& KeyAscii);
+    void txtRepeatsInShortestAllele_KeyPress(std::int16_t& KeyAscii);
+    void txtShortestAlleleSize_KeyPress(std::int16_t& KeyAscii);
+    void txtStartAtAlphanumeric_KeyPress(std::int16_t& KeyAscii);
+    void txtStartAtNumeric_KeyPress(std::int16_t& KeyAscii);
+    void txtStutterWidth_KeyPress(std::int16_t& KeyAscii);
+    void txtRelStutter_KeyPress(std::int16_t& KeyAscii);
+    void txtMaxSpurHeight_KeyPress(std::int16_t& KeyAscii);
+    void txtConfInt_KeyPress(std::int16_t& KeyAscii);
+    void txtFragStart_LostFocus();
+    void txtFragEnd_LostFocus();
+    void txtRepeat_LostFocus();
+    void txtRepeatsInShortestAllele_LostFocus();
+    void txtShortestAlleleSize_LostFocus();
+    void txtStartAtAlphanumeric_LostFocus();
+    void txtStartAtNumeric_LostFocus();
+    void txtStutterWidth_LostFocus();
+    void txtRelStutter_LostFocus();
+    void txtMaxSpurHeight_LostFocus();
+    void txtPloidy_LostFocus();
+    void txtConfInt_LostFocus();
+    void txtStartAtNumeric_Change();
+
+    // Allele naming
+    void optAlleleNaming_Click(int Index);
+    void StartAtAlphanumeric(bool bEnabled);
+    void StartAtNumeric(bool bEnabled);
+    void udStartAtAlphanumeric_UpClick();
+    void udStartAtAlphanumeric_DownClick();
+    void txtLocusTag_Change();
+
+    // Allele list
+    void cmdGenAlleleList_Click();
+    void ctlPaneAlleleList_AlleleEdited(Allele& oAllele);
+    void ctlPaneAlleleList_ListChanged();
+    void ctlPaneAlleleList_ValidityChanged(bool& bIsValid);
+
+    // Detection groups
+    void DisplaySearchForStutter(bool bEnabled);
+    void DisplayDetectSpuriousPeaks(bool bEnabled);
+    void DisplayUserSpecified(bool bEnabled);
+    void chkSearchForStutter_Click();
+    void chkDetectSpuriousPeaks_Click();
+    void chkUserSpecified_Click();
+
+    // Save As
+    void cmdSaveAs_Click();
+
+    Utility& SharedUtility() const { return m_host.SharedUtility(); }
+    ObjectManager& Objects() const { return m_host.SharedObjectManagerGlobal().Manager(); }
+    /// The collection that the page shares with whoever started the wizard.
+    ParameterCollection& Parameters() const;
+    void ReplaceParameter(const std::string& key, const Parameter& parameter);
+    /// The locus whose alleles the pane shows and generation rebuilds.
+    const Reference<Locus>& WorkingLocus() const { return m_bBinning ? m_oLocus : m_oCopyOfLocus; }
+
+    Host& m_host;
+    Reference<PageBase> m_oPageBase;
+    Reference<Locus> m_oLocus;            ///< What Save stores.
+    Reference<Locus> m_oCopyOfLocus;      ///< Scratch object of the allele list.
+    Reference<BinningContext> m_oBinning; ///< In binning mode alone.
+    Reference<ObjectList> m_oCurrentLoci; ///< Snapshot against which tags are unique.
+    bool m_bBinning = false;
+    bool m_bNewLocus = false;        ///< The locus had no stored identity at opening.
+    bool m_bSavedAs = false;         ///< A Save As has led to another tag.
+    std::string m_sLoadedLocusTag;   ///< As loaded; empty for a new locus.
+    bool m_bAlleleListValid = false; ///< The pane's last word.
+    float m_sngSystemConfInt = 0;    ///< +/- nt
+    bool m_bDeactivated = false;
+};
+
+} // namespace Tamrivo

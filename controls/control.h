@@ -72,6 +72,9 @@ public:
     /// Whether the Tab key stops here while the control can be used.
     virtual bool IsTabStop() const { return false; }
 
+    /// Whether the control itself answers a person's actions while its form is disabled.
+    virtual bool AnswersInDisabledForm() const { return false; }
+
     /// Every property that can be read, by name.
     virtual Tamrivo::Properties Properties() const;
 

@@ -27,6 +27,19 @@ public:
     T* operator->() const { return m_object.get(); }
 
     bool IsTabStop() const override { return m_tabStop; }
+    /// The host's control has a disabled state of its own, which the form's logic sets.
+    bool AnswersInDisabledForm() const override { return true; }
+
+    Tamrivo::Properties Properties() const override
+    {
+        auto properties = Control::Properties();
+        if constexpr (requires { m_object->Properties(); })
+        {
+            const auto own = m_object->Properties();
+            properties.insert(properties.end(), own.begin(), own.end());
+        }
+        return properties;
+    }
 
 private:
     std::shared_ptr<T> m_object;

@@ -118,7 +118,7 @@ std::optional<std::string> Obstacle(const Control& control)
         container = &outer->Parent();
     }
     const auto& form = dynamic_cast<const UserControl&>(*container);
-    if (!form.Enabled())
+    if (!form.Enabled() && !control.AnswersInDisabledForm())
         return control.Name() + " is in " + std::string(form.Name()) + ", which is disabled";
     return std::nullopt;
 }

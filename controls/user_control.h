@@ -29,7 +29,8 @@ public:
 
     UserControl& Form() override { return *this; }
 
-    /// False puts every control of the form out of a person's reach.
+    /// False puts the controls of the form out of a person's reach, apart from those that answer in
+    /// a disabled form themselves.
     virtual bool Enabled() const { return true; }
 
     /// All controls, in the order of their declaration.

@@ -23,9 +23,9 @@ public:
     std::int32_t TagID(std::int32_t) const override { return m_tagID; }
     void SetTagName(const std::string& tag) override { m_tagName = tag; }
 
-    /// Finds the tag, without minding case or trailing blanks. Gives `LoadResult::NoConnection` when
-    /// the store is gone or locked, and the number of the `StoreError` for any other failure. Only a
-    /// result of `LoadResult::Loaded` changes `TagID`.
+    /// Finds the tag, without minding case or trailing blanks. Gives `LoadResult::NoConnection`
+    /// when the store is gone or locked, and the number of the `StoreError` for any other failure.
+    /// Only a result of `LoadResult::Loaded` changes `TagID`.
     std::int32_t Load() override;
 
 private:

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <soci/soci.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Tamrivo
+{
+
+/// What differs between the databases that a store may stand on. All else is portable SQL.
+class Backend
+{
+public:
+    virtual ~Backend() = default;
+
+    virtual void Connect(soci::session& session) = 0;
+    virtual bool IsReadOnly(soci::session& session) = 0;
+    /// Whether the connection still leads to the store that stands at its address.
+    virtual bool IsReachable(soci::session& session) = 0;
+    /// The statement that begins a transaction and reserves it for writing.
+    virtual std::string_view BeginStatement() const = 0;
+    /// The `StoreError` that a failed statement amounts to.
+    virtual std::int32_t ErrorNumberOf(const soci::soci_error& error) const = 0;
+};
+
+/// How long a statement waits for a lock that another program holds.
+inline constexpr int LockTimeoutSeconds = 5;
+
+/// The back end for an address, not connected yet.
+std::unique_ptr<Backend> BackendFor(const std::string& address);
+
+std::unique_ptr<Backend> MakeSqliteBackend(const std::string& path);
+std::unique_ptr<Backend> MakePostgresqlBackend(const std::string& address);
+
+} // namespace Tamrivo

@@ -1,0 +1,146 @@
+#include "platform/store/database.h"
+
+#include "platform/store/address.h"
+#include "platform/store/schema.h"
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// Why a statement failed, in words that follow the store's address.
+struct Reason
+{
+    std::int32_t Number;
+    std::string_view Text;
+};
+
+constexpr Reason Reasons[] = {
+    {StoreError::Unreachable, "can't be reached"},
+    {StoreError::Locked, "has been locked by another program for more than five seconds"},
+    {StoreError::ReadOnly, "is read-only"},
+    {StoreError::DiskFull, "has no room left on its disk"},
+    {StoreError::NotAStore, "is no store of this program, or is damaged"},
+    {StoreError::NameTaken, "already has another one of that name, apart from case and trailing "
+                            "blanks. Choose another name"},
+    {StoreError::Database, "refused a statement"},
+};
+
+std::string_view ReasonText(std::int32_t number)
+{
+    for (const Reason& reason : Reasons)
+    {
+        if (reason.Number == number)
+            return reason.Text;
+    }
+    return Reasons[std::size(Reasons) - 1].Text;
+}
+
+} // namespace
+
+std::unique_ptr<Backend> BackendFor(const std::string& address)
+{
+    return IsPostgresqlAddress(address) ? MakePostgresqlBackend(address)
+                                        : MakeSqliteBackend(SqlitePath(address));
+}
+
+Database::Database(const std::string& address) : m_address(address), m_backend(BackendFor(address))
+{
+    const std::string consequence = "Nothing was opened";
+    try
+    {
+        m_backend->Connect(m_session);
+        m_readOnly = m_backend->IsReadOnly(m_session);
+    }
+    catch (const soci::soci_error& error)
+    {
+        RaiseFailure(consequence, error);
+    }
+    Run(consequence, [&](soci::session& session) { MigrateSchema(*this, session, SchemaSteps); });
+}
+
+std::int32_t Database::NextNumber()
+{
+    std::int32_t number = 0;
+    m_session << "UPDATE LastNumber SET Number = Number + 1";
+    m_session << "SELECT Number FROM LastNumber", soci::into(number);
+    return number;
+}
+
+void Database::Begin()
+{
+    if (m_depth == 0)
+    {
+        m_session << m_backend->BeginStatement();
+        m_undone = false;
+    }
+    else if (m_undone)
+    {
+        throw Failure(StoreError::Database, "Store",
+                      "Nothing more is stored: the transaction has been taken back");
+    }
+    else
+    {
+        m_session << "SAVEPOINT Level" << m_depth;
+    }
+    ++m_depth;
+}
+
+void Database::Commit()
+{
+    if (m_undone)
+        throw Failure(StoreError::Database, "Store",
+                      "Nothing was stored: the transaction has been taken back");
+    if (m_depth == 1)
+        m_session << "COMMIT";
+    else
+        m_session << "RELEASE SAVEPOINT Level" << m_depth - 1;
+    --m_depth;
+}
+
+void Database::RollBack() noexcept
+{
+    --m_depth;
+    try
+    {
+        if (m_depth == 0)
+        {
+            m_session << "ROLLBACK";
+        }
+        else
+        {
+            m_session << "ROLLBACK TO SAVEPOINT Level" << m_depth;
+            m_session << "RELEASE SAVEPOINT Level" << m_depth;
+        }
+    }
+    catch (const std::exception&)
+    {
+        // After a full disk or a lost connection the database has already taken back everything.
+        m_undone = true;
+    }
+}
+
+void Database::RequireReachable(const std::string& consequence)
+{
+    if (!m_backend->IsReachable(m_session))
+        RaiseFailure(consequence, StoreError::Unreachable,
+                     "its file was removed or replaced since it was opened");
+}
+
+void Database::RaiseFailure(const std::string& consequence, const soci::soci_error& error) const
+{
+    RaiseFailure(consequence, m_backend->ErrorNumberOf(error), error.get_error_message());
+}
+
+void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
+                            const std::string& message) const
+{
+    std::string description = consequence + ": the store \"" + m_address + "\" ";
+    description += ReasonText(number);
+    if (number != StoreError::NameTaken)
+        description += " (" + message + ")";
+    throw Failure(number, "Store", description);
+}
+
+} // namespace Tamrivo

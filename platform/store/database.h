@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/store/backend.h"
+#include "platform/store/store_failure.h"
+
+#include <soci/soci.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Tamrivo
+{
+
+/// One connection to the database that a store stands on.
+class Database
+{
+public:
+    /// Connects, makes the tables of a new store and brings older ones up to date.
+    explicit Database(const std::string& address);
+
+    const std::string& Address() const { return m_address; }
+    bool IsReadOnly() const { return m_readOnly; }
+
+    /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
+    /// the store that it amounts to, "CONSEQUENCE: REASON", where the consequence tells what is now
+    /// not done or not known, such as "The locus \"A\" is not stored".
+    template <class Statements>
+    decltype(auto) Run(const std::string& consequence, Statements&& statements)
+    {
+        try
+        {
+            RequireReachable(consequence);
+            return statements(m_session);
+        }
+        catch (const soci::soci_error& error)
+        {
+            RaiseFailure(consequence, error);
+        }
+    }
+
+    /// A number that no object of this store has had before. Only inside a transaction.
+    std::int32_t NextNumber();
+
+private:
+    friend class Transaction;
+    void Begin();
+    void Commit();
+    void RollBack() noexcept;
+
+    void RequireReachable(const std::string& consequence);
+    [[noreturn]] void RaiseFailure(const std::string& consequence,
+                                   const soci::soci_error& error) const;
+    [[noreturn]] void RaiseFailure(const std::string& consequence, std::int32_t number,
+                                   const std::string& message) const;
+
+    std::string m_address;
+    std::unique_ptr<Backend> m_backend;
+    soci::session m_session;
+    bool m_readOnly = false;
+    int m_depth = 0;       ///< Open transactions, one inside the other.
+    bool m_undone = false; ///< The outermost one was taken back while inner ones were open.
+};
+
+} // namespace Tamrivo

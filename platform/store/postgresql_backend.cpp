@@ -1,0 +1,76 @@
+#include "platform/store/backend.h"
+#include "platform/store/store_failure.h"
+
+#include <soci/postgresql/soci-postgresql.h>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// States of the SQL standard, or PostgreSQL's own, and what they amount to; a state of two
+/// characters stands for its whole class.
+struct ErrorState
+{
+    std::string_view State;
+    std::int32_t Number;
+};
+
+constexpr ErrorState ErrorStates[] = {
+    {"23505", StoreError::NameTaken}, {"55P03", StoreError::Locked},
+    {"40P01", StoreError::Locked},    {"25006", StoreError::ReadOnly},
+    {"42501", StoreError::ReadOnly},  {"53100", StoreError::DiskFull},
+    {"08", StoreError::Unreachable},  {"57", StoreError::Unreachable},
+    {"28", StoreError::Unreachable},  {"3D", StoreError::Unreachable},
+};
+
+class PostgresqlBackend : public Backend
+{
+public:
+    explicit PostgresqlBackend(std::string address) : m_address(std::move(address)) {}
+
+    void Connect(soci::session& session) override
+    {
+        session.open(*soci::factory_postgresql(), m_address);
+        session << "SET lock_timeout = '" << LockTimeoutSeconds << "s'";
+    }
+
+    bool IsReadOnly(soci::session& session) override
+    {
+        std::string readOnly;
+        session << "SHOW transaction_read_only", soci::into(readOnly);
+        return readOnly == "on";
+    }
+
+    bool IsReachable(soci::session&) override { return true; }
+    std::string_view BeginStatement() const override { return "BEGIN"; }
+
+    std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
+    {
+        if (const auto* postgresqlError = dynamic_cast<const soci::postgresql_soci_error*>(&error))
+        {
+            const std::string state = postgresqlError->sqlstate();
+            for (const ErrorState& known : ErrorStates)
+            {
+                if (state.starts_with(known.State))
+                    return known.Number;
+            }
+        }
+        return error.get_error_category() == soci::soci_error::connection_error
+                   ? StoreError::Unreachable
+                   : StoreError::Database;
+    }
+
+private:
+    std::string m_address;
+};
+
+} // namespace
+
+std::unique_ptr<Backend> MakePostgresqlBackend(const std::string& address)
+{
+    return std::make_unique<PostgresqlBackend>(address);
+}
+
+} // namespace Tamrivo

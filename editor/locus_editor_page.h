@@ -27,9 +27,14 @@ public:
     std::shared_ptr<PageBase> Page() override;
 
 private:
-    // What the fields and the locus exchange, step by step; see editor/steps.h.
+    // Tables of the steps by which fields and locus exchange their content; see editor/steps.h.
     struct Steps;
-    struct NamingOption;
+    struct Binning;
+    struct Binding;
+    struct Defaults;
+    struct Generation;
+    struct Naming;
+    struct Groups;
 
     // Life cycle
     void ConnectControls();
@@ -81,6 +86,9 @@ private:
     void txtPloidy_LostFocus();
     void txtConfInt_LostFocus();
     void txtStartAtNumeric_Change();
+    /// Keeps the shortest allele size from lying below the fragment range, and above it.
+    void RaiseShortestAlleleSize();
+    void LowerShortestAlleleSize();
 
     // Allele naming
     void optAlleleNaming_Click(int Index);
@@ -95,6 +103,7 @@ private:
     void ctlPaneAlleleList_AlleleEdited(Allele& oAllele);
     void ctlPaneAlleleList_ListChanged();
     void ctlPaneAlleleList_ValidityChanged(bool& bIsValid);
+    void NoteChangedAlleles();
 
     // Detection groups
     void DisplaySearchForStutter(bool bEnabled);
@@ -106,12 +115,15 @@ private:
 
     // Save As
     void cmdSaveAs_Click();
+    void CountNewTag();
 
     Utility& SharedUtility() const { return m_host.SharedUtility(); }
     ObjectManager& Objects() const { return m_host.SharedObjectManagerGlobal().Manager(); }
     /// The collection that the page shares with whoever started the wizard.
     ParameterCollection& Parameters() const;
-    void ReplaceParameter(const std::string& key, const Parameter& parameter);
+    void RemoveParameter(const char* key);
+    /// Whether a current locus has the tag, blanks at its end not counted.
+    bool TagIsCurrent(const std::string& sTag) const;
     /// The locus whose alleles the pane shows and generation rebuilds.
     const Reference<Locus>& WorkingLocus() const { return m_bBinning ? m_oLocus : m_oCopyOfLocus; }
 

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "core/numbers.h"
+#include "core/text.h"
+#include "editor/locus_editor_page.h"
+
+#include <functional>
+
+namespace Tamrivo
+{
+
+/// What a table of exchanges between fields and locus is made of. A row is one step; a table is
+/// walked from its first row to its last.
+struct LocusEditorPage::Steps
+{
+    using Page = LocusEditorPage;
+
+    /// Shows something of `m_oLocus`.
+    using Step = void (*)(Page& page);
+    /// Writes something of the fields into a locus.
+    using StoreStep = void (*)(Page& page, Locus& oLocus);
+
+    static const std::string& AsIs(const std::string& text) { return text; }
+
+    static void Write(TextField& field, const std::string& text) { field.SetText(text); }
+    static void Write(Label& label, const std::string& text) { label.SetCaption(text); }
+    static void Reset(TextField& field) { field.SetText(""); }
+    static void Reset(Label& label) { label.SetCaption(""); }
+    static void Reset(CheckBox& box) { box.SetValue(0); }
+
+    /// A property of `m_oLocus` becomes the text of a field or label.
+    template <auto Target, auto Property, auto Conversion>
+    static void Show(Page& page)
+    {
+        Write(page.*Target, Conversion(std::invoke(Property, *page.m_oLocus)));
+    }
+
+    /// A truth value of `m_oLocus` becomes the state of a check box.
+    template <auto Box, auto Property>
+    static void Tick(Page& page)
+    {
+        (page.*Box).SetValue((*page.m_oLocus).*Property ? 1 : 0);
+    }
+
+    /// A field's text is copied to another control.
+    template <auto Target, auto Source>
+    static void Copy(Page& page)
+    {
+        Write(page.*Target, (page.*Source).Text());
+    }
+
+    template <auto Target>
+    static void Blank(Page& page)
+    {
+        Reset(page.*Target);
+    }
+
+    /// A control's text becomes a property, through the property's setter if it has one.
+    template <auto Property, auto Source, auto Conversion>
+    static void Store(Page& page, Locus& oLocus)
+    {
+        if constexpr (std::is_member_function_pointer_v<decltype(Property)>)
+            (oLocus.*Property)(Conversion((page.*Source).Text()));
+        else
+            oLocus.*Property = Conversion((page.*Source).Text());
+    }
+
+    /// The state of a check box becomes a truth value.
+    template <auto Property, auto Box>
+    static void StoreTick(Page& page, Locus& oLocus)
+    {
+        oLocus.*Property = (page.*Box).Value() != 0;
+    }
+
+    template <auto Procedure>
+    static void Call(Page& page)
+    {
+        (page.*Procedure)();
+    }
+
+    static void ShowDye(Page& page)
+    {
+        page.cmbDye.SetText(page.cmbDye.List(page.m_oLocus->DyeIndex));
+    }
+    static void StoreDye(Page& page, Locus& oLocus) { oLocus.DyeIndex = page.cmbDye.ListIndex(); }
+
+    static void StoreUserSpecifiedConfInt(Page& page, Locus& oLocus)
+    {
+        oLocus.UserSpecifiedConfInt = page.chkUserSpecified.Value() == 1 ? 1 : 0;
+    }
+
+    /// Stores the interval if the field holds a number.
+    static void StoreConfInt(Page& page, Locus& oLocus)
+    {
+        if (IsNumeric(page.txtConfInt.Text()))
+            oLocus.ConfInt = ToDouble(page.txtConfInt.Text());
+    }
+
+    // Allele naming
+
+    /// Chooses the option of the convention. Raises "Invalid ID: " for an unknown convention.
+    static void ShowNaming(Page& page);
+    /// An empty first name becomes "A", on the locus itself.
+    static void CompleteStartAtAlphanumeric(Page& page);
+    static void ShowStartAtNumeric(Page& page);
+    /// Stores the chosen convention with the start that belongs to it.
+    static void StoreNaming(Page& page, Locus& oLocus);
+    /// Stores the chosen convention alone.
+    static void StoreNamingConvention(Page& page, Locus& oLocus);
+};
+
+} // namespace Tamrivo

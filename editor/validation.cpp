@@ -1,0 +1,90 @@
+#include "core/numbers.h"
+#include "core/text.h"
+#include "editor/locus_editor_page.h"
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr const char* TagRequired = "Locus Tag Name is required.";
+constexpr const char* TagNotUnique = "Locus Tag Name is not unique.";
+constexpr const char* RangeReversed =
+    "The Fragment Range From field must be greater than the Fragment Range To field.";
+constexpr const char* StartOutOfRange = "Must be an integer value between 1 and 10000.";
+constexpr std::int32_t LeastStart = 1;
+constexpr std::int32_t GreatestStart = 10000;
+
+void MarkFault(TextField& field, const char* why)
+{
+    field.SetBackColor(Color::Yellow);
+    field.SetToolTipText(why);
+}
+
+void ClearMark(TextField& field)
+{
+    field.SetBackColor(Color::WindowBackground);
+    field.SetToolTipText("");
+}
+
+} // namespace
+
+void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
+{
+    const auto fail = [&bIsValid](TextField& field, const char* why)
+    {
+        bIsValid = false;
+        MarkFault(field, why);
+    };
+
+    Propagating(
+        "m_oPageBase_Validate",
+        [&](Guard& run)
+        {
+            bIsValid = m_bAlleleListValid;
+            if (!m_bAlleleListValid)
+                return;
+
+            if (TrimRight(txtLocusTag.Text()).empty())
+            {
+                run([&] { fail(txtLocusTag, TagRequired); });
+            }
+            else
+            {
+                run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
+                const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
+                const bool bTagIsFree = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
+                if (bTagIsCurrent && bTagIsFree)
+                    run([&] { fail(txtLocusTag, TagNotUnique); });
+                else
+                    run([&] { txtLocusTag.SetToolTipText(""); });
+            }
+
+            if (IsNumeric(txtFragStart.Text()) && IsNumeric(txtFragEnd.Text()))
+            {
+                const bool bReversed = run(
+                    [&] { return ToInteger(txtFragStart.Text()) > ToInteger(txtFragEnd.Text()); });
+                for (TextField* field : {&txtFragStart, &txtFragEnd})
+                    run([&] { bReversed ? fail(*field, RangeReversed) : ClearMark(*field); });
+            }
+
+            if (optAlleleNaming.Item(2).Value())
+            {
+                const bool bInRange = run(
+                    [&]
+                    {
+                        return !Trim(txtStartAtNumeric.Text()).empty() &&
+                               SharedUtility().IsIntegerInRange(txtStartAtNumeric, LeastStart,
+                                                                GreatestStart);
+                    });
+                run(
+                    [&] {
+                        bInRange ? ClearMark(txtStartAtNumeric)
+                                 : fail(txtStartAtNumeric, StartOutOfRange);
+                    });
+            }
+        });
+}
+
+} // namespace Tamrivo

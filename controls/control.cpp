@@ -17,9 +17,14 @@ Control::Control(const Declaration& declaration)
     m_parent.Form().m_controls.push_back(this);
 }
 
+UserControl& Control::Form() const
+{
+    return m_parent.Form();
+}
+
 void Control::NotifyChanged()
 {
-    m_parent.Form().ControlChanged(*this);
+    Form().ControlChanged(*this);
 }
 
 Tamrivo::Properties Control::Properties() const

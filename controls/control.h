@@ -59,6 +59,8 @@ public:
     /// The name in the form, a member of an array with its index: "optAlleleNaming(1)".
     const std::string& Name() const { return m_name; }
     const Container& Parent() const { return m_parent; }
+    /// The form that the control belongs to.
+    UserControl& Form() const;
     int TabIndex() const { return m_tabIndex; }
     const Tamrivo::Place& Place() const { return m_place; }
     std::optional<int> Index() const { return m_index; }

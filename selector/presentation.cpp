@@ -1,6 +1,5 @@
-#include "selector/str_locus_tag_selector.h"
-
 #include "controls/screen.h"
+#include "selector/str_locus_tag_selector.h"
 
 #include <array>
 

@@ -148,6 +148,13 @@ std::size_t Press(TextField& field, char32_t character, Span selection)
     return edit.Replace(std::u32string_view(&effective, 1));
 }
 
+bool PressControlKey(TextField& field, std::int16_t code)
+{
+    RequireReach(field);
+    field.KeyPress(code);
+    return code != 0;
+}
+
 void Type(TextField& field, std::string_view text)
 {
     RequireReach(field);

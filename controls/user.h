@@ -53,6 +53,10 @@ inline constexpr std::int16_t Backspace = 8;
 /// selection or the character before it; other control keys do nothing. Gives the caret's place.
 std::size_t Press(TextField& field, char32_t character, Span selection = AtEnd);
 
+/// Presses a letter together with the control key: 1 for Ctrl+A to 26 for Ctrl+Z. Gives whether the
+/// field's filter lets the key through to its ordinary effect, which the front end brings about.
+bool PressControlKey(TextField& field, std::int16_t code);
+
 /// Types the characters one by one at the end of the field.
 void Type(TextField& field, std::string_view text);
 

@@ -1,0 +1,178 @@
+#include "desktop/forms/form_view.h"
+
+#include "controls/label.h"
+#include "controls/user_control.h"
+#include "desktop/forms/accessible_name.h"
+#include "desktop/text.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace Tamrivo
+{
+
+FormView::FormView(UserControl& form, const Actions& actions, const HostedViewFactory& hosted,
+                   QWidget* parent)
+    : QWidget(parent), m_form(form), m_layout(form)
+{
+    setObjectName(ToQString(form.Name()));
+    for (Control* control : form.Controls())
+    {
+        const Control* container = control->Parent().AsControl();
+        ControlView* outer = container != nullptr ? ViewOf(*container) : nullptr;
+        if (container != nullptr && outer == nullptr)
+            continue;
+        QWidget& place = outer != nullptr ? outer->PlaceFor(*control) : *this;
+        if (ControlView* view = NewControlView(*control, place, actions, hosted))
+            m_views[control] = view;
+    }
+    for (const auto& [control, view] : m_views)
+    {
+        NameControl(*control, *view);
+        view->Refresh();
+    }
+    SetTabOrder();
+    Fit();
+    m_form.ControlChanged = [this](Control& control)
+    {
+        if (ControlView* view = ViewOf(control))
+            view->Refresh();
+    };
+}
+
+FormView::~FormView()
+{
+    m_form.ControlChanged = nullptr;
+}
+
+ControlView* FormView::ViewOf(const Control& control) const
+{
+    const auto found = m_views.find(&control);
+    return found == m_views.end() ? nullptr : found->second;
+}
+
+void FormView::NameControl(const Control& control, ControlView& view) const
+{
+    QWidget& widget = view.Widget();
+    widget.setObjectName(ToQString(control.Name()));
+    if (dynamic_cast<const Label*>(&control) != nullptr)
+        return;
+    if (widget.accessibleName().isEmpty())
+        view.FocusWidget().setAccessibleName(ToQString(AccessibleName(control)));
+    const Label* label = LabelOf(control);
+    if (label != nullptr && control.IsTabStop() &&
+        label->Caption().find('&') != std::string::npos)
+        dynamic_cast<QLabel&>(ViewOf(*label)->Widget()).setBuddy(&view.FocusWidget());
+}
+
+void FormView::SetTabOrder()
+{
+    QWidget* last = nullptr;
+    for (const Control* control : m_form.FocusOrder())
+    {
+        ControlView* view = ViewOf(*control);
+        if (view == nullptr)
+            continue;
+        if (last != nullptr)
+            setTabOrder(last, &view->FocusWidget());
+        last = &view->FocusWidget();
+    }
+}
+
+void FormView::FocusFirst()
+{
+    for (const Control* control : m_form.FocusOrder())
+    {
+        ControlView* view = ViewOf(*control);
+        if (view != nullptr && view->FocusWidget().isEnabled() &&
+            view->FocusWidget().isVisibleTo(this))
+            return view->FocusWidget().setFocus(Qt::TabFocusReason);
+    }
+}
+
+void FormView::LeaveFocus(QWidget& to)
+{
+    QWidget* focus = window()->focusWidget();
+    if (focus != nullptr && isAncestorOf(focus))
+        to.setFocus(Qt::OtherFocusReason);
+}
+
+void FormView::Fit()
+{
+    ensurePolished();
+    m_layout.Fit([this](const Control& control) { return ViewOf(control); }, fontMetrics());
+    updateGeometry();
+}
+
+void FormView::Arrange()
+{
+    for (const auto& [control, view] : m_views)
+    {
+        QRect rect = m_layout.Rect(*control, *view, size());
+        const Control* container = control->Parent().AsControl();
+        if (container != nullptr)
+        {
+            // A container may hold its children in a widget further in, such as a tab's page.
+            ControlView& outer = *ViewOf(*container);
+            rect.translate(-outer.PlaceFor(*control).mapTo(&outer.Widget(), QPoint()));
+        }
+        view->Widget().setGeometry(rect);
+    }
+}
+
+void FormView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    {
+        Fit();
+        Arrange();
+    }
+}
+
+void FormView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    Arrange();
+}
+
+void FormView::showEvent(QShowEvent* event)
+{
+    // Pages of a tab strip have no place before it is laid out.
+    Fit();
+    Arrange();
+    QWidget::showEvent(event);
+}
+
+void FormView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F6)
+        FocusNextHosted();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void FormView::FocusNextHosted()
+{
+    // What the host brought along may be no stop of the Tab key, and must be in reach all the same.
+    QWidget* focus = window()->focusWidget();
+    bool isPast = false;
+    ControlView* first = nullptr;
+    for (const Control* control : m_form.Controls())
+    {
+        ControlView* view = ViewOf(*control);
+        if (view == nullptr || !view->CanGrow())
+            continue;
+        if (first == nullptr)
+            first = view;
+        if (isPast)
+            return view->FocusWidget().setFocus(Qt::ShortcutFocusReason);
+        isPast = focus != nullptr &&
+                 (&view->Widget() == focus || view->Widget().isAncestorOf(focus));
+    }
+    if (first != nullptr)
+        first->FocusWidget().setFocus(Qt::ShortcutFocusReason);
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,76 @@
+#include "component/class_object.h"
+
+#include "core/locale.h"
+
+#include <new>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// The result code of the exception being handled, which no caller of an interface may see.
+HRESULT Failed(const CreatableClass& created, Host& host)
+{
+    try
+    {
+        throw;
+    }
+    catch (const std::bad_alloc&)
+    {
+        return E_OUTOFMEMORY;
+    }
+    catch (...)
+    {
+        host.SharedUtility().ReportError(ApplicationTitle, created.Name, "CreateInstance",
+                                         CurrentError(), "", true);
+        return E_FAIL;
+    }
+}
+
+} // namespace
+
+HRESULT STDMETHODCALLTYPE ClassObject::CreateInstance(IUnknown* pUnkOuter, REFIID riid,
+                                                      void** ppvObject)
+{
+    if (!ppvObject)
+        return E_POINTER;
+    *ppvObject = nullptr;
+    if (pUnkOuter)
+        return CLASS_E_NOAGGREGATION;
+    Host* const host = TheModule().CurrentHost;
+    if (!host)
+        return E_NoHost;
+    try
+    {
+        IUnknown* const object = m_created.Create(*host);
+        const HRESULT result = object->QueryInterface(riid, ppvObject);
+        object->Release();
+        return result;
+    }
+    catch (...)
+    {
+        return Failed(m_created, *host);
+    }
+}
+
+HRESULT STDMETHODCALLTYPE ClassObject::LockServer(BOOL fLock)
+{
+    TheModule().InUse += fLock ? 1 : -1;
+    return S_OK;
+}
+
+HRESULT STDMETHODCALLTYPE ClassObject::SetHost(Host* host)
+{
+    TheModule().CurrentHost = host;
+    return S_OK;
+}
+
+HRESULT STDMETHODCALLTYPE ClassObject::SetTextLocale(const std::locale& locale)
+{
+    Tamrivo::SetTextLocale(locale);
+    return S_OK;
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,12 @@
+#include "component/module.h"
+
+namespace Tamrivo
+{
+
+Module& TheModule()
+{
+    static Module module;
+    return module;
+}
+
+} // namespace Tamrivo

@@ -59,6 +59,20 @@ double ConfidenceInterval(const Locus& locus)
     return locus.UserSpecifiedConfInt == 1 ? locus.ConfInt : locus.SystemConfInt;
 }
 
+void SetCell(AlleleFields& fields, std::int32_t row, const AlleleColumn& column,
+             std::string_view text)
+{
+    try
+    {
+        SetCellText(fields, column, text);
+    }
+    catch (const User::Refusal& refusal)
+    {
+        throw User::Refusal("Row " + std::to_string(row) + ", " + std::string(column.Title) + ": " +
+                            refusal.what());
+    }
+}
+
 } // namespace
 
 void AllelePane::SetLocus(const std::shared_ptr<Locus>& oLocus)
@@ -90,16 +104,17 @@ void AllelePane::RefreshAlleles()
 std::int32_t AllelePane::AddRow()
 {
     RequireLocus();
-    const auto allele = CreateObject<Allele>(m_objects.Manager(), "Allele");
-    allele->SetAlleleOwner(m_locus);
-    static_cast<AlleleFields&>(*allele) = NextFields();
+    const auto allele = NewAllele(NextFields(m_rows));
     Do({.ToAdd = {allele}});
     return NumberOf(*allele);
 }
 
-void AllelePane::RemoveRow(std::int32_t row)
+void AllelePane::RemoveRows(const std::vector<std::int32_t>& rows)
 {
-    Do({.ToRemove = {RowAt(row)}});
+    Change change;
+    for (const std::int32_t row : rows)
+        change.ToRemove.push_back(RowAt(row));
+    Do(std::move(change));
 }
 
 std::int32_t AllelePane::EditCell(std::int32_t row, const AlleleColumn& column,
@@ -107,20 +122,34 @@ std::int32_t AllelePane::EditCell(std::int32_t row, const AlleleColumn& column,
 {
     const std::shared_ptr<Allele> allele = RowAt(row);
     AlleleFields fields = *allele;
-    try
-    {
-        SetCellText(fields, column, text);
-    }
-    catch (const User::Refusal& refusal)
-    {
-        throw User::Refusal("Row " + std::to_string(row) + ", " + std::string(column.Title) + ": " +
-                            refusal.what());
-    }
+    SetCell(fields, row, column, text);
     if (fields == *allele)
         return row;
     fields.AlleleInt1 = AlleleOrigin::Edited;
     Do({.Edited = allele, .Fields = fields});
     return NumberOf(*allele);
+}
+
+void AllelePane::PasteCells(std::int32_t row, std::size_t column,
+                            const std::vector<std::vector<std::string>>& cells)
+{
+    RequireLocus();
+    Change change;
+    AlleleRows last = m_rows;
+    for (const auto& line : cells)
+    {
+        const bool isNew = row > std::ssize(m_rows);
+        AlleleFields fields = isNew ? NextFields(last) : AlleleFields(*RowAt(row));
+        for (std::size_t i = 0; i < line.size() && column + i < std::size(AlleleColumns); ++i)
+            SetCell(fields, row, AlleleColumns[column + i], line[i]);
+        fields.AlleleInt1 = AlleleOrigin::Edited;
+        if (!isNew)
+            change.ToRemove.push_back(RowAt(row));
+        change.ToAdd.push_back(NewAllele(fields));
+        last = {change.ToAdd.back()};
+        ++row;
+    }
+    Do(std::move(change));
 }
 
 void AllelePane::Undo()
@@ -152,10 +181,10 @@ std::int32_t AllelePane::NumberOf(const Allele& allele) const
     return static_cast<std::int32_t>(found - m_rows.begin()) + 1;
 }
 
-AlleleFields AllelePane::NextFields() const
+AlleleFields AllelePane::NextFields(const AlleleRows& after) const
 {
     AlleleFields fields;
-    if (m_rows.empty())
+    if (after.empty())
     {
         const std::string& repeats = m_locus->RepeatsInShortestAllele;
         fields.AlleleReal1 = m_locus->ShortestAlleleSize;
@@ -163,13 +192,21 @@ AlleleFields AllelePane::NextFields() const
     }
     else
     {
-        fields.AlleleReal1 = m_rows.back()->AlleleReal1 + m_locus->RepeatLength;
-        fields.AlleleReal4 = m_rows.back()->AlleleReal4 + 1;
+        fields.AlleleReal1 = after.back()->AlleleReal1 + m_locus->RepeatLength;
+        fields.AlleleReal4 = after.back()->AlleleReal4 + 1;
     }
     fields.AlleleReal2 = fields.AlleleReal1 - ConfidenceInterval(*m_locus);
     fields.AlleleReal3 = fields.AlleleReal1 + ConfidenceInterval(*m_locus);
     fields.AlleleInt1 = AlleleOrigin::Edited;
     return fields;
+}
+
+std::shared_ptr<Allele> AllelePane::NewAllele(const AlleleFields& fields) const
+{
+    auto allele = CreateObject<Allele>(m_objects.Manager(), "Allele");
+    allele->SetAlleleOwner(m_locus);
+    static_cast<AlleleFields&>(*allele) = fields;
+    return allele;
 }
 
 void AllelePane::RequireLocus() const

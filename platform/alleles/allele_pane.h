@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,6 +31,8 @@ public:
     void SetLocus(const std::shared_ptr<Locus>& oLocus) override;
     void RefreshAlleles() override;
 
+    /// None before the first `SetLocus`.
+    const std::shared_ptr<Locus>& ShownLocus() const { return m_locus; }
     const AlleleRows& Rows() const { return m_rows; }
     /// Why the list is not valid; empty when it is.
     const std::vector<AlleleProblem>& Problems() const { return m_problems; }
@@ -46,7 +49,14 @@ public:
     /// Adds a row one repeat unit past the longest one, its bin as wide as the confidence interval
     /// that counts, still without a name. Gives its number.
     std::int32_t AddRow();
-    void RemoveRow(std::int32_t row);
+    void RemoveRow(std::int32_t row) { RemoveRows({row}); }
+    /// Removes several rows in one step.
+    void RemoveRows(const std::vector<std::int32_t>& rows);
+    /// Enters a block of cells in one step, from a row and a column on (0-based, among
+    /// `AlleleColumns`). Rows that the list doesn't have yet are added, as by `AddRow`, and what
+    /// lies right of the last column is left out. Nothing is entered when a cell can't be.
+    void PasteCells(std::int32_t row, std::size_t column,
+                    const std::vector<std::vector<std::string>>& cells);
     /// Gives a cell another value. Gives the number of the row, which a new size may have moved.
     std::int32_t EditCell(std::int32_t row, const AlleleColumn& column, std::string_view text);
     /// Takes the last change back; a generation of the list counts as one.
@@ -66,7 +76,8 @@ private:
 
     const std::shared_ptr<Allele>& RowAt(std::int32_t row) const;
     std::int32_t NumberOf(const Allele& allele) const;
-    AlleleFields NextFields() const;
+    AlleleFields NextFields(const AlleleRows& after) const;
+    std::shared_ptr<Allele> NewAllele(const AlleleFields& fields) const;
     void RequireLocus() const;
 
     void Do(Change change);

@@ -81,41 +81,16 @@ private:
 
     void CheckBins()
     {
-        struct Bin
+        for (const auto& [row, other] : OverlappingBins(m_rows))
         {
-            double From;
-            double To;
-            std::size_t Position;
-        };
-        std::vector<Bin> bins;
-        for (std::size_t i = 0; i < m_rows.size(); ++i)
-        {
-            const Bin bin{m_rows[i]->AlleleReal2, m_rows[i]->AlleleReal3, i};
-            if (bin.From <= bin.To)
-                bins.push_back(bin);
-        }
-        std::ranges::sort(
-            bins, {}, [](const Bin& bin) { return std::tuple(bin.From, bin.To, bin.Position); });
-
-        // Of the bins that start further left, the one that reaches furthest right overlaps a bin
-        // if any of them does.
-        const Bin* reaching = nullptr;
-        for (const Bin& bin : bins)
-        {
-            const bool isSame = reaching && bin.From == reaching->From && bin.To == reaching->To;
-            if (reaching && (bin.From < reaching->To || isSame))
-            {
-                AddOverlap(bin.Position, reaching->Position);
-                AddOverlap(reaching->Position, bin.Position);
-            }
-            if (!reaching || bin.To >= reaching->To)
-                reaching = &bin;
+            AddOverlap(row, other);
+            AddOverlap(other, row);
         }
     }
 
-    void AddOverlap(std::size_t position, std::size_t other)
+    void AddOverlap(std::int32_t row, std::int32_t other)
     {
-        Add(position, "The bin overlaps that of row " + std::to_string(Row(other)));
+        m_problems.push_back({row, "The bin overlaps that of row " + std::to_string(other)});
     }
 
     const AlleleRows& m_rows;
@@ -123,6 +98,39 @@ private:
 };
 
 } // namespace
+
+std::vector<std::pair<std::int32_t, std::int32_t>> OverlappingBins(const AlleleRows& rows)
+{
+    struct Bin
+    {
+        double From;
+        double To;
+        std::int32_t Row;
+    };
+    std::vector<Bin> bins;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+    {
+        const Bin bin{rows[i]->AlleleReal2, rows[i]->AlleleReal3, static_cast<std::int32_t>(i) + 1};
+        if (bin.From <= bin.To)
+            bins.push_back(bin);
+    }
+    std::ranges::sort(bins, {},
+                      [](const Bin& bin) { return std::tuple(bin.From, bin.To, bin.Row); });
+
+    // Of the bins that start further left, the one that reaches furthest right overlaps a bin if
+    // any of them does.
+    std::vector<std::pair<std::int32_t, std::int32_t>> pairs;
+    const Bin* reaching = nullptr;
+    for (const Bin& bin : bins)
+    {
+        const bool isSame = reaching && bin.From == reaching->From && bin.To == reaching->To;
+        if (reaching && (bin.From < reaching->To || isSame))
+            pairs.emplace_back(bin.Row, reaching->Row);
+        if (!reaching || bin.To >= reaching->To)
+            reaching = &bin;
+    }
+    return pairs;
+}
 
 std::vector<AlleleProblem> AlleleProblems(const AlleleRows& rows)
 {

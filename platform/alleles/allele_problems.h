@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Tamrivo
@@ -20,6 +21,9 @@ struct AlleleProblem
 
     bool operator==(const AlleleProblem&) const = default;
 };
+
+/// Pairs of rows whose bins overlap; a row that overlaps any other stands in at least one of them.
+std::vector<std::pair<std::int32_t, std::int32_t>> OverlappingBins(const AlleleRows& rows);
 
 /// All problems of a list, ordered by row; none when the list is valid, which means:
 ///

@@ -37,6 +37,17 @@ std::int32_t EditAllele(const AllelePaneControl& pane, std::int32_t row, const A
     return Reached(pane).EditCell(row, column, text);
 }
 
+void RemoveAlleles(const AllelePaneControl& pane, const std::vector<std::int32_t>& rows)
+{
+    Reached(pane).RemoveRows(rows);
+}
+
+void PasteAlleles(const AllelePaneControl& pane, std::int32_t row, std::size_t column,
+                  const std::vector<std::vector<std::string>>& cells)
+{
+    Reached(pane).PasteCells(row, column, cells);
+}
+
 void UndoAlleles(const AllelePaneControl& pane)
 {
     Reached(pane).Undo();

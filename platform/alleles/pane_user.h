@@ -23,6 +23,10 @@ void RemoveAllele(const AllelePaneControl& pane, std::int32_t row);
 /// Changes a cell. Gives the row's number afterwards, since a new size may move it.
 std::int32_t EditAllele(const AllelePaneControl& pane, std::int32_t row, const AlleleColumn& column,
                         std::string_view text);
+/// Remove rows, or enter a block of cells, in one step; see `AllelePane`.
+void RemoveAlleles(const AllelePaneControl& pane, const std::vector<std::int32_t>& rows);
+void PasteAlleles(const AllelePaneControl& pane, std::int32_t row, std::size_t column,
+                  const std::vector<std::vector<std::string>>& cells);
 void UndoAlleles(const AllelePaneControl& pane);
 void RedoAlleles(const AllelePaneControl& pane);
 

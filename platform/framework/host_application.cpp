@@ -1,0 +1,109 @@
+#include "platform/framework/host_application.h"
+
+#include "platform/alleles/allele_pane.h"
+#include "platform/alleles/shared_binning.h"
+#include "platform/framework/host_page_base.h"
+#include "platform/grid/grid_model.h"
+
+namespace Tamrivo
+{
+
+HostApplication::HostApplication(Tamrivo::Store& store, FrontEnd& frontEnd)
+    : m_store(store), m_frontEnd(frontEnd)
+{}
+
+WizardOutcome HostApplication::NewLocus(bool binning)
+{
+    return RunEditor(CreateObject<Locus>(m_store.Manager(), "Locus"), binning);
+}
+
+WizardOutcome HostApplication::EditLocus(const std::string& tag, bool binning)
+{
+    const auto locus = m_store.FindLocus(tag);
+    if (!locus)
+        throw Failure(StoreError::NotFound, "Host",
+                      "There is no locus \"" + tag + "\" in the store");
+    return RunEditor(locus, binning);
+}
+
+WizardOutcome HostApplication::RunEditor(const std::shared_ptr<Locus>& locus, bool binning)
+{
+    const auto parameters = std::make_shared<ParameterCollection>();
+    parameters->Add(locus, ParameterKey::Locus);
+    if (binning)
+        parameters->Add(std::make_shared<SharedBinning>(), ParameterKey::Binning);
+    const auto result = StartWizard(m_launcher, LocusEditorWizard, parameters);
+    return {!result->Cancelled(), parameters};
+}
+
+ReportContextTypes HostApplication::ContextTypes()
+{
+    ReportContextTypes types;
+    LocusService().GetReportContextTypes(types);
+    return types;
+}
+
+ReportContexts HostApplication::Contexts(std::int32_t typeID)
+{
+    ReportContexts contexts;
+    LocusService().GetReportContexts(typeID, contexts);
+    return contexts;
+}
+
+ServiceBase& HostApplication::LocusService()
+{
+    if (!m_service)
+        m_service = std::make_unique<Service>(*this);
+    return *static_cast<IServiceAccess&>(*m_service).Service();
+}
+
+void HostApplication::ShowFailure(const ErrorRecord& error)
+{
+    m_log.Write(error);
+    m_frontEnd.ShowFailure(error);
+}
+
+void HostApplication::AttachForm(UserControl& form)
+{
+    form.PopupMenuRequested = [this, &form](Menu& menu, int /*flags*/) {
+        m_frontEnd.ShowMenu(form, menu);
+    };
+}
+
+std::shared_ptr<PageBase> HostApplication::NewPageBase()
+{
+    return std::make_shared<HostPageBase>();
+}
+
+std::shared_ptr<ServiceBase> HostApplication::NewServiceBase()
+{
+    return std::make_shared<ServiceBase>();
+}
+
+std::shared_ptr<ReportContextType> HostApplication::NewReportContextType()
+{
+    return std::make_shared<HostReportContextType>();
+}
+
+std::shared_ptr<LocusTagEntry> HostApplication::NewLocusTagEntry()
+{
+    return m_parameterStore.NewEntry();
+}
+
+std::shared_ptr<PaneAlleleList> HostApplication::NewPaneAlleleList()
+{
+    return std::make_shared<AllelePane>(SharedObjectManagerGlobal());
+}
+
+std::shared_ptr<Gridocx> HostApplication::NewGrid()
+{
+    return std::make_shared<GridModel>();
+}
+
+MessageAnswer HostApplication::ShowMessage(const std::string& text, std::int32_t kind,
+                                           const std::string& title)
+{
+    return m_frontEnd.ShowMessage(text, kind, title);
+}
+
+} // namespace Tamrivo

@@ -2,7 +2,7 @@
 
 #include "console/commands/command.h"
 #include "core/error.h"
-#include "platform/framework/directories.h"
+#include "platform/store/address.h"
 
 #include <algorithm>
 
@@ -38,7 +38,7 @@ CLI::App& AddCommand(CLI::App& program, Context& context, const std::string& nam
 int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostream& out,
                std::ostream& err)
 {
-    Context context{in, out, err, DefaultStoreLocation()};
+    Context context{in, out, err, DefaultStoreAddress()};
     CLI::App program("Defines STR loci and chooses those that an analysis uses.", "tamrivo");
     program.set_version_flag("--version", "tamrivo " TAMRIVO_VERSION);
     program.require_subcommand(1);

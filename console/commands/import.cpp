@@ -1,0 +1,157 @@
+#include "platform/panels/import.h"
+
+#include "console/commands/command.h"
+#include "console/commands/stored_loci.h"
+#include "platform/panels/panel_file.h"
+#include "platform/store/store.h"
+
+#include <unistd.h>
+
+#include <chrono>
+#include <memory>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+struct Options
+{
+    std::string File;
+    ImportChoice Choice;
+    bool Partial = false;
+};
+
+/// A line on the terminal that counts the loci of a long import.
+class ProgressLine
+{
+public:
+    explicit ProgressLine(std::ostream& err) : m_err(err) {}
+
+    void Show(std::size_t done, std::size_t total)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (!m_isTerminal || now < m_next)
+            return;
+        m_next = now + std::chrono::milliseconds(200);
+        m_isShown = true;
+        m_err << "\rImporting: " << done << " of " << total << " loci" << std::flush;
+    }
+
+    ~ProgressLine()
+    {
+        if (m_isShown)
+            m_err << "\r\x1B[K" << std::flush;
+    }
+
+private:
+    std::ostream& m_err;
+    bool m_isTerminal = isatty(STDERR_FILENO) == 1;
+    bool m_isShown = false;
+    std::chrono::steady_clock::time_point m_next =
+        std::chrono::steady_clock::now() + std::chrono::seconds(1);
+};
+
+/// Prints what is wrong with the table. Gives whether anything is.
+bool ReportComplaints(Context& context, const std::string& file, const PanelReading& reading)
+{
+    for (const PanelComplaint& complaint : reading.Complaints)
+        context.Err << file << ", " << complaint.Text() << '\n';
+    if (reading.Complaints.size() >= MaxPanelComplaints)
+        context.Err << file << ": the rest of the table has not been read.\n";
+    return !reading.Complaints.empty();
+}
+
+/// Prints what can't come in. Gives the number of loci.
+std::size_t ReportObstacles(Context& context, const std::string& file, const ImportPlan& plan)
+{
+    for (const PlannedLocus& locus : plan.Loci)
+    {
+        for (const std::string& obstacle : locus.Obstacles)
+            context.Err << file << ", " << locus.Place() << ": " << obstacle << ".\n";
+    }
+    return plan.Count(ImportFate::LeftOut);
+}
+
+[[noreturn]] void RefuseImport(const std::string& why)
+{
+    throw Failure(ErrorNumber::InvalidArgument, "Import", "Nothing was imported: " + why);
+}
+
+void ReportResult(Context& context, const Options& options, const ImportPlan& plan)
+{
+    for (const PlannedLocus& locus : plan.Loci)
+    {
+        if (locus.Fate == ImportFate::New && locus.IsRenamed())
+            context.Out << locus.Place() << " is stored under the tag \"" << locus.Tag << "\".\n";
+    }
+    const std::size_t added = plan.Count(ImportFate::New);
+    const std::size_t present = plan.Count(ImportFate::Present);
+    const std::size_t leftOut = plan.Count(ImportFate::LeftOut);
+    if (plan.Loci.empty())
+        context.Out << "Nothing to import: " << options.File << " has no markers.\n";
+    else if (added == 0)
+        context.Out << "Nothing to import: the store has " << CountOfLoci(present)
+                    << " of this table already and is unchanged.\n";
+    else
+    {
+        context.Out << "Imported " << CountOfLoci(added) << " with "
+                    << CountOfAlleles(plan.NewAlleles()) << ".\n";
+        if (present > 0)
+            context.Out << "The store had " << CountOfLoci(present) << " already.\n";
+    }
+    if (leftOut > 0)
+        context.Out << "Left out " << CountOfLoci(leftOut) << ".\n";
+}
+
+void Import(Context& context, const Options& options)
+{
+    const PanelReading reading = ReadPanelFile(options.File);
+    if (ReportComplaints(context, options.File, reading))
+        RefuseImport(options.File + " has lines that can't be read");
+
+    Store store(context.StoreLocation);
+    const ImportPlan plan = PlanImport(reading.Markers, options.Choice, store);
+    const std::size_t leftOut = ReportObstacles(context, options.File, plan);
+    if (leftOut > 0 && !options.Partial)
+        RefuseImport(CountOfLoci(leftOut) + " can't come in; --partial imports the rest");
+    {
+        ProgressLine progress(context.Err);
+        CarryOutImport(plan, store, [&progress](std::size_t done, std::size_t total) {
+            progress.Show(done, total);
+        });
+    }
+    ReportResult(context, options, plan);
+}
+
+} // namespace
+
+void AddImportCommand(CLI::App& program, Context& context)
+{
+    CLI::App& command = AddCommand(
+        program, context, "import", "Make loci of the markers in a panel table.",
+        "  tamrivo import panels.tsv                       every panel in the file\n"
+        "  tamrivo import panels.tsv --panel Panel-17      one of them\n"
+        "  tamrivo import panels.tsv --project Casework    into a project, new or not\n"
+        "  tamrivo import panels.tsv --partial             without what can't come in\n");
+    const auto options = std::make_shared<Options>();
+    command.add_option("FILE", options->File, "A tab-separated table, one line an allele")
+        ->required()
+        ->type_name("");
+    command
+        .add_option("--panel", options->Choice.Panels,
+                    "Import the markers of this panel; may be given several times")
+        ->type_name("NAME")
+        ->expected(1)
+        ->take_all();
+    command
+        .add_option("--project", options->Choice.Project,
+                    "The project of the loci, created if there is none of that name")
+        ->type_name("NAME");
+    command.add_flag("--partial", options->Partial,
+                     "Leave out what can't come in, and import the rest");
+    command.callback([&context, options] { Import(context, *options); });
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/reports/report.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QPrinter;
+class QTableView;
+
+namespace Tamrivo
+{
+
+class Actions;
+class HostApplication;
+class ReportTableModel;
+
+/// The service's report contexts as a table, to be printed or saved as PDF, HTML or TSV. Rows are
+/// printed and saved in the order shown.
+class ReportsWindow : public QWidget
+{
+public:
+    /// Both must outlive the window.
+    ReportsWindow(HostApplication& host, const Actions& actions, QWidget* parent = nullptr);
+
+    /// Shows all contexts of the chosen kind, as the store has them now.
+    void ShowAll();
+    /// Shows the contexts of an analysis parameter's loci alone, in the parameter's order.
+    void ShowParameter(const std::string& name, std::vector<std::string> tags);
+
+    /// Asks where to, and saves the table in the format that the file's name ends in.
+    void SaveAs();
+    /// Saves the table: PDF, HTML or TSV by the end of the name. Raises
+    /// `ErrorNumber::InvalidArgument` for another end, and when the file can't be written.
+    void Save(const QString& path);
+    /// Asks for a printer and prints the table.
+    void Print();
+
+private:
+    struct Scope
+    {
+        std::string Parameter;
+        std::vector<std::string> Tags;
+    };
+
+    QWidget* MakeToolBar();
+    void Load();
+    /// Gives whether the person let it come to its end.
+    bool PrintOn(QPrinter& printer);
+
+    HostApplication& m_host;
+    const Actions& m_actions;
+    std::optional<Scope> m_scope;
+    ReportContextTypes m_types;
+
+    QComboBox* m_type;
+    QComboBox* m_which;
+    ReportTableModel* m_model;
+    QTableView* m_table;
+    QLabel* m_status;
+};
+
+} // namespace Tamrivo

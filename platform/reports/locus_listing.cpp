@@ -1,0 +1,101 @@
+#include "platform/reports/locus_listing.h"
+
+#include "platform/panels/dyes.h"
+
+#include <ctime>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+struct ListedField
+{
+    const char* Name;
+    const char* Title;
+    bool IsNumber;
+    Json (*Value)(const Locus&, Audience);
+};
+
+constexpr ListedField listedFields[] = {
+    {"LocusTag", "Tag", false,
+     [](const Locus& locus, Audience) -> Json { return locus.LocusTag(); }},
+    {"LocusName", "Name", false,
+     [](const Locus& locus, Audience) -> Json { return locus.LocusName; }},
+    {"ProjectName", "Project", false,
+     [](const Locus& locus, Audience) -> Json { return locus.ProjectName; }},
+    {"Color", "Dye", false,
+     [](const Locus& locus, Audience) -> Json { return DyeColor(locus.DyeIndex); }},
+    {"FragStart", "From (nt)", true,
+     [](const Locus& locus, Audience) -> Json { return locus.FragStart; }},
+    {"FragEnd", "To (nt)", true,
+     [](const Locus& locus, Audience) -> Json { return locus.FragEnd; }},
+    {"RepeatLength", "Repeat (nt)", true,
+     [](const Locus& locus, Audience) -> Json { return locus.RepeatLength; }},
+    {"DateLastModified", "Changed", false,
+     [](const Locus& locus, Audience audience) -> Json {
+         const Date date = locus.DateLastModified();
+         return audience == Audience::People ? DateText(date) : IsoDate(date);
+     }},
+};
+
+} // namespace
+
+Table LociTable(const Loci& loci, Audience audience)
+{
+    Table table;
+    for (const ListedField& field : listedFields)
+        table.Columns.push_back(
+            {audience == Audience::People ? field.Title : field.Name, field.IsNumber});
+    for (const auto& locus : loci)
+    {
+        auto& row = table.Rows.emplace_back();
+        for (const ListedField& field : listedFields)
+        {
+            const Json value = field.Value(*locus, audience);
+            row.push_back(value.is_string() ? value.get<std::string>() : value.dump());
+        }
+    }
+    return table;
+}
+
+Json LociJson(const Loci& loci)
+{
+    Json array = Json::array();
+    for (const auto& locus : loci)
+    {
+        Json& object = array.emplace_back(Json::object());
+        for (const ListedField& field : listedFields)
+            object[field.Name] = field.Value(*locus, Audience::Programs);
+    }
+    return array;
+}
+
+Loci LociOf(std::span<const std::shared_ptr<BusinessObject>> members)
+{
+    Loci loci;
+    for (const auto& member : members)
+        loci.push_back(As<Locus>(member));
+    return loci;
+}
+
+std::string IsoDate(const Date& date)
+{
+    if (!date)
+        return {};
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(*date);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    char text[32];
+    return {text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc)};
+}
+
+std::string JsonText(const Json& json)
+{
+    return json.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
+} // namespace Tamrivo

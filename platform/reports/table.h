@@ -1,0 +1,30 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// A table of texts, to be shown or written.
+struct Table
+{
+    struct Column
+    {
+        std::string Title;
+        bool IsNumber = false; ///< Stands at the right.
+    };
+
+    std::vector<Column> Columns;
+    std::vector<std::vector<std::string>> Rows; ///< A cell for each column.
+};
+
+/// For programs: tab-separated, the titles first, cells escaped as `EscapeCell` does.
+void PrintTsv(std::ostream& out, const Table& table);
+/// A page of its own with the tables under their headings.
+void PrintHtmlPage(std::ostream& out,
+                   const std::vector<std::pair<std::string, Table>>& headedTables);
+
+} // namespace Tamrivo

@@ -1,0 +1,111 @@
+#include "tests/fakes/fake_host.h"
+
+#include <gtest/gtest.h>
+
+namespace Tamrivo
+{
+namespace
+{
+
+const ErrorRecord Cause{13, "here", "it broke", "help", 7};
+
+/// A procedure of three steps, of which the second fails a number of times.
+class Procedure : private Guarded
+{
+public:
+    explicit Procedure(FailureReporter& reporter) : Guarded(reporter, "Sample") {}
+
+    void Run(Guard::Form form)
+    {
+        const auto body = [this](Guard& run) {
+            run([this] { Log += 'a'; });
+            run([this] { Fail(); });
+            run([this] { Log += 'c'; });
+        };
+        switch (form)
+        {
+        case Guard::Form::Propagating: return Propagating("Run", body);
+        case Guard::Form::Terminal: return Terminal("Run", body);
+        case Guard::Form::Reporting: return Reporting("Run", body);
+        }
+    }
+
+    std::string Log;
+    int Failures = 1;
+
+private:
+    void Fail()
+    {
+        Log += 'b';
+        if (Failures-- > 0)
+            throw Failure(Cause);
+    }
+};
+
+struct GuardCase
+{
+    Guard::Form Form;
+    bool Debug;
+    bool Stops;
+    int Failures;
+    const char* Log;
+    std::size_t Breaks;
+    bool Final;
+    bool Passes;
+};
+
+TEST(Guard, ReportsEndsAndRetriesByItsForm)
+{
+    using enum Guard::Form;
+    const GuardCase cases[] = {
+        {Propagating, false, false, 1, "ab", 0, false, true},
+        {Propagating, true, false, 1, "ab", 1, false, true},
+        {Propagating, true, true, 1, "abbc", 1, false, false},
+        {Propagating, true, true, 2, "abb", 1, false, true},
+        {Terminal, false, false, 1, "ab", 0, true, false},
+        {Terminal, true, false, 1, "ab", 1, true, false},
+        {Terminal, true, true, 1, "abbc", 1, true, false},
+        {Terminal, true, true, 2, "abb", 1, true, true},
+        {Reporting, false, false, 1, "ab", 0, true, false},
+        {Reporting, true, true, 1, "ab", 0, true, false},
+    };
+    for (const auto& expected : cases)
+    {
+        SCOPED_TRACE(&expected - cases);
+        Fakes::FakeUtility reporter;
+        std::size_t breaks = 0;
+        if (expected.Debug)
+            reporter.OnDebugBreak = [&] { return ++breaks, expected.Stops; };
+        Procedure procedure(reporter);
+        procedure.Failures = expected.Failures;
+
+        bool passed = false;
+        try
+        {
+            procedure.Run(expected.Form);
+        }
+        catch (const Failure& failure)
+        {
+            passed = true;
+            EXPECT_EQ(failure.Record(), Cause);
+        }
+        EXPECT_EQ(passed, expected.Passes);
+        EXPECT_EQ(procedure.Log, expected.Log);
+        EXPECT_EQ(breaks, expected.Breaks);
+        EXPECT_EQ(reporter.Reports, (std::vector<Fakes::Report>{{"Run", expected.Final}}));
+        EXPECT_EQ(reporter.Reports.front().Error, Cause);
+        EXPECT_EQ(reporter.Title + "." + reporter.ClassName, "Tamrivo.Sample");
+    }
+}
+
+TEST(Guard, AFailureOfItsOwnStepsGoesToTheCaller)
+{
+    Fakes::FakeUtility reporter;
+    reporter.OnDebugBreak = []() -> bool { throw Failure(99, "debugger", "lost"); };
+    Procedure procedure(reporter);
+    EXPECT_THROW(procedure.Run(Guard::Form::Terminal), Failure);
+    EXPECT_EQ(reporter.Reports.size(), 1U);
+}
+
+} // namespace
+} // namespace Tamrivo

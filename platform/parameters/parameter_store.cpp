@@ -121,9 +121,7 @@ void InsertTags(soci::session& session, std::int32_t parameterID, const LocusTag
 std::vector<std::string> ParameterStore::Names()
 {
     return m_store.Connection().Run(
-        "The analysis parameters are not listed",
-        [](soci::session& session)
-        {
+        "The analysis parameters are not listed", [](soci::session& session) {
             std::string name;
             return ReadAll(
                 name, (session.prepare << "SELECT Name FROM AnalysisParameter ORDER BY NameKey",
@@ -134,9 +132,7 @@ std::vector<std::string> ParameterStore::Names()
 std::vector<std::string> ParameterStore::NamesUsing(std::int32_t locusTagID)
 {
     return m_store.Connection().Run(
-        "The analysis parameters that use a locus are not listed",
-        [&](soci::session& session)
-        {
+        "The analysis parameters that use a locus are not listed", [&](soci::session& session) {
             std::string name;
             return ReadAll(name, (session.prepare
                                       << "SELECT Name FROM AnalysisParameter WHERE ParameterID IN "
@@ -148,27 +144,24 @@ std::vector<std::string> ParameterStore::NamesUsing(std::int32_t locusTagID)
 
 std::shared_ptr<StoredAnalysisParameter> ParameterStore::Find(const std::string& name)
 {
-    return m_store.Connection().Run(
-        NotDone(name, "opened"),
-        [&](soci::session& session)
-        {
-            const ParameterRow row = ReadRow(session, name);
-            std::shared_ptr<StoredAnalysisParameter> parameter;
-            if (row.ParameterID == 0)
-                return parameter;
-
-            parameter.reset(new StoredAnalysisParameter);
-            parameter->m_name = row.Name;
-            parameter->m_parameterID = row.ParameterID;
-            parameter->m_revision = row.Revision;
-            if (row.LocusTagListCount > 0)
-            {
-                auto& tagList = parameter->m_fragAnalysisParam.TagList.emplace();
-                for (const std::int32_t tagID : ReadTags(session, row.ParameterID))
-                    tagList.Add(std::make_shared<StoredTagEntry>(m_store, tagID));
-            }
+    return m_store.Connection().Run(NotDone(name, "opened"), [&](soci::session& session) {
+        const ParameterRow row = ReadRow(session, name);
+        std::shared_ptr<StoredAnalysisParameter> parameter;
+        if (row.ParameterID == 0)
             return parameter;
-        });
+
+        parameter.reset(new StoredAnalysisParameter);
+        parameter->m_name = row.Name;
+        parameter->m_parameterID = row.ParameterID;
+        parameter->m_revision = row.Revision;
+        if (row.LocusTagListCount > 0)
+        {
+            auto& tagList = parameter->m_fragAnalysisParam.TagList.emplace();
+            for (const std::int32_t tagID : ReadTags(session, row.ParameterID))
+                tagList.Add(std::make_shared<StoredTagEntry>(m_store, tagID));
+        }
+        return parameter;
+    });
 }
 
 std::shared_ptr<StoredAnalysisParameter> ParameterStore::Open(const std::string& name)
@@ -183,13 +176,11 @@ std::shared_ptr<StoredAnalysisParameter> ParameterStore::Create(const std::strin
                                                                 TagLists tagLists)
 {
     Database& database = m_store.Connection();
-    database.Run(NotDone(name, "created"),
-                 [&](soci::session& session)
-                 {
-                     Transaction transaction(database);
-                     InsertRow(database, session, name, tagLists == TagLists::OneEmpty ? 1 : 0);
-                     transaction.Commit();
-                 });
+    database.Run(NotDone(name, "created"), [&](soci::session& session) {
+        Transaction transaction(database);
+        InsertRow(database, session, name, tagLists == TagLists::OneEmpty ? 1 : 0);
+        transaction.Commit();
+    });
     return Open(name);
 }
 
@@ -197,79 +188,68 @@ void ParameterStore::Save(StoredAnalysisParameter& parameter)
 {
     Database& database = m_store.Connection();
     const std::string consequence = NotDone(parameter.Name(), "stored");
-    database.Run(
-        consequence,
-        [&](soci::session& session)
-        {
-            Transaction transaction(database);
-            soci::statement update =
-                (session.prepare << "UPDATE AnalysisParameter SET Revision = Revision + 1 "
-                                    "WHERE ParameterID = :ParameterID AND Revision = :Revision",
-                 soci::use(parameter.m_parameterID), soci::use(parameter.m_revision));
-            update.execute(true);
-            if (update.get_affected_rows() == 0)
-                throw Failure(StoreError::Conflict, "ParameterStore",
-                              consequence + ": someone else has changed or deleted it since it was "
-                                            "opened. The store is as they left it; open the "
-                                            "parameter anew");
-            RemoveTags(session, parameter.m_parameterID);
-            if (const auto& tagList = parameter.m_fragAnalysisParam.TagList)
-                InsertTags(session, parameter.m_parameterID, *tagList);
-            transaction.Commit();
-            ++parameter.m_revision;
-        });
+    database.Run(consequence, [&](soci::session& session) {
+        Transaction transaction(database);
+        soci::statement update =
+            (session.prepare << "UPDATE AnalysisParameter SET Revision = Revision + 1 "
+                                "WHERE ParameterID = :ParameterID AND Revision = :Revision",
+             soci::use(parameter.m_parameterID), soci::use(parameter.m_revision));
+        update.execute(true);
+        if (update.get_affected_rows() == 0)
+            throw Failure(StoreError::Conflict, "ParameterStore",
+                          consequence + ": someone else has changed or deleted it since it was "
+                                        "opened. The store is as they left it; open the "
+                                        "parameter anew");
+        RemoveTags(session, parameter.m_parameterID);
+        if (const auto& tagList = parameter.m_fragAnalysisParam.TagList)
+            InsertTags(session, parameter.m_parameterID, *tagList);
+        transaction.Commit();
+        ++parameter.m_revision;
+    });
 }
 
 void ParameterStore::Rename(const std::string& name, const std::string& newName)
 {
     Database& database = m_store.Connection();
     const std::string key = RequireKey(newName);
-    database.Run(
-        NotDone(name, "renamed to \"" + newName + "\""),
-        [&](soci::session& session)
-        {
-            Transaction transaction(database);
-            const ParameterRow row = RequireRow(session, name);
-            session << "UPDATE AnalysisParameter SET Revision = Revision + 1, Name = :Name, "
-                       "NameKey = :NameKey WHERE ParameterID = :ParameterID",
-                soci::use(newName), soci::use(key), soci::use(row.ParameterID);
-            transaction.Commit();
-        });
+    database.Run(NotDone(name, "renamed to \"" + newName + "\""), [&](soci::session& session) {
+        Transaction transaction(database);
+        const ParameterRow row = RequireRow(session, name);
+        session << "UPDATE AnalysisParameter SET Revision = Revision + 1, Name = :Name, "
+                   "NameKey = :NameKey WHERE ParameterID = :ParameterID",
+            soci::use(newName), soci::use(key), soci::use(row.ParameterID);
+        transaction.Commit();
+    });
 }
 
 void ParameterStore::Duplicate(const std::string& name, const std::string& copyName)
 {
     Database& database = m_store.Connection();
-    database.Run(
-        NotDone(name, "copied to \"" + copyName + "\""),
-        [&](soci::session& session)
-        {
-            Transaction transaction(database);
-            const ParameterRow row = RequireRow(session, name);
-            const std::int32_t copy = InsertRow(database, session, copyName, row.LocusTagListCount);
-            session << "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) "
-                       "SELECT "
-                    << copy
-                    << ", LocusTagID, Position FROM AnalysisParameterTag "
-                       "WHERE ParameterID = :ParameterID",
-                soci::use(row.ParameterID);
-            transaction.Commit();
-        });
+    database.Run(NotDone(name, "copied to \"" + copyName + "\""), [&](soci::session& session) {
+        Transaction transaction(database);
+        const ParameterRow row = RequireRow(session, name);
+        const std::int32_t copy = InsertRow(database, session, copyName, row.LocusTagListCount);
+        session << "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) "
+                   "SELECT "
+                << copy
+                << ", LocusTagID, Position FROM AnalysisParameterTag "
+                   "WHERE ParameterID = :ParameterID",
+            soci::use(row.ParameterID);
+        transaction.Commit();
+    });
 }
 
 void ParameterStore::Delete(const std::string& name)
 {
     Database& database = m_store.Connection();
-    database.Run(NotDone(name, "deleted"),
-                 [&](soci::session& session)
-                 {
-                     Transaction transaction(database);
-                     const ParameterRow row = RequireRow(session, name);
-                     RemoveTags(session, row.ParameterID);
-                     session << "DELETE FROM AnalysisParameter WHERE ParameterID = :ParameterID",
-                         soci::use(row.ParameterID);
-                     transaction.Commit();
-                 });
+    database.Run(NotDone(name, "deleted"), [&](soci::session& session) {
+        Transaction transaction(database);
+        const ParameterRow row = RequireRow(session, name);
+        RemoveTags(session, row.ParameterID);
+        session << "DELETE FROM AnalysisParameter WHERE ParameterID = :ParameterID",
+            soci::use(row.ParameterID);
+        transaction.Commit();
+    });
 }
 
 std::shared_ptr<LocusTagEntry> ParameterStore::NewEntry()

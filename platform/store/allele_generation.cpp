@@ -50,8 +50,7 @@ public:
         : m_convention(locus.AlleleNamingConventionTypeID),
           m_letters(locus.StartAtAlphanumeric),
           m_number(locus.StartAtNumeric)
-    {
-    }
+    {}
 
     std::string Next(std::int32_t size)
     {

@@ -43,24 +43,21 @@ std::vector<AlleleFields> ReadAlleles(Database& database, const StoredLocus& loc
 {
     const std::string consequence =
         "The alleles of the locus \"" + locus.LocusTag() + "\" are not loaded";
-    return database.Run(consequence,
-                        [&](soci::session& session)
-                        {
-                            std::vector<AlleleFields> alleles;
-                            std::int32_t locusID = locus.LocusID();
-                            AlleleRow row;
-                            soci::statement statement(session);
-                            BindInto(statement, row);
-                            statement.exchange(soci::use(locusID));
-                            Prepare(statement,
-                                    "SELECT " + ColumnNames(row) +
-                                        " FROM Allele WHERE LocusID = :LocusID ORDER BY Position");
-                            for (statement.execute(); statement.fetch();)
-                                alleles.push_back(row.Fields);
-                            // Asked afterwards, so that a change made in between is noticed.
-                            RequireUnchanged(session, locus, consequence);
-                            return alleles;
-                        });
+    return database.Run(consequence, [&](soci::session& session) {
+        std::vector<AlleleFields> alleles;
+        std::int32_t locusID = locus.LocusID();
+        AlleleRow row;
+        soci::statement statement(session);
+        BindInto(database, statement, row);
+        statement.exchange(soci::use(locusID));
+        Prepare(statement, "SELECT " + ColumnNames(row) +
+                               " FROM Allele WHERE LocusID = :LocusID ORDER BY Position");
+        for (statement.execute(); statement.fetch();)
+            alleles.push_back(row.Fields);
+        // Asked afterwards, so that a change made in between is noticed.
+        RequireUnchanged(session, locus, consequence);
+        return alleles;
+    });
 }
 
 struct AlleleWriter::Statements
@@ -79,10 +76,10 @@ struct AlleleWriter::Statements
 };
 
 AlleleWriter::AlleleWriter(Database& database)
-    : m_statements(database.Run("Nothing was stored", [](soci::session& session)
-                                { return std::make_unique<Statements>(session); }))
-{
-}
+    : m_statements(database.Run("Nothing was stored", [](soci::session& session) {
+          return std::make_unique<Statements>(session);
+      }))
+{}
 
 AlleleWriter::~AlleleWriter() = default;
 

@@ -6,9 +6,14 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 namespace Tamrivo
 {
+
+/// Where the values of a row's columns go, in the order of the columns.
+using RowTargets = std::vector<std::variant<std::int32_t*, long long*, double*, std::string*>>;
 
 /// What differs between the databases that a store may stand on. All else is portable SQL.
 class Backend
@@ -24,6 +29,9 @@ public:
     virtual std::string_view BeginStatement() const = 0;
     /// The `StoreError` that a failed statement amounts to.
     virtual std::int32_t ErrorNumberOf(const soci::soci_error& error) const = 0;
+
+    /// Makes each row that the statement fetches go to the targets.
+    virtual void BindInto(soci::statement& statement, const RowTargets& targets) const;
 };
 
 /// How long a statement waits for a lock that another program holds.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/store/database.h"
+
 #include <soci/soci.h>
 
 #include <string>
@@ -15,8 +17,9 @@ template <class Row>
 std::string ColumnNames(Row& row)
 {
     std::string names;
-    row.VisitColumns([&](std::string_view name, auto&)
-                     { names.append(names.empty() ? "" : ", ").append(name); });
+    row.VisitColumns([&](std::string_view name, auto&) {
+        names.append(names.empty() ? "" : ", ").append(name);
+    });
     return names;
 }
 
@@ -25,17 +28,20 @@ template <class Row>
 std::string InsertStatement(std::string_view table, Row& row)
 {
     std::string values;
-    row.VisitColumns([&](std::string_view name, auto&)
-                     { values.append(values.empty() ? ":" : ", :").append(name); });
+    row.VisitColumns([&](std::string_view name, auto&) {
+        values.append(values.empty() ? ":" : ", :").append(name);
+    });
     return "INSERT INTO " + std::string(table) + " (" + ColumnNames(row) + ") VALUES (" + values +
            ")";
 }
 
-/// Makes each fetched row of the statement's result fill the row.
+/// Makes each row that the statement fetches fill the row.
 template <class Row>
-void BindInto(soci::statement& statement, Row& row)
+void BindInto(const Database& database, soci::statement& statement, Row& row)
 {
-    row.VisitColumns([&](std::string_view, auto& value) { statement.exchange(soci::into(value)); });
+    RowTargets targets;
+    row.VisitColumns([&](std::string_view, auto& value) { targets.emplace_back(&value); });
+    database.BindInto(statement, targets);
 }
 
 /// Makes each execution of the statement use the row's values, in the order of its columns.

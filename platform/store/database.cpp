@@ -1,6 +1,5 @@
 #include "platform/store/database.h"
 
-#include "platform/store/address.h"
 #include "platform/store/schema.h"
 
 namespace Tamrivo
@@ -39,12 +38,6 @@ std::string_view ReasonText(std::int32_t number)
 
 } // namespace
 
-std::unique_ptr<Backend> BackendFor(const std::string& address)
-{
-    return IsPostgresqlAddress(address) ? MakePostgresqlBackend(address)
-                                        : MakeSqliteBackend(SqlitePath(address));
-}
-
 Database::Database(const std::string& address) : m_address(address), m_backend(BackendFor(address))
 {
     const std::string consequence = "Nothing was opened";
@@ -55,7 +48,7 @@ Database::Database(const std::string& address) : m_address(address), m_backend(B
     }
     catch (const soci::soci_error& error)
     {
-        RaiseFailure(consequence, error);
+        RaiseFailure(consequence, StoreError::Unreachable, error.get_error_message());
     }
     Run(consequence, [&](soci::session& session) { MigrateSchema(*this, session, SchemaSteps); });
 }
@@ -123,7 +116,7 @@ void Database::RollBack() noexcept
 
 void Database::RequireReachable(const std::string& consequence)
 {
-    if (!m_backend->IsReachable(m_session))
+    if (m_depth == 0 && !m_backend->IsReachable(m_session))
         RaiseFailure(consequence, StoreError::Unreachable,
                      "its file was removed or replaced since it was opened");
 }

@@ -40,6 +40,12 @@ public:
         }
     }
 
+    /// Makes each row that the statement fetches go to the targets.
+    void BindInto(soci::statement& statement, const RowTargets& targets) const
+    {
+        m_backend->BindInto(statement, targets);
+    }
+
     /// A number that no object of this store has had before. Only inside a transaction.
     std::int32_t NextNumber();
 

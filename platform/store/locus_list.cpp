@@ -50,9 +50,9 @@ void LocusList::Remove(std::int32_t index)
 std::shared_ptr<BusinessObject> LocusList::Find(const std::string& key) const
 {
     const auto [first, last] = m_index.equal_range(LookupKey(key));
-    const auto found = std::min_element(first, last,
-                                        [](const auto& left, const auto& right)
-                                        { return left.second.Rank < right.second.Rank; });
+    const auto found = std::min_element(first, last, [](const auto& left, const auto& right) {
+        return left.second.Rank < right.second.Rank;
+    });
     return found == last ? nullptr : found->second.Member->shared_from_this();
 }
 

@@ -69,8 +69,7 @@ struct LocusRow
         visit("DateLastModified", DateLastModified);
 
         auto nextSwitch = Switches.begin();
-        const auto visitField = [&](std::string_view name, auto member)
-        {
+        const auto visitField = [&](std::string_view name, auto member) {
             if constexpr (std::is_same_v<decltype(member), bool LocusFields::*>)
                 visit(name, (nextSwitch++)->Value);
             else

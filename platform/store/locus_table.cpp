@@ -17,24 +17,21 @@ template <class Value>
 std::vector<std::shared_ptr<StoredLocus>> ReadLoci(const std::shared_ptr<Database>& database,
                                                    const std::string& condition, Value value)
 {
-    return database->Run("The loci are not read",
-                         [&](soci::session& session)
-                         {
-                             std::vector<std::shared_ptr<StoredLocus>> loci;
-                             LocusRow row;
-                             soci::statement statement(session);
-                             BindInto(statement, row);
-                             statement.exchange(soci::use(value));
-                             Prepare(statement, "SELECT " + ColumnNames(row) +
-                                                    " FROM Locus WHERE " + condition +
-                                                    " ORDER BY LocusID");
-                             for (statement.execute(); statement.fetch();)
-                             {
-                                 row.SwitchesToFields();
-                                 loci.push_back(std::make_shared<StoredLocus>(database, row));
-                             }
-                             return loci;
-                         });
+    return database->Run("The loci are not read", [&](soci::session& session) {
+        std::vector<std::shared_ptr<StoredLocus>> loci;
+        LocusRow row;
+        soci::statement statement(session);
+        BindInto(*database, statement, row);
+        statement.exchange(soci::use(value));
+        Prepare(statement, "SELECT " + ColumnNames(row) + " FROM Locus WHERE " + condition +
+                               " ORDER BY LocusID");
+        for (statement.execute(); statement.fetch();)
+        {
+            row.SwitchesToFields();
+            loci.push_back(std::make_shared<StoredLocus>(database, row));
+        }
+        return loci;
+    });
 }
 
 // The second term lets the partial index be used, and tells that the empty tag names no locus.
@@ -44,12 +41,10 @@ constexpr const char* HasTagKey = "TagKey = :Value AND TagKey <> ''";
 std::string Assignments(LocusRow& row)
 {
     std::string assignments;
-    row.VisitColumns(
-        [&](std::string_view name, auto&)
-        {
-            assignments.append(assignments.empty() ? "" : ", ").append(name).append(" = :");
-            assignments.append(name);
-        });
+    row.VisitColumns([&](std::string_view name, auto&) {
+        assignments.append(assignments.empty() ? "" : ", ").append(name).append(" = :");
+        assignments.append(name);
+    });
     return assignments;
 }
 
@@ -74,32 +69,27 @@ std::shared_ptr<StoredLocus> ReadLocus(const std::shared_ptr<Database>& database
 
 std::int32_t FindLocusNumber(Database& database, const std::string& tag)
 {
-    return database.Run("The locus \"" + tag + "\" is not looked up",
-                        [&](soci::session& session)
-                        {
-                            const std::string key = LookupKey(tag);
-                            std::int32_t number = 0;
-                            session << "SELECT LocusID FROM Locus WHERE " << HasTagKey,
-                                soci::use(key), soci::into(number);
-                            return number;
-                        });
+    return database.Run("The locus \"" + tag + "\" is not looked up", [&](soci::session& session) {
+        const std::string key = LookupKey(tag);
+        std::int32_t number = 0;
+        session << "SELECT LocusID FROM Locus WHERE " << HasTagKey, soci::use(key),
+            soci::into(number);
+        return number;
+    });
 }
 
 void RemoveLocus(Database& database, const std::string& tag)
 {
     const std::string consequence = "The locus \"" + tag + "\" is not deleted";
-    database.Run(consequence,
-                 [&](soci::session& session)
-                 {
-                     Transaction transaction(database);
-                     const std::int32_t number = FindLocusNumber(database, tag);
-                     if (number == 0)
-                         throw Failure(StoreError::NotFound, "Store",
-                                       "There is no locus \"" + tag + "\"");
-                     session << "DELETE FROM Allele WHERE LocusID = :LocusID", soci::use(number);
-                     session << "DELETE FROM Locus WHERE LocusID = :LocusID", soci::use(number);
-                     transaction.Commit();
-                 });
+    database.Run(consequence, [&](soci::session& session) {
+        Transaction transaction(database);
+        const std::int32_t number = FindLocusNumber(database, tag);
+        if (number == 0)
+            throw Failure(StoreError::NotFound, "Store", "There is no locus \"" + tag + "\"");
+        session << "DELETE FROM Allele WHERE LocusID = :LocusID", soci::use(number);
+        session << "DELETE FROM Locus WHERE LocusID = :LocusID", soci::use(number);
+        transaction.Commit();
+    });
 }
 
 void RequireUnchanged(soci::session& session, const StoredLocus& locus,
@@ -138,30 +128,28 @@ struct LocusWriter::Statements
 
 LocusWriter::LocusWriter(Database& database)
     : m_database(database),
-      m_statements(database.Run("Nothing was stored", [](soci::session& session)
-                                { return std::make_unique<Statements>(session); })),
+      m_statements(database.Run(
+          "Nothing was stored",
+          [](soci::session& session) { return std::make_unique<Statements>(session); })),
       m_alleleWriter(database)
-{
-}
+{}
 
 LocusWriter::~LocusWriter() = default;
 
 void LocusWriter::Save(StoredLocus& locus)
 {
-    m_database.Run(NotStored(locus),
-                   [&](soci::session& session)
-                   {
-                       Transaction transaction(m_database);
-                       LocusIdentity identity = locus.Identity();
-                       if (identity.LocusID == 0)
-                           identity.LocusID = m_database.NextNumber();
-                       ++identity.Revision;
-                       identity.DateLastModified = std::chrono::floor<std::chrono::seconds>(
-                           std::chrono::system_clock::now());
-                       Write(session, locus, identity);
-                       transaction.Commit();
-                       locus.SetIdentity(identity);
-                   });
+    m_database.Run(NotStored(locus), [&](soci::session& session) {
+        Transaction transaction(m_database);
+        LocusIdentity identity = locus.Identity();
+        if (identity.LocusID == 0)
+            identity.LocusID = m_database.NextNumber();
+        ++identity.Revision;
+        identity.DateLastModified =
+            std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+        Write(session, locus, identity);
+        transaction.Commit();
+        locus.SetIdentity(identity);
+    });
 }
 
 void LocusWriter::Write(soci::session& session, const StoredLocus& locus,

@@ -36,8 +36,8 @@ void NamedObjectList::Remove(std::int32_t index)
 std::shared_ptr<BusinessObject> NamedObjectList::Find(const std::string& key) const
 {
     const std::string sought = LookupKey(key);
-    const auto found = std::ranges::find_if(m_members, [&](const auto& member)
-                                            { return LookupKey(member->Name()) == sought; });
+    const auto found = std::ranges::find_if(
+        m_members, [&](const auto& member) { return LookupKey(member->Name()) == sought; });
     return found == m_members.end() ? nullptr : *found;
 }
 

@@ -6,8 +6,7 @@
 #include "platform/store/locus_table.h"
 #include "platform/store/projects.h"
 #include "platform/store/stored_allele.h"
-
-#include <algorithm>
+#include "platform/store/tag_order.h"
 
 namespace Tamrivo
 {
@@ -30,10 +29,7 @@ std::shared_ptr<ObjectList> QueryLoci(const std::shared_ptr<Database>& database,
 {
     auto loci = ReadCurrentLoci(database);
     if (byName)
-    {
-        std::ranges::stable_sort(
-            loci, {}, [](const auto& locus) -> const std::string& { return locus->TagKey(); });
-    }
+        SortByTag(loci);
     return std::make_shared<LocusList>(loci);
 }
 
@@ -49,8 +45,7 @@ std::shared_ptr<ObjectList> QueryProjects(Database& database)
 
 StoreObjectManager::StoreObjectManager(std::shared_ptr<Database> database)
     : m_database(std::move(database))
-{
-}
+{}
 
 StoreObjectManager::~StoreObjectManager() = default;
 
@@ -92,8 +87,7 @@ void StoreObjectManager::Save(BusinessObject& object, bool)
 
 StoreObjectManagerGlobal::StoreObjectManagerGlobal(std::shared_ptr<Database> database)
     : m_database(std::move(database))
-{
-}
+{}
 
 ObjectManager& StoreObjectManagerGlobal::Manager()
 {

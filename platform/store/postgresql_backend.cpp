@@ -25,6 +25,35 @@ constexpr ErrorState ErrorStates[] = {
     {"28", StoreError::Unreachable},  {"3D", StoreError::Unreachable},
 };
 
+/// The address as the "keyword='value'" pairs that SOCI asks for.
+std::string ConnectionText(const std::string& address)
+{
+    char* error = nullptr;
+    const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
+        PQconninfoParse(address.c_str(), &error), &PQconninfoFree);
+    const std::unique_ptr<char, decltype(&PQfreemem)> errorOwner(error, &PQfreemem);
+    if (!options)
+        throw Failure(ErrorNumber::InvalidArgument, "Store",
+                      "\"" + address + "\" is no address of a PostgreSQL database: " +
+                          (error ? error : "out of memory"));
+
+    std::string text;
+    for (const PQconninfoOption* option = options.get(); option->keyword; ++option)
+    {
+        if (!option->val)
+            continue;
+        text.append(option->keyword).append("='");
+        for (const char* character = option->val; *character; ++character)
+        {
+            if (*character == '\'' || *character == '\\')
+                text += '\\';
+            text += *character;
+        }
+        text += "' ";
+    }
+    return text;
+}
+
 class PostgresqlBackend : public Backend
 {
 public:
@@ -32,7 +61,7 @@ public:
 
     void Connect(soci::session& session) override
     {
-        session.open(*soci::factory_postgresql(), m_address);
+        session.open(*soci::factory_postgresql(), ConnectionText(m_address));
         session << "SET lock_timeout = '" << LockTimeoutSeconds << "s'";
     }
 

@@ -16,8 +16,7 @@ class StoredProject : public Project
 public:
     StoredProject(std::int32_t projectID, std::string name)
         : m_projectID(projectID), m_name(std::move(name))
-    {
-    }
+    {}
 
     std::string Name() const override { return m_name; }
     std::int32_t ProjectID() const override { return m_projectID; }

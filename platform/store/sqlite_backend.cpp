@@ -1,7 +1,6 @@
 #include "platform/store/backend.h"
+#include "platform/store/sqlite_row.h"
 #include "platform/store/store_failure.h"
-
-#include <soci/sqlite3/soci-sqlite3.h>
 
 #include <filesystem>
 
@@ -86,6 +85,12 @@ public:
         case SQLITE_PERM: return StoreError::Unreachable;
         default: return StoreError::Database;
         }
+    }
+
+    void BindInto(soci::statement& statement, const RowTargets& targets) const override
+    {
+        // The statement takes the element over.
+        statement.exchange(soci::details::into_type_ptr(new SqliteRow(targets)));
     }
 
 private:

@@ -11,8 +11,7 @@ namespace Tamrivo
 Store::Store(const std::string& address)
     : m_database(std::make_shared<Database>(address)),
       m_managerGlobal(std::make_unique<StoreObjectManagerGlobal>(m_database))
-{
-}
+{}
 
 const std::string& Store::Address() const
 {

@@ -89,8 +89,9 @@ void StoredLocus::Observe(TagObserver& observer, std::uint32_t rank)
 
 void StoredLocus::StopObserving(const TagObserver& observer, std::uint32_t rank)
 {
-    std::erase_if(m_observations, [&](const Observation& observation)
-                  { return observation.Observer == &observer && observation.Rank == rank; });
+    std::erase_if(m_observations, [&](const Observation& observation) {
+        return observation.Observer == &observer && observation.Rank == rank;
+    });
 }
 
 void StoredLocus::SetAlleles(const std::vector<AlleleFields>& rows)

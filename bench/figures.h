@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+
+namespace Tamrivo::Bench
+{
+
+/// Something that is measured against a bound. `Measure` gives the figure, which is in order when
+/// it is at most the bound.
+struct Figure
+{
+    std::string_view Name; ///< By which it is run alone.
+    std::string_view What;
+    double Bound;
+    std::string_view Unit; ///< Empty: a ratio of two times.
+    double (*Measure)();
+};
+
+double QueryOfLoci();
+double QueryOfLociByName();
+double SaveOfLocus();
+double LookupOfTag();
+double MemoryOfLocus();
+double AlleleGeneration();
+
+/// All figures, in the order in which they are printed.
+inline constexpr Figure Figures[] = {
+    {"query", "CurrentLoci of 100,000 loci / bare scan of the same columns", 2, "", QueryOfLoci},
+    {"query_by_name", "CurrentLoci of 100,000 loci by name / bare scan", 2, "", QueryOfLociByName},
+    {"save", "Save of a locus with 30 alleles / bare transaction", 1.5, "", SaveOfLocus},
+    {"lookup", "Looking up a tag, 100,000 loci / 100 loci", 2, "", LookupOfTag},
+    {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
+    {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
+};
+
+} // namespace Tamrivo::Bench

@@ -55,8 +55,9 @@ void STRLocusTagSelector::EditLocus(Gridocx& oGrid, std::int32_t nRow)
         if (!EqualNoCase(sOldTag, TrimRight(oLocus->LocusTag())))
             AddLocusRow(oLocus);
         else
-            Rewrite(oGrid, [&]
-                    { oGrid.SetValueRowCol(nRow, 2, DateText(oLocus->DateLastModified()), 1); });
+            Rewrite(oGrid, [&] {
+                oGrid.SetValueRowCol(nRow, 2, DateText(oLocus->DateLastModified()), 1);
+            });
     }
     if (m_bRefreshNeeded)
         RefreshLocusTags();

@@ -24,30 +24,38 @@ void STRLocusTagSelector::ConnectEvents()
     gridAvailable->GotFocus = [this] { gridAvailable_GotFocus(); };
     gridAvailable->NoticeA = [this](auto&&...) { gridAvailable_NoticeA(); };
     gridAvailable->NoticeB = [this](auto&&...) { gridAvailable_NoticeB(); };
-    gridAvailable->SelectionStarted = [this](double dRow, auto&&...)
-    { gridAvailable_SelectionStarted(dRow); };
+    gridAvailable->SelectionStarted = [this](double dRow, auto&&...) {
+        gridAvailable_SelectionStarted(dRow);
+    };
     gridAvailable->SelectionChanged = [this](auto&&...) { gridAvailable_SelectionChanged(); };
-    gridAvailable->CellClicked = [this](double dRow, double dColumn, auto&&...)
-    { gridAvailable_CellClicked(dRow, dColumn); };
-    gridAvailable->CellDoubleClicked =
-        [this](double dRow, double, std::int64_t, GridEventObject*, GridEventResult& oResult)
-    { gridAvailable_CellDoubleClicked(dRow, oResult); };
-    gridAvailable->CellRightClicked = [this](double dRow, auto&&...)
-    { gridAvailable_CellRightClicked(dRow); };
+    gridAvailable->CellClicked = [this](double dRow, double dColumn, auto&&...) {
+        gridAvailable_CellClicked(dRow, dColumn);
+    };
+    gridAvailable->CellDoubleClicked = [this](double dRow, double, std::int64_t, GridEventObject*,
+                                              GridEventResult& oResult) {
+        gridAvailable_CellDoubleClicked(dRow, oResult);
+    };
+    gridAvailable->CellRightClicked = [this](double dRow, auto&&...) {
+        gridAvailable_CellRightClicked(dRow);
+    };
 
     gridSelected->GotFocus = [this] { gridSelected_GotFocus(); };
     gridSelected->NoticeA = [this](auto&&...) { gridSelected_NoticeA(); };
     gridSelected->NoticeB = [this](auto&&...) { gridSelected_NoticeB(); };
-    gridSelected->SelectionStarted = [this](double dRow, auto&&...)
-    { gridSelected_SelectionStarted(dRow); };
+    gridSelected->SelectionStarted = [this](double dRow, auto&&...) {
+        gridSelected_SelectionStarted(dRow);
+    };
     gridSelected->SelectionChanged = [this](auto&&...) { gridSelected_SelectionChanged(); };
-    gridSelected->CellClicked = [this](double dRow, double dColumn, auto&&...)
-    { gridSelected_CellClicked(dRow, dColumn); };
-    gridSelected->CellDoubleClicked =
-        [this](double dRow, double, std::int64_t, GridEventObject*, GridEventResult& oResult)
-    { gridSelected_CellDoubleClicked(dRow, oResult); };
-    gridSelected->CellRightClicked = [this](double dRow, auto&&...)
-    { gridSelected_CellRightClicked(dRow); };
+    gridSelected->CellClicked = [this](double dRow, double dColumn, auto&&...) {
+        gridSelected_CellClicked(dRow, dColumn);
+    };
+    gridSelected->CellDoubleClicked = [this](double dRow, double, std::int64_t, GridEventObject*,
+                                             GridEventResult& oResult) {
+        gridSelected_CellDoubleClicked(dRow, oResult);
+    };
+    gridSelected->CellRightClicked = [this](double dRow, auto&&...) {
+        gridSelected_CellRightClicked(dRow);
+    };
 }
 
 void STRLocusTagSelector::TurnTo(Side& side)

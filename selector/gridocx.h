@@ -148,7 +148,8 @@ public:
     }
 
     Event<> GotFocus;
-    /// What a person does with the grid that is neither a click nor a change of focus.
+    /// What a person does with the grid that is neither a click nor a change of focus, such as
+    /// adding to the highlight.
     Event<std::int32_t, std::int32_t, GridEventObject*> NoticeA;
     Event<std::int32_t, std::int32_t, GridEventObject*> NoticeB;
     /// A person begins to highlight; row and column of the cell where.

@@ -8,14 +8,12 @@ namespace Tamrivo
 
 void STRLocusTagSelector::ShowButtons()
 {
-    Propagating("ShowButtons",
-                [&](Guard& run)
-                {
-                    ShowMoveButtons(run, m_available);
-                    ShowMoveButtons(run, m_selected);
-                    if (m_dAvailableRow == 0 && m_dSelectedRow == 0)
-                        run([&] { cmdEditSTRLocus.SetEnabled(false); });
-                });
+    Propagating("ShowButtons", [&](Guard& run) {
+        ShowMoveButtons(run, m_available);
+        ShowMoveButtons(run, m_selected);
+        if (m_dAvailableRow == 0 && m_dSelectedRow == 0)
+            run([&] { cmdEditSTRLocus.SetEnabled(false); });
+    });
 }
 
 void STRLocusTagSelector::ShowMoveButtons(Guard& run, Side& side)
@@ -27,52 +25,46 @@ void STRLocusTagSelector::ShowMoveButtons(Guard& run, Side& side)
 
 void STRLocusTagSelector::UnHighlightRows(Gridocx& oGrid)
 {
-    Propagating("UnHighlightRows",
-                [&](Guard& run)
-                {
-                    const auto oRange = run([&] { return oGrid.CreateRange(); });
-                    run([&] { oRange->SetTable(); });
-                    run([&] { oGrid.SelectRange(oRange, false); });
-                    run([&] { oGrid.Param()->EnableSelection(GridSelection::Off); });
-                    run([&] { oGrid.Param()->EnableSelection(GridSelection::Full); });
-                });
+    Propagating("UnHighlightRows", [&](Guard& run) {
+        const auto oRange = run([&] { return oGrid.CreateRange(); });
+        run([&] { oRange->SetTable(); });
+        run([&] { oGrid.SelectRange(oRange, false); });
+        run([&] { oGrid.Param()->EnableSelection(GridSelection::Off); });
+        run([&] { oGrid.Param()->EnableSelection(GridSelection::Full); });
+    });
 }
 
 void STRLocusTagSelector::GridSort(Gridocx* oGrid, bool bDescending, bool bCaseFlag)
 {
-    Propagating("GridSort",
-                [&](Guard& run)
-                {
-                    Screen& oScreen = run([&]() -> Screen& { return m_host.SharedScreen(); });
-                    const std::int32_t lPointer = oScreen.MousePointer();
-                    run([&] { oScreen.SetMousePointer(Pointer::Hourglass); });
+    Propagating("GridSort", [&](Guard& run) {
+        Screen& oScreen = run([&]() -> Screen& { return m_host.SharedScreen(); });
+        const std::int32_t lPointer = oScreen.MousePointer();
+        run([&] { oScreen.SetMousePointer(Pointer::Hourglass); });
 
-                    const auto oRange = run(
-                        [&]
-                        {
-                            if (oGrid == nullptr)
-                                throw Failure(ErrorNumber::NoObject, "STRLocusTagSelector",
-                                              "The selector has not been initialized");
-                            return oGrid->CreateRange();
-                        });
-                    run([&] { oRange->SetTable(); });
+        const auto oRange = run([&] {
+            if (oGrid == nullptr)
+                throw Failure(ErrorNumber::NoObject, "STRLocusTagSelector",
+                              "The selector has not been initialized");
+            return oGrid->CreateRange();
+        });
+        run([&] { oRange->SetTable(); });
 
-                    // The array keeps one more place than there are keys.
-                    constexpr std::int16_t columns = 6;
-                    std::array<std::shared_ptr<GridSortInfo>, columns + 1> keys;
-                    for (std::int16_t column = 1; column <= columns; ++column)
-                    {
-                        const auto oKey = run([&] { return oGrid->CreateSortInfo(); });
-                        oKey->nRC = column;
-                        oKey->SortType = GridSortInfo::NaturalOrder;
-                        oKey->bCase = bCaseFlag;
-                        if (bDescending)
-                            oKey->SortOrder = GridSortInfo::Descending;
-                        keys[static_cast<std::size_t>(column - 1)] = oKey;
-                    }
-                    run([&] { oGrid->SortRows(oRange, 3, keys, 2); });
-                    run([&] { oScreen.SetMousePointer(lPointer); });
-                });
+        // The array keeps one more place than there are keys.
+        constexpr std::int16_t columns = 6;
+        std::array<std::shared_ptr<GridSortInfo>, columns + 1> keys;
+        for (std::int16_t column = 1; column <= columns; ++column)
+        {
+            const auto oKey = run([&] { return oGrid->CreateSortInfo(); });
+            oKey->nRC = column;
+            oKey->SortType = GridSortInfo::NaturalOrder;
+            oKey->bCase = bCaseFlag;
+            if (bDescending)
+                oKey->SortOrder = GridSortInfo::Descending;
+            keys[static_cast<std::size_t>(column - 1)] = oKey;
+        }
+        run([&] { oGrid->SortRows(oRange, 3, keys, 2); });
+        run([&] { oScreen.SetMousePointer(lPointer); });
+    });
 }
 
 void STRLocusTagSelector::SetEnabled(bool bValue)

@@ -17,8 +17,7 @@ class STRLocusTagSelectorForm : public UserControl
 protected:
     explicit STRLocusTagSelectorForm(Host& host)
         : UserControl("STRLocusTagSelector", 7920, 4395), m_host(host)
-    {
-    }
+    {}
     ~STRLocusTagSelectorForm() = default;
 
     Host& m_host;

@@ -10,7 +10,7 @@ namespace Tamrivo
 const std::vector<GridColumn>& ColumnsOfLayout(std::int32_t gridID)
 {
     static const std::map<std::int32_t, std::vector<GridColumn>> layouts = {
-        {21, {{"Locus Tag", ColumnKind::Tag}, {"Date Last Modified", ColumnKind::Date}}},
+        {21, {{"Locus Tag", ColumnKind::Tags}, {"Date Last Modified", ColumnKind::Dates}}},
     };
     const auto found = layouts.find(gridID);
     if (found == layouts.end())

@@ -10,14 +10,14 @@ namespace Tamrivo
 /// What a column's cells hold, which decides how they are sorted.
 enum class ColumnKind
 {
-    Tag,  ///< Text; numbers inside it count by their value.
-    Date, ///< What `DateText` writes.
+    Tags,  ///< Text; numbers inside it count by their value.
+    Dates, ///< What `DateText` writes.
 };
 
 struct GridColumn
 {
     std::string Header;
-    ColumnKind Kind = ColumnKind::Tag;
+    ColumnKind Kind = ColumnKind::Tags;
 
     bool operator==(const GridColumn&) const = default;
 };

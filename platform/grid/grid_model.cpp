@@ -53,15 +53,13 @@ void GridModel::SetColumns(const std::vector<GridColumn>& columns)
 {
     if (columns == m_columns)
         return;
-    m_updates.Rebuild(
-        [&]
-        {
-            m_rows.clear();
-            m_highlighted = 0;
-            m_anchor = 0;
-            m_sortedBy.reset();
-            m_columns = columns;
-        });
+    m_updates.Rebuild([&] {
+        m_rows.clear();
+        m_highlighted = 0;
+        m_anchor = 0;
+        m_sortedBy.reset();
+        m_columns = columns;
+    });
 }
 
 void GridModel::SetRowCount(double rows)
@@ -71,18 +69,18 @@ void GridModel::SetRowCount(double rows)
     const auto count = static_cast<std::size_t>(rows);
     if (count < m_rows.size())
     {
-        m_updates.Rebuild([&] { m_rows.resize(count); });
-        m_highlighted =
-            static_cast<std::int32_t>(std::ranges::count(m_rows, true, &GridRow::IsHighlighted));
-        m_anchor = 0;
+        m_updates.Rebuild([&] {
+            m_rows.resize(count);
+            m_highlighted = static_cast<std::int32_t>(
+                std::ranges::count(m_rows, true, &GridRow::IsHighlighted));
+            m_anchor = 0;
+        });
         return;
     }
-    m_updates.Append(
-        [&]
-        {
-            while (m_rows.size() < count)
-                m_rows.push_back({std::make_unique<std::string[]>(m_columns.size())});
-        });
+    m_updates.Append([&] {
+        while (m_rows.size() < count)
+            m_rows.push_back({std::make_unique<std::string[]>(m_columns.size())});
+    });
 }
 
 std::string GridModel::GetTextRowCol(double row, double column) const
@@ -108,14 +106,12 @@ void GridModel::SetValueRowCol(double row, double column, const std::string& tex
 
 void GridModel::ClearRows(std::int32_t)
 {
-    m_updates.Rebuild(
-        [&]
-        {
-            m_rows.clear();
-            m_highlighted = 0;
-            m_anchor = 0;
-            m_sortedBy.reset();
-        });
+    m_updates.Rebuild([&] {
+        m_rows.clear();
+        m_highlighted = 0;
+        m_anchor = 0;
+        m_sortedBy.reset();
+    });
 }
 
 void GridModel::SetBackgroundColor(std::int32_t color)

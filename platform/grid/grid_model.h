@@ -20,7 +20,7 @@ namespace Tamrivo
 /// Besides the operations that the selector uses it offers what the host's grid helper, a person's
 /// actions (platform/grid/grid_user.h) and a front end need. Row numbers there are integers counted
 /// from 1; a row or column that doesn't exist raises `ErrorNumber::InvalidArgument`.
-class GridModel final : public Gridocx
+class GridModel : public Gridocx
 {
 public:
     /// The column by which the rows were sorted last. Rows that came later stand at the end.

@@ -11,9 +11,11 @@ void GridModel::Sort(std::span<const RowSortKey> keys)
 {
     if (keys.empty())
         return;
-    m_updates.Rebuild([&] { Tamrivo::SortRows(m_rows, keys); });
-    m_anchor = 0;
-    m_sortedBy = {static_cast<std::int32_t>(keys.front().Cell) + 1, keys.front().Descending};
+    m_updates.Rebuild([&] {
+        Tamrivo::SortRows(m_rows, keys);
+        m_anchor = 0;
+        m_sortedBy = {static_cast<std::int32_t>(keys.front().Cell) + 1, keys.front().Descending};
+    });
 }
 
 void GridModel::SortByColumn(std::int32_t column)
@@ -87,25 +89,25 @@ void GridModel::TakeOver(std::span<GridRow> rows)
 {
     for (GridRow& row : rows)
         row.IsHighlighted = false;
-    m_updates.Append(
-        [&] {
-            m_rows.insert(m_rows.end(), std::move_iterator(rows.begin()),
-                          std::move_iterator(rows.end()));
-        });
+    m_updates.Append([&] {
+        m_rows.insert(m_rows.end(), std::move_iterator(rows.begin()),
+                      std::move_iterator(rows.end()));
+    });
 }
 
 void GridModel::MoveRow(std::int32_t row, GridModel& target)
 {
     RequireSameColumns(target);
     const auto place = m_rows.begin() + static_cast<std::ptrdiff_t>(RowPosition(row));
-    GridRow moved = std::move(*place);
-    m_updates.Remove(row, 1, [&] { m_rows.erase(place); });
-    m_anchor = 0;
+    GridRow moved;
+    m_updates.Remove(row, 1, [&] {
+        moved = std::move(*place);
+        m_rows.erase(place);
+        m_highlighted -= moved.IsHighlighted ? 1 : 0;
+        m_anchor = 0;
+    });
     if (moved.IsHighlighted)
-    {
-        --m_highlighted;
         m_updates.HighlightChanged();
-    }
     target.TakeOver({&moved, 1});
 }
 
@@ -122,15 +124,13 @@ std::int32_t GridModel::MoveHighlightedRows(GridModel& target)
     else
     {
         std::vector<GridRow> moved;
-        m_updates.Rebuild(
-            [&]
-            {
-                for (const std::int32_t row : highlighted)
-                    moved.push_back(std::move(m_rows[RowPosition(row)]));
-                std::erase_if(m_rows, [](const GridRow& row) { return !row.Cells; });
-            });
-        m_highlighted = 0;
-        m_anchor = 0;
+        m_updates.Rebuild([&] {
+            for (const std::int32_t row : highlighted)
+                moved.push_back(std::move(m_rows[RowPosition(row)]));
+            std::erase_if(m_rows, [](const GridRow& row) { return !row.Cells; });
+            m_highlighted = 0;
+            m_anchor = 0;
+        });
         target.TakeOver(moved);
     }
     const auto next = highlighted.back() + 1 - static_cast<std::int32_t>(highlighted.size());
@@ -141,9 +141,11 @@ void GridModel::MoveAllRows(GridModel& target)
 {
     RequireSameColumns(target);
     std::vector<GridRow> moved;
-    m_updates.Rebuild([&] { moved.swap(m_rows); });
-    m_highlighted = 0;
-    m_anchor = 0;
+    m_updates.Rebuild([&] {
+        moved.swap(m_rows);
+        m_highlighted = 0;
+        m_anchor = 0;
+    });
     target.TakeOver(moved);
 }
 

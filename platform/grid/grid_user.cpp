@@ -89,6 +89,7 @@ void Toggle(GridControl& grid, std::int32_t row)
     BringFocus(grid);
     if (!model.AllowsSelection())
         return;
+    grid->NoticeA(0, 0, nullptr);
     std::vector<std::int32_t> rows = model.HighlightedRows();
     auto place = std::ranges::lower_bound(rows, row);
     if (place == rows.end() || *place != row)
@@ -111,6 +112,7 @@ void ExtendTo(GridControl& grid, std::int32_t row)
         return Click(grid, row);
     if (!model.AllowsSelection())
         return;
+    grid->NoticeB(0, 0, nullptr);
     const std::int32_t anchor =
         model.Anchor() != 0 ? model.Anchor() : model.HighlightedRows().front();
     const auto [first, last] = std::minmax(anchor, row);

@@ -26,12 +26,12 @@ void GotFocus(GridControl& grid);
 /// CellClicked.
 void Click(GridControl& grid, std::int32_t row, std::int32_t column = 1);
 
-/// A click with the control key takes the row into the highlight or out of it: SelectionStarted
-/// with the row; or, when it was taken out, with the nearest one left, 0 for none, so that it
-/// always names a highlighted row; SelectionChanged.
+/// A click with the control key takes the row into the highlight or out of it: NoticeA;
+/// SelectionStarted with the row or, when it was taken out, with the nearest one left, 0 for none,
+/// so that it always names a highlighted row; SelectionChanged.
 void Toggle(GridControl& grid, std::int32_t row);
 
-/// A click with the shift key highlights the rows from the last one clicked to this one:
+/// A click with the shift key highlights the rows from the last one clicked to this one: NoticeB;
 /// SelectionChanged if that changes anything. With no row highlighted it is a click.
 void ExtendTo(GridControl& grid, std::int32_t row);
 

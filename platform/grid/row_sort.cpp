@@ -19,9 +19,9 @@ void SortRows(std::span<GridRow> rows, std::span<const RowSortKey> keys)
     for (GridRow& row : rows)
         keyed.emplace_back(SortKey(key.Kind, row.Cells[key.Cell], key.CaseCounts), std::move(row));
 
-    std::ranges::stable_sort(
-        keyed, [&key](const auto& left, const auto& right)
-        { return key.Descending ? right.first < left.first : left.first < right.first; });
+    std::ranges::stable_sort(keyed, [&key](const auto& left, const auto& right) {
+        return key.Descending ? right.first < left.first : left.first < right.first;
+    });
     std::ranges::transform(keyed, rows.begin(),
                            [](auto& entry) { return std::move(entry.second); });
 

@@ -21,7 +21,7 @@ struct GridRow
 struct RowSortKey
 {
     std::size_t Cell = 0; ///< Position in `GridRow::Cells`.
-    ColumnKind Kind = ColumnKind::Tag;
+    ColumnKind Kind = ColumnKind::Tags;
     bool CaseCounts = false;
     bool Descending = false;
 };

@@ -86,8 +86,8 @@ std::string SortKey(ColumnKind kind, std::string_view cell, bool caseCounts)
 {
     switch (kind)
     {
-    case ColumnKind::Tag: return TagKey(cell, caseCounts);
-    case ColumnKind::Date: return DateKey(cell);
+    case ColumnKind::Tags: return TagKey(cell, caseCounts);
+    case ColumnKind::Dates: return DateKey(cell);
     }
     return {};
 }

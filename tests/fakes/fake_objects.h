@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contracts/allele.h"
+#include "contracts/grid_layout.h"
 #include "contracts/object_manager.h"
 #include "contracts/project.h"
 #include "core/text.h"
@@ -139,6 +140,17 @@ private:
     std::int32_t m_id;
 };
 
+class FakeLayout : public Grid
+{
+public:
+    std::string Name() const override { return {}; }
+    std::int32_t GridID() const override { return m_gridID; }
+    void SetGridID(std::int32_t gridID) override { m_gridID = gridID; }
+
+private:
+    std::int32_t m_gridID = 0;
+};
+
 /// Answers queries from lists and keeps what is saved.
 class FakeObjectManager : public ObjectManager
 {
@@ -148,6 +160,8 @@ public:
         Before("Create " + std::string(key));
         if (key == "Allele")
             return std::make_shared<FakeAllele>();
+        if (key == "Grid")
+            return std::make_shared<FakeLayout>();
         return std::make_shared<FakeLocus>();
     }
     std::shared_ptr<ObjectList> Query(std::string_view name, std::string_view, std::string_view,

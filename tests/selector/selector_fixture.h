@@ -1,0 +1,58 @@
+#pragma once
+
+#include "tests/selector/selector_host.h"
+
+#include <gmock/gmock.h>
+
+namespace Tamrivo::Fakes
+{
+
+/// A selector over the loci A to E, of which D and E are selected.
+struct SelectorTest : testing::Test
+{
+    SelectorTest()
+    {
+        for (const char* tag : {"A", "B", "C", "D", "E"})
+            host.Store(tag);
+        Select({5, 4});
+        selector.PopupMenuRequested = [this](Menu& menu, int) {
+            menus.push_back(menu.Name());
+            if (MenuItem* item = std::exchange(pick, nullptr))
+                User::Click(*item);
+        };
+    }
+
+    void Select(std::initializer_list<std::int32_t> tagIDs)
+    {
+        parameter->Clear();
+        for (const std::int32_t tagID : tagIDs)
+        {
+            const auto entry = host.NewLocusTagEntry();
+            dynamic_cast<FakeEntry&>(*entry).Id = tagID;
+            parameter->Add(entry);
+        }
+    }
+    void Open() { selector.Initialize(parameter); }
+
+    /// The buttons that are enabled, in tab order.
+    std::string Buttons() const
+    {
+        std::string buttons;
+        for (const Control* control : selector.InTabOrder())
+        {
+            if (dynamic_cast<const CommandButton*>(control) != nullptr && control->Enabled())
+                buttons += control->Name().substr(3) + " ";
+        }
+        return buttons;
+    }
+
+    SelectorHost host;
+    std::shared_ptr<FakeParameter> parameter = std::make_shared<FakeParameter>();
+    STRLocusTagSelector selector{host};
+    User::GridControl& available = selector.gridAvailable;
+    User::GridControl& selected = selector.gridSelected;
+    std::vector<std::string> menus; ///< Menus that were opened.
+    MenuItem* pick = nullptr;       ///< What is picked in the next one.
+};
+
+} // namespace Tamrivo::Fakes

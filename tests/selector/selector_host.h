@@ -1,0 +1,125 @@
+#pragma once
+
+#include "platform/grid/grid_model.h"
+#include "platform/grid/grid_model_helper.h"
+#include "platform/grid/grid_user.h"
+#include "selector/str_locus_tag_selector.h"
+#include "tests/fakes/fake_host.h"
+
+#include <map>
+
+namespace Tamrivo::Fakes
+{
+
+/// What loading a tag gives; a tag that isn't there is loaded by its locus's number.
+using LoadResults = std::map<std::string, std::int32_t>;
+
+class FakeEntry : public LocusTagEntry
+{
+public:
+    FakeEntry(const LoadResults& results, const ObjectList& loci) : m_results(results), m_loci(loci)
+    {}
+    std::int32_t TagID(std::int32_t) const override { return Id; }
+    void SetTagName(const std::string& tag) override { Tag = tag; }
+    std::int32_t Load() override
+    {
+        if (const auto found = m_results.find(Tag); found != m_results.end())
+            return found->second;
+        if (!m_loci.KeyExists(Tag))
+            return LoadResult::NoSuchTag;
+        Id = As<Locus>(m_loci.Item(Tag))->LocusTagID();
+        return LoadResult::Loaded;
+    }
+
+    std::string Tag;
+    std::int32_t Id = 0;
+
+private:
+    const LoadResults& m_results;
+    const ObjectList& m_loci;
+};
+
+/// An analysis parameter with one list, or none.
+class FakeParameter : public AnalysisParameter, public FragAnalysisParam, public LocusTagEntries
+{
+public:
+    Tamrivo::FragAnalysisParam& FragAnalysisParam() override { return *this; }
+    std::int16_t LocusTagListCount() const override { return Lists; }
+    LocusTagEntries& LocusTagList(std::int16_t) override { return *this; }
+    std::span<const std::shared_ptr<LocusTagEntry>> Entries() const override { return List; }
+    void Clear() override { List.clear(); }
+    void Add(const std::shared_ptr<LocusTagEntry>& entry) override { List.push_back(entry); }
+
+    std::vector<std::string> Tags() const
+    {
+        std::vector<std::string> tags;
+        for (const auto& entry : List)
+            tags.push_back(dynamic_cast<const FakeEntry&>(*entry).Tag);
+        return tags;
+    }
+
+    std::int16_t Lists = 1;
+    std::vector<std::shared_ptr<LocusTagEntry>> List;
+};
+
+/// A host with the real grids, on loci that are numbered in the order of their creation.
+class SelectorHost : public FakeHost
+{
+public:
+    GridHelper& SharedGridHelper() override { return Helper; }
+    std::shared_ptr<Gridocx> NewGrid() override { return MakeGrid(); }
+    std::shared_ptr<LocusTagEntry> NewLocusTagEntry() override
+    {
+        return std::make_shared<FakeEntry>(LoadResults, Objects.Lists["CurrentLoci"]);
+    }
+    MessageAnswer ShowMessage(const std::string& text, std::int32_t kind,
+                              const std::string& title) override
+    {
+        Messages.push_back(title + "|" + text + "|" + std::to_string(kind));
+        return MessageAnswer::Ok;
+    }
+
+    /// Puts a locus into the store under the next number.
+    std::shared_ptr<FakeLocus> Store(const std::shared_ptr<FakeLocus>& locus,
+                                     const std::string& tag)
+    {
+        locus->Tag = tag;
+        if (locus->TagId == 0)
+        {
+            locus->TagId = ++m_lastId;
+            Objects.Lists["CurrentLoci"].Add(locus);
+        }
+        locus->Modified = std::chrono::sys_seconds(std::chrono::hours(24 * ++m_days));
+        return locus;
+    }
+    std::shared_ptr<FakeLocus> Store(const std::string& tag)
+    {
+        return Store(std::make_shared<FakeLocus>(), tag);
+    }
+
+    GridModelHelper Helper;
+    std::function<std::shared_ptr<Gridocx>()> MakeGrid = [] {
+        return std::make_shared<GridModel>();
+    };
+    Fakes::LoadResults LoadResults;
+
+private:
+    std::int32_t m_lastId = 0;
+    int m_days = 0;
+};
+
+/// The tags in a grid, in the order of its rows.
+inline std::vector<std::string> TagsOf(const User::GridControl& grid)
+{
+    std::vector<std::string> tags;
+    for (double row = 1; row <= grid->RowCount(); ++row)
+        tags.push_back(grid->GetTextRowCol(row, 1));
+    return tags;
+}
+
+inline std::vector<std::int32_t> HighlightOf(const User::GridControl& grid)
+{
+    return ModelOf(grid.Object()).HighlightedRows();
+}
+
+} // namespace Tamrivo::Fakes

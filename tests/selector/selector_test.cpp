@@ -1,0 +1,256 @@
+#include "tests/selector/selector_fixture.h"
+
+namespace Tamrivo::Fakes
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Selector = SelectorTest;
+
+TEST_F(Selector, InitializeSplitsTheCurrentLociByTheStoredTags)
+{
+    Select({4, 99});
+    EXPECT_EQ(selector.AllLocusTags(), nullptr);
+    Open();
+    EXPECT_THAT(TagsOf(available), ElementsAre("A", "B", "C", "E"));
+    EXPECT_THAT(TagsOf(selected), ElementsAre("D"));
+    EXPECT_EQ(available->GetTextRowCol(1, 2),
+              DateText(As<Locus>(selector.AllLocusTags()->Item("A"))->DateLastModified()));
+    EXPECT_EQ(selector.AllLocusTags()->Count(), 5);
+    EXPECT_EQ(Buttons(), "AddAll RemoveAll NewSTRLocus ");
+    EXPECT_THROW(available->SetValueRowCol(1, 1, "x", 1), Failure);
+
+    Select({});
+    parameter->Lists = 0;
+    Open();
+    EXPECT_EQ(selector.NumberOfSelectedLocusTags(), 0);
+    EXPECT_EQ(available->RowCount(), 5);
+    EXPECT_EQ(selector.SelectedLocusTags().Count(), 0U);
+    EXPECT_EQ(Buttons(), "AddAll NewSTRLocus ");
+}
+
+TEST_F(Selector, ATagStoredTwiceEndsInitialize)
+{
+    Select({4, 4});
+    EXPECT_THROW(Open(), Failure);
+    EXPECT_THAT(host.Utility.Reports, IsEmpty());
+}
+
+TEST_F(Selector, SaveWritesTheSelectionInTheOrderOfItsRows)
+{
+    host.Store("d2 ");
+    Select({4, 5, 6});
+    Open();
+    User::Click(selected, 0);
+    EXPECT_THAT(TagsOf(selected), ElementsAre("E", "d2 ", "D"));
+    const std::int32_t rows = selector.NumberOfSelectedLocusTags();
+
+    const auto save = [&](std::int32_t result) {
+        host.LoadResults["d2 "] = result;
+        host.Messages.clear();
+        selector.Save(*parameter);
+        return parameter->Tags();
+    };
+    EXPECT_THAT(save(0), ElementsAre("E", "d2 ", "D"));
+    EXPECT_THAT(host.Messages, IsEmpty());
+    EXPECT_THAT(save(-30984), ElementsAre("E", "D"));
+    EXPECT_THAT(host.Messages,
+                ElementsAre("Locus Tag Does Not Exist|Locus Tag \"d2\" does not exist in the "
+                            "Database.\r\nProceeding without it in the selection.\r\n(Was it "
+                            "deleted while this selector was open?)|48"));
+    EXPECT_THAT(save(-7), ElementsAre("E", "D"));
+    EXPECT_THAT(host.Messages, ElementsAre("Internal DB Error|Locus Tag Load returned unexpected "
+                                           "condition: -7|16"));
+    EXPECT_THAT(save(-30981), ElementsAre("E"));
+    EXPECT_THAT(host.Messages, ElementsAre("Internal DB Error|Failed to get DB connection!|16"));
+    EXPECT_EQ(selector.NumberOfSelectedLocusTags(), rows);
+
+    parameter->Lists = 0;
+    EXPECT_THAT(save(0), ElementsAre("E")) << "a parameter without a list is left alone";
+}
+
+TEST_F(Selector, ADoubleClickMovesTheRowAndHighlightsTheOneInItsPlace)
+{
+    Open();
+    User::DoubleClick(available, 2);
+    EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "B"));
+    EXPECT_THAT(HighlightOf(available), ElementsAre(2));
+    User::DoubleClick(available, 2);
+    EXPECT_THAT(HighlightOf(available), ElementsAre(1));
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
+    User::DoubleClick(available, 1);
+    EXPECT_THAT(TagsOf(available), IsEmpty());
+    EXPECT_EQ(Buttons(), "RemoveAll NewSTRLocus ");
+
+    GridEventResult result;
+    selected->CellDoubleClicked(0, 1, 0, nullptr, result);
+    EXPECT_EQ(result.Value, 1);
+    EXPECT_EQ(selector.NumberOfSelectedLocusTags(), 5);
+}
+
+TEST_F(Selector, ButtonsAndMenusMoveTheHighlightOrElseTheCurrentRow)
+{
+    Open();
+    User::Click(available, 1);
+    User::Toggle(available, 3);
+    pick = &selector.mnuAdd;
+    User::RightClick(available, 3);
+    EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "A", "C"));
+    EXPECT_THAT(HighlightOf(available), ElementsAre(1));
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
+
+    host.SharedGridHelper().SetHighlightedRows(available.Object(), {});
+    User::Click(selector.mnuAdd);
+    EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "A", "C", "B")) << "the current row moves";
+
+    User::Click(selected, 0);
+    EXPECT_THROW(User::Click(selector.cmdRemoveSingle), User::Refusal);
+    User::Click(selected, 1);
+    User::Click(selector.cmdRemoveSingle);
+    EXPECT_THAT(TagsOf(available), ElementsAre("E"));
+    EXPECT_THAT(HighlightOf(selected), ElementsAre(1));
+    User::Click(selector.cmdRemoveAll);
+    EXPECT_EQ(Buttons(), "AddAll NewSTRLocus ");
+}
+
+TEST_F(Selector, TurningToOneGridDropsTheHighlightOfTheOther)
+{
+    Open();
+    User::Click(available, 1);
+    User::Toggle(available, 2);
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll NewSTRLocus ");
+    User::Toggle(available, 2);
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
+    User::RightClick(selected, 2);
+    EXPECT_THAT(HighlightOf(available), IsEmpty());
+    EXPECT_THAT(HighlightOf(selected), ElementsAre(2));
+    EXPECT_EQ(Buttons(), "RemoveSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
+    available->NoticeA(0, 0, nullptr);
+    EXPECT_THAT(HighlightOf(selected), IsEmpty());
+    EXPECT_EQ(Buttons(), "AddAll RemoveAll NewSTRLocus ");
+    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusSelected"));
+}
+
+TEST_F(Selector, TheHeadersMenuSortsTheGridItWasOpenedOn)
+{
+    Open();
+    User::Click(selected, 2);
+    std::vector<std::int32_t> pointers;
+    host.Screen.SetMousePointer(1);
+    host.Screen.MousePointerChanged = [&] { pointers.push_back(host.Screen.MousePointer()); };
+    pick = &selector.mnuDescending;
+    User::RightClick(selected, 0, 2);
+    EXPECT_THAT(TagsOf(selected), ElementsAre("E", "D"));
+    EXPECT_THAT(TagsOf(available), ElementsAre("A", "B", "C"));
+    EXPECT_THAT(HighlightOf(selected), IsEmpty());
+    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusColumn"));
+    EXPECT_THAT(pointers, ElementsAre(Pointer::Hourglass, 1));
+}
+
+TEST_F(Selector, WithoutInitializeNothingBreaks)
+{
+    EXPECT_THROW(User::Click(selector.mnuAscending), Failure);
+    EXPECT_THAT(host.Utility.Reports, ElementsAre(Report{"GridSort", false}));
+    EXPECT_EQ(host.Utility.ClassName, "STRLocusTagSelector");
+    host.Launcher.Run = [](ParameterCollection&) { return true; };
+    EXPECT_THROW(User::Click(selector.cmdNewSTRLocus), Failure);
+    Open();
+    EXPECT_THAT(TagsOf(available), ElementsAre("A", "B", "C"));
+}
+
+/// A grid that writes down what the switch of the selector does to it.
+class RecordedGrid : public GridModel
+{
+public:
+    explicit RecordedGrid(std::vector<std::string>& log) : m_log(log) {}
+
+    bool LockUpdate(bool lock) override
+    {
+        Note("lock ", lock);
+        return GridModel::LockUpdate(lock);
+    }
+    void Redraw(std::int32_t value) override
+    {
+        Note("redraw ", value);
+        GridModel::Redraw(value);
+    }
+    void SetReadOnly(bool readOnly) override
+    {
+        Note("read-only ", readOnly);
+        GridModel::SetReadOnly(readOnly);
+    }
+    void SetBackgroundColor(std::int32_t color) override { Note("background ", color); }
+    void SetDisabledState(std::int32_t state) override
+    {
+        Note("state ", state);
+        GridModel::SetDisabledState(state);
+    }
+    void SetStyleRange(const std::shared_ptr<GridRange>& range,
+                       const std::shared_ptr<GridStyle>& style, std::int16_t flags) override
+    {
+        GridModel::SetStyleRange(range, style, flags);
+        Note("text ", TextColor());
+    }
+
+private:
+    void Note(const std::string& what, std::int32_t value)
+    {
+        m_log.push_back(what + std::to_string(value));
+    }
+    std::vector<std::string>& m_log;
+};
+
+TEST_F(Selector, TheSwitchWorksOnBothGridsInItsOrderAndRestoresThem)
+{
+    std::vector<std::string> log;
+    host.MakeGrid = [&] { return std::make_shared<RecordedGrid>(log); };
+    STRLocusTagSelector recorded(host);
+    recorded.Initialize(parameter);
+    recorded.gridSelected->LockUpdate(true);
+    for (const bool enabled : {false, true})
+    {
+        log.clear();
+        recorded.SetEnabled(enabled);
+        const std::string background = enabled ? "background 16777215" : "background -2147483633";
+        const std::string state = enabled ? "state 0" : "state 1";
+        const std::string text = enabled ? "text 0" : "text -2147483631";
+        EXPECT_THAT(log, ElementsAre("lock 0", "lock 0", "read-only 0", "read-only 0", background,
+                                     background, state, state, text, text, "redraw 2", "lock 0",
+                                     "read-only 1", "redraw 2", "lock 1", "read-only 1"));
+        EXPECT_EQ(recorded.strSelected.Enabled(), enabled);
+    }
+}
+
+TEST_F(Selector, DisabledItKeepsThePersonFromEverything)
+{
+    Open();
+    User::Click(available, 1);
+    selector.SetEnabled(false);
+    EXPECT_EQ(Buttons(), "");
+    User::DoubleClick(available, 2);
+    User::RightClick(selected, 1);
+    EXPECT_THAT(menus, IsEmpty());
+    EXPECT_THAT(HighlightOf(available), ElementsAre(1));
+    EXPECT_EQ(selector.NumberOfSelectedLocusTags(), 2);
+    available->NoticeB(0, 0, nullptr);
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll ") << "a notice doesn't ask";
+    for (Control* control :
+         {static_cast<Control*>(&selector.mnuAdd), static_cast<Control*>(&selector.cmdAddAll)})
+        EXPECT_THROW(User::RequireReach(*control), User::Refusal);
+
+    selector.SetEnabled(true);
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll NewSTRLocus ");
+    User::Click(available, 1);
+    EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
+
+    selector.SetEnabled(false);
+    Open();
+    EXPECT_FALSE(selector.Enabled());
+    EXPECT_TRUE(selector.cmdAddAll.Enabled());
+}
+
+} // namespace
+} // namespace Tamrivo::Fakes

@@ -48,7 +48,9 @@ Database::Database(const std::string& address) : m_address(address), m_backend(B
     }
     catch (const soci::soci_error& error)
     {
-        RaiseFailure(consequence, StoreError::Unreachable, error.get_error_message());
+        const std::int32_t number = m_backend->ErrorNumberOf(error);
+        RaiseFailure(consequence, number == StoreError::Database ? StoreError::Unreachable : number,
+                     error.get_error_message());
     }
     Run(consequence, [&](soci::session& session) { MigrateSchema(*this, session, SchemaSteps); });
 }

@@ -111,21 +111,14 @@ void Loci(Shell& shell, const Words&)
         PrintRow(shell.Out(), {As<Locus>(object)->LocusTag()});
 }
 
-std::shared_ptr<Locus> StoredLocus(Shell& shell, const std::string& tag)
-{
-    if (auto locus = shell.Host().Store().FindLocus(tag))
-        return locus;
-    throw User::Refusal("there is no locus \"" + tag + "\" in the store");
-}
-
 void ShowLocus(Shell& shell, const Words& arguments)
 {
-    PrintLocus(shell.Out(), *StoredLocus(shell, arguments[0]));
+    PrintLocus(shell.Out(), *shell.Host().StoredLocus(arguments[0]));
 }
 
 void Alleles(Shell& shell, const Words& arguments)
 {
-    const auto locus = StoredLocus(shell, arguments[0]);
+    const auto locus = shell.Host().StoredLocus(arguments[0]);
     AlleleRows alleles;
     for (const auto& object : locus->Alleles().Members())
         alleles.push_back(As<Allele>(object));

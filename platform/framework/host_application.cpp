@@ -19,11 +19,14 @@ WizardOutcome HostApplication::NewLocus(bool binning)
 
 WizardOutcome HostApplication::EditLocus(const std::string& tag, bool binning)
 {
-    const auto locus = m_store.FindLocus(tag);
-    if (!locus)
-        throw Failure(StoreError::NotFound, "Host",
-                      "There is no locus \"" + tag + "\" in the store");
-    return RunEditor(locus, binning);
+    return RunEditor(StoredLocus(tag), binning);
+}
+
+std::shared_ptr<Locus> HostApplication::StoredLocus(const std::string& tag)
+{
+    if (auto locus = m_store.FindLocus(tag))
+        return locus;
+    throw Failure(StoreError::NotFound, "Host", "There is no locus \"" + tag + "\" in the store");
 }
 
 WizardOutcome HostApplication::RunEditor(const std::shared_ptr<Locus>& locus, bool binning)

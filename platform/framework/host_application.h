@@ -45,6 +45,9 @@ public:
     /// Runs the locus editor on a stored locus. Raises `StoreError::NotFound`.
     WizardOutcome EditLocus(const std::string& tag, bool binning);
 
+    /// The stored locus with the tag. Raises `StoreError::NotFound`.
+    std::shared_ptr<Locus> StoredLocus(const std::string& tag);
+
     /// The kinds of report context that the service offers.
     ReportContextTypes ContextTypes();
     /// The contexts of a kind, in the service's order.

@@ -2,8 +2,8 @@
 
 #include "platform/framework/environment.h"
 
+#include <spdlog/sinks/null_sink.h>
 #include <spdlog/sinks/rotating_file_sink.h>
-#include <spdlog/sinks/stdout_sinks.h>
 #include <spdlog/spdlog.h>
 
 namespace Tamrivo
@@ -23,7 +23,7 @@ spdlog::sink_ptr OpenSink()
     }
     catch (const spdlog::spdlog_ex&)
     {
-        return std::make_shared<spdlog::sinks::stderr_sink_mt>();
+        return std::make_shared<spdlog::sinks::null_sink_mt>();
     }
 }
 

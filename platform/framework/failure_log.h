@@ -13,7 +13,7 @@ namespace Tamrivo
 {
 
 /// The file "tamrivo.log" in the `StateDirectory`, one line a failure; opened at the first one.
-/// Where it can't be opened, standard error takes its place.
+/// Where it can't be opened nothing is logged; the front end shows each failure anyway.
 class FailureLog
 {
 public:

@@ -4,9 +4,9 @@
 #include "platform/panels/panel_reader.h"
 
 #include <QDialog>
+#include <QTimer>
 
-#include <set>
-
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -37,15 +37,19 @@ public:
     const QString& Result() const { return m_result; }
 
 private:
-    QWidget* MakeChoices();
-    QWidget* MakeReasons();
+    void OfferProjects();
+    void AddSourceRow(QBoxLayout& layout);
+    void AddPreview(QBoxLayout& layout);
+    void AddDecision(QBoxLayout& layout);
+    /// Plans the import of what is ticked, and shows the plan.
     void Plan();
-    void ShowPlan();
-    void ShowComplaints();
-    void Import();
+    void ShowState();
+    QString Source() const;
+    QStringList Reasons() const;
+    QString Outlook() const;
     /// Why the import can't begin; empty when it can.
     QString Obstacle() const;
-    QString ProjectName() const;
+    void Import();
 
     Store& m_store;
     const Actions& m_actions;
@@ -53,11 +57,13 @@ private:
     QString m_result;
     PanelReading m_reading;
     ImportPlan m_plan;
+    QTimer m_replan; ///< Runs while the name of the project is being typed.
 
     ImportPreviewModel* m_preview;
     QLabel* m_source;
     QComboBox* m_project;
     QTreeView* m_tree;
+    QLabel* m_reasonsCaption;
     QPlainTextEdit* m_reasons;
     QCheckBox* m_partial;
     QLabel* m_status;

@@ -26,14 +26,16 @@ public:
 
     /// Asks where to, and saves the picture.
     void SavePictureAs();
-    /// Saves the picture of all lanes, as wide as it is shown: SVG when the name ends in ".svg",
-    /// else PNG. Raises `ErrorNumber::InvalidArgument` when the file can't be written.
+    /// Saves the picture of all lanes, as wide as it is shown, for paper: SVG when the name ends in
+    /// ".svg", else PNG. Raises `ErrorNumber::InvalidArgument` when the file can't be written.
     void SavePicture(const QString& path) const;
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void FitList();
     void ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<LaneLocus>& loci);
 
     const Actions& m_actions;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contracts/service_base.h"
 #include "platform/reports/report.h"
 
 #include <QWidget>
@@ -8,14 +9,13 @@
 
 class QComboBox;
 class QLabel;
-class QPrinter;
+class QPagedPaintDevice;
 class QTableView;
 
 namespace Tamrivo
 {
 
 class Actions;
-class HostApplication;
 class ReportTableModel;
 
 /// The service's report contexts as a table, to be printed or saved as PDF, HTML or TSV. Rows are
@@ -26,9 +26,10 @@ public:
     /// Both must outlive the window.
     ReportsWindow(HostApplication& host, const Actions& actions, QWidget* parent = nullptr);
 
-    /// Shows all contexts of the chosen kind, as the store has them now.
+    /// Shows all contexts, as the store has them now.
     void ShowAll();
-    /// Shows the contexts of an analysis parameter's loci alone, in the parameter's order.
+    /// Shows the contexts of an analysis parameter's loci alone, in the parameter's order. The
+    /// person may go over to all contexts and back.
     void ShowParameter(const std::string& name, std::vector<std::string> tags);
 
     /// Asks where to, and saves the table in the format that the file's name ends in.
@@ -40,24 +41,29 @@ public:
     void Print();
 
 private:
-    struct Scope
+    struct Parameter
     {
-        std::string Parameter;
+        std::string Name;
         std::vector<std::string> Tags;
     };
 
-    QWidget* MakeToolBar();
+    QLayout* MakeTopRow();
+    void OfferScopes();
     void Load();
-    /// Gives whether the person let it come to its end.
-    bool PrintOn(QPrinter& printer);
+    void ShowStatus(const QString& done = {});
+    QString Heading() const;
+    /// Prints pages, counted from 1; 0 for the last means all. Gives whether the person let it come
+    /// to its end.
+    bool PrintOn(QPagedPaintDevice& device, int first, int last);
+    QByteArray AsPdf();
 
     HostApplication& m_host;
     const Actions& m_actions;
-    std::optional<Scope> m_scope;
+    std::optional<Parameter> m_parameter;
     ReportContextTypes m_types;
 
     QComboBox* m_type;
-    QComboBox* m_which;
+    QComboBox* m_scope;
     ReportTableModel* m_model;
     QTableView* m_table;
     QLabel* m_status;

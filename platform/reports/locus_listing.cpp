@@ -16,26 +16,30 @@ struct ListedField
 {
     const char* Name;
     const char* Title;
-    bool IsNumber;
+    Table::Kind Kind;
     Json (*Value)(const Locus&, Audience);
 };
 
 constexpr ListedField listedFields[] = {
-    {"LocusTag", "Tag", false,
+    {"LocusTag", "Tag", Table::Text,
      [](const Locus& locus, Audience) -> Json { return locus.LocusTag(); }},
-    {"LocusName", "Name", false,
+    {"LocusName", "Name", Table::Text,
      [](const Locus& locus, Audience) -> Json { return locus.LocusName; }},
-    {"ProjectName", "Project", false,
+    {"ProjectName", "Project", Table::Text,
      [](const Locus& locus, Audience) -> Json { return locus.ProjectName; }},
-    {"Color", "Dye", false,
+    {"Color", "Dye", Table::Text,
      [](const Locus& locus, Audience) -> Json { return DyeColor(locus.DyeIndex); }},
-    {"FragStart", "From (nt)", true,
+    {"FragStart", "From (nt)", Table::Number,
      [](const Locus& locus, Audience) -> Json { return locus.FragStart; }},
-    {"FragEnd", "To (nt)", true,
+    {"FragEnd", "To (nt)", Table::Number,
      [](const Locus& locus, Audience) -> Json { return locus.FragEnd; }},
-    {"RepeatLength", "Repeat (nt)", true,
+    {"RepeatLength", "Repeat (nt)", Table::Number,
      [](const Locus& locus, Audience) -> Json { return locus.RepeatLength; }},
-    {"DateLastModified", "Changed", false,
+    {"ShortestAlleleSize", "Shortest (nt)", Table::Number,
+     [](const Locus& locus, Audience) -> Json { return locus.ShortestAlleleSize; }},
+    {"Ploidy", "Ploidy", Table::Number,
+     [](const Locus& locus, Audience) -> Json { return locus.Ploidy; }},
+    {"DateLastModified", "Changed", Table::Date,
      [](const Locus& locus, Audience audience) -> Json {
          const Date date = locus.DateLastModified();
          return audience == Audience::People ? DateText(date) : IsoDate(date);
@@ -49,7 +53,7 @@ Table LociTable(const Loci& loci, Audience audience)
     Table table;
     for (const ListedField& field : listedFields)
         table.Columns.push_back(
-            {audience == Audience::People ? field.Title : field.Name, field.IsNumber});
+            {audience == Audience::People ? field.Title : field.Name, field.Kind});
     for (const auto& locus : loci)
     {
         auto& row = table.Rows.emplace_back();

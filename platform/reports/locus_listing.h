@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/reports/table.h"
 #include "contracts/locus.h"
+#include "platform/reports/table.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,7 +13,8 @@
 namespace Tamrivo
 {
 
-// Loci as lists of them show them: tag, name, project, dye, range, repeat unit and date.
+// Loci as lists of them show them: tag, name, project, dye, range, repeat unit,
+// shortest allele, ploidy and date.
 
 /// Whom a listing is for. People get titles with units, and dates as their locale has them;
 /// programs get names of fields, and dates as ISO 8601 in UTC.

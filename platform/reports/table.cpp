@@ -47,7 +47,8 @@ void PrintHtmlRow(std::ostream& out, const Table& table, const std::vector<std::
 {
     out << "<tr>";
     for (std::size_t at = 0; at < cells.size(); ++at)
-        out << '<' << element << (table.Columns[at].IsNumber ? " class=\"number\">" : ">")
+        out << '<' << element
+            << (table.Columns[at].Kind == Table::Number ? " class=\"number\">" : ">")
             << EscapeHtml(cells[at]) << "</" << element << '>';
     out << "</tr>\n";
 }

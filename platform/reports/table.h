@@ -11,10 +11,17 @@ namespace Tamrivo
 /// A table of texts, to be shown or written.
 struct Table
 {
+    enum Kind
+    {
+        Text,
+        Number, ///< Stands at the right.
+        Date,   ///< As `DateText` writes it, or ISO 8601.
+    };
+
     struct Column
     {
         std::string Title;
-        bool IsNumber = false; ///< Stands at the right.
+        Table::Kind Kind = Text;
     };
 
     std::vector<Column> Columns;

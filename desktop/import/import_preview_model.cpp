@@ -1,0 +1,254 @@
+#include "desktop/import/import_preview_model.h"
+
+#include "core/numbers.h"
+#include "core/text.h"
+#include "desktop/text.h"
+#include "platform/panels/dyes.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QStyle>
+
+#include <map>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+struct FateWords
+{
+    const char* Text;
+    QStyle::StandardPixmap Icon;
+};
+
+/// In the order of `ImportFate`.
+constexpr FateWords fateWords[] = {
+    {"Comes in", QStyle::SP_DialogApplyButton},
+    {"In the store already", QStyle::SP_CustomBase},
+    {"Can't come in", QStyle::SP_MessageBoxWarning},
+};
+
+constexpr const char* titles[] = {
+    "Panel and marker", "What happens", "Tag", "Dye", "Range (nt)", "Alleles", "Line", "Remarks",
+};
+static_assert(std::size(titles) == ImportPreviewModel::ColumnCount);
+
+/// Identifies rows of panels; a row of a marker has its panel's number plus 1.
+constexpr quintptr panelRow = 0;
+
+QString RangeText(double from, double to)
+{
+    return ToQString(DoubleText(from) + " to " + DoubleText(to));
+}
+
+} // namespace
+
+QString RemarksOn(const PlannedLocus& locus)
+{
+    QStringList sentences;
+    for (const std::string& obstacle : locus.Obstacles)
+        sentences.append(ToQString(obstacle) + ".");
+    if (locus.Fate == ImportFate::New && locus.IsRenamed())
+        sentences.append("Gets a tag other than its name, which isn't free.");
+    return sentences.join(' ');
+}
+
+void ImportPreviewModel::SetMarkers(const std::vector<PanelMarker>& markers)
+{
+    beginResetModel();
+    m_markers = &markers;
+    m_panels.clear();
+    m_panelOf.clear();
+    std::map<std::string, std::size_t> panelOfName;
+    for (std::size_t marker = 0; marker < markers.size(); ++marker)
+    {
+        const std::string name = Trim(markers[marker].Panel);
+        const auto [panel, isNew] = panelOfName.emplace(FoldCase(name), m_panels.size());
+        if (isNew)
+            m_panels.push_back({name, true, {}});
+        m_panels[panel->second].Markers.push_back(marker);
+        m_panelOf.push_back(panel->second);
+    }
+    m_plannedFor.assign(markers.size(), nullptr);
+    endResetModel();
+}
+
+void ImportPreviewModel::SetPlan(const ImportPlan& plan)
+{
+    // The plan has the markers of the chosen panels, in the table's order.
+    auto planned = plan.Loci.begin();
+    for (std::size_t marker = 0; marker < m_plannedFor.size(); ++marker)
+    {
+        const bool isPlanned = m_panels[m_panelOf[marker]].IsChosen && planned != plan.Loci.end();
+        m_plannedFor[marker] = isPlanned ? &*planned++ : nullptr;
+    }
+    for (int panel = 0; panel < rowCount(); ++panel)
+    {
+        const QModelIndex parent = index(panel, 0);
+        emit dataChanged(parent, index(panel, ColumnCount - 1));
+        emit dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, ColumnCount - 1, parent));
+    }
+}
+
+std::vector<std::string> ImportPreviewModel::ChosenPanels() const
+{
+    std::vector<std::string> chosen;
+    for (const Panel& panel : m_panels)
+    {
+        if (panel.IsChosen)
+            chosen.push_back(panel.Name);
+    }
+    return chosen;
+}
+
+QModelIndex ImportPreviewModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column,
+                       parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : panelRow);
+}
+
+QModelIndex ImportPreviewModel::parent(const QModelIndex& index) const
+{
+    if (index.internalId() == panelRow)
+        return {};
+    return createIndex(static_cast<int>(index.internalId()) - 1, 0, panelRow);
+}
+
+int ImportPreviewModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid())
+        return static_cast<int>(m_panels.size());
+    if (parent.internalId() != panelRow || parent.column() > 0)
+        return 0;
+    return static_cast<int>(m_panels[static_cast<std::size_t>(parent.row())].Markers.size());
+}
+
+int ImportPreviewModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return ColumnCount;
+}
+
+Qt::ItemFlags ImportPreviewModel::flags(const QModelIndex& index) const
+{
+    Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    if (index.internalId() == panelRow && index.column() == Name)
+        flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+QVariant ImportPreviewModel::data(const QModelIndex& index, int role) const
+{
+    const auto row = static_cast<std::size_t>(index.row());
+    if (index.internalId() == panelRow)
+        return PanelData(m_panels[row], index.column(), role);
+    const Panel& panel = m_panels[static_cast<std::size_t>(index.internalId()) - 1];
+    return MarkerData(panel.Markers[row], index.column(), role);
+}
+
+QVariant ImportPreviewModel::PanelData(const Panel& panel, int column, int role) const
+{
+    if (role == Qt::DisplayRole && column == Name)
+        return panel.Name.empty() ? QString("No panel named") : ToQString(panel.Name);
+    if (role == Qt::DisplayRole && column == Fate)
+        return SummaryOf(panel);
+    if (role == Qt::CheckStateRole && column == Name)
+        return panel.IsChosen ? Qt::Checked : Qt::Unchecked;
+    if (role == Qt::FontRole)
+    {
+        QFont font;
+        font.setBold(true);
+        return font;
+    }
+    return {};
+}
+
+QString ImportPreviewModel::SummaryOf(const Panel& panel) const
+{
+    if (!panel.IsChosen)
+        return "Not chosen";
+    std::size_t comesIn = 0;
+    for (const std::size_t marker : panel.Markers)
+        comesIn += m_plannedFor[marker] != nullptr && m_plannedFor[marker]->Fate == ImportFate::New
+                       ? 1
+                       : 0;
+    return QString("%1 of %2 come in").arg(comesIn).arg(panel.Markers.size());
+}
+
+QVariant ImportPreviewModel::MarkerData(std::size_t marker, int column, int role) const
+{
+    const PlannedLocus* planned = m_plannedFor[marker];
+    switch (role)
+    {
+    case Qt::DisplayRole: return MarkerText(marker, column);
+    case Qt::ToolTipRole:
+        return planned != nullptr && column == Remarks ? RemarksOn(*planned) : QString();
+    case Qt::TextAlignmentRole:
+        if (column == Alleles || column == Line)
+            return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return {};
+    case Qt::DecorationRole:
+        if (planned == nullptr || column != Fate || planned->Fate == ImportFate::Present)
+            return {};
+        return QApplication::style()->standardIcon(
+            fateWords[static_cast<std::size_t>(planned->Fate)].Icon);
+    case Qt::ForegroundRole:
+        if (planned == nullptr || planned->Fate == ImportFate::Present)
+            return QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return {};
+    default: return {};
+    }
+}
+
+QString ImportPreviewModel::MarkerText(std::size_t marker, int column) const
+{
+    const PanelMarker& stated = (*m_markers)[marker];
+    const PlannedLocus* planned = m_plannedFor[marker];
+    switch (column)
+    {
+    case Name: return ToQString(stated.Marker);
+    case Fate:
+        return planned == nullptr
+                   ? QString()
+                   : QString(fateWords[static_cast<std::size_t>(planned->Fate)].Text);
+    case Tag: return planned == nullptr ? QString() : ToQString(planned->Tag);
+    case Dye:
+    {
+        const auto dye = DyeOfColor(stated.Color);
+        return ToQString(dye ? DyeColor(*dye) : Trim(stated.Color));
+    }
+    case Range:
+        return planned == nullptr ? RangeText(stated.RangeStart, stated.RangeEnd)
+                                  : RangeText(planned->Fields.FragStart, planned->Fields.FragEnd);
+    case Alleles: return QString::number(stated.Alleles.size());
+    case Line: return QString::number(stated.Line);
+    default: return planned == nullptr ? QString() : RemarksOn(*planned);
+    }
+}
+
+bool ImportPreviewModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::CheckStateRole || index.internalId() != panelRow)
+        return false;
+    m_panels[static_cast<std::size_t>(index.row())].IsChosen = value.toInt() == Qt::Checked;
+    emit dataChanged(index, index);
+    if (onChosen)
+        onChosen();
+    return true;
+}
+
+QVariant ImportPreviewModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::DisplayRole)
+        return titles[section];
+    if (role == Qt::TextAlignmentRole && (section == Alleles || section == Line))
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return {};
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/panels/import_plan.h"
+
+#include <QAbstractItemModel>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// Panels with a box to tick each, and below them their markers with what an import would do.
+class ImportPreviewModel : public QAbstractItemModel
+{
+public:
+    enum Column
+    {
+        Name,
+        Fate,
+        Tag,
+        Dye,
+        Range,
+        Alleles,
+        Line,
+        Remarks,
+        ColumnCount,
+    };
+
+    using QAbstractItemModel::QAbstractItemModel;
+
+    /// Shows the markers of a table, all panels ticked. They must stay where they are.
+    void SetMarkers(const std::vector<PanelMarker>& markers);
+    /// Takes over what a plan for `ChosenPanels` says; it must stay where it is.
+    void SetPlan(const ImportPlan& plan);
+
+    /// The ticked panels; the table's first spelling of each name.
+    std::vector<std::string> ChosenPanels() const;
+    std::size_t PanelCount() const { return m_panels.size(); }
+
+    /// The person has ticked a panel or taken a tick away.
+    std::function<void()> onChosen;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Panel
+    {
+        std::string Name;
+        bool IsChosen = true;
+        std::vector<std::size_t> Markers; ///< Positions in the table.
+    };
+
+    QVariant PanelData(const Panel& panel, int column, int role) const;
+    QVariant MarkerData(std::size_t marker, int column, int role) const;
+    QString MarkerText(std::size_t marker, int column) const;
+    QString SummaryOf(const Panel& panel) const;
+
+    const std::vector<PanelMarker>* m_markers = nullptr;
+    std::vector<Panel> m_panels;
+    std::vector<std::size_t> m_panelOf;            ///< Of each marker.
+    std::vector<const PlannedLocus*> m_plannedFor; ///< Each marker; null when not chosen.
+};
+
+/// Why a locus can't come in, or what is noteworthy about it, in sentences; may be empty.
+QString RemarksOn(const PlannedLocus& locus);
+
+} // namespace Tamrivo

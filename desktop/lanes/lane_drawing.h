@@ -1,0 +1,61 @@
+#pragma once
+
+#include "desktop/lanes/lane_order.h"
+#include "desktop/pictures/length_axis.h"
+
+#include <QFontMetrics>
+#include <QPalette>
+#include <QRectF>
+#include <QSize>
+
+#include <vector>
+
+class QPainter;
+
+namespace Tamrivo
+{
+
+/// The bar of a locus.
+struct LaneBar
+{
+    QRectF Rect;
+    std::size_t Locus; ///< Position in the list of loci.
+    double FreeTo;     ///< Where the next bar of the row begins, or the row ends.
+};
+
+/// Loci as lanes of bars over the fragment length. Measures are pixels and follow the font. A lane
+/// may have more rows than there is room for: the lanes are then seen through a window, which
+/// begins `scrolled` pixels below their top. The axis stays at the bottom.
+class LaneDrawing
+{
+public:
+    LaneDrawing(std::vector<LaneLocus> loci, LocusOverlaps overlaps);
+
+    const std::vector<LaneLocus>& Loci() const { return m_loci; }
+    const LocusOverlaps& Overlaps() const { return m_overlaps; }
+
+    /// Height of all lanes.
+    static int AxisHeight(const QFontMetrics& font);
+    int LanesHeight(const QFontMetrics& font) const;
+    static int RowHeight(const QFontMetrics& font);
+
+    /// Draws what is in view.
+    void Draw(QPainter& painter, QSize size, int scrolled, const QPalette& palette) const;
+    /// The bars that are in view, at least in part.
+    std::vector<LaneBar> BarsInView(QSize size, int scrolled, const QFontMetrics& font) const;
+
+private:
+    LengthAxis AxisIn(QSize size, const QFontMetrics& font) const;
+    int TitleWidth(const QFontMetrics& font) const;
+    void DrawGrounds(QPainter& painter, QSize size, int scrolled, const QPalette& palette) const;
+    void DrawBar(QPainter& painter, const LaneBar& bar, const LengthAxis& axis,
+                 const QPalette& palette) const;
+
+    std::vector<LaneLocus> m_loci;
+    LocusOverlaps m_overlaps;
+    std::vector<Lane> m_lanes;
+    double m_low = 0;
+    double m_high = 1;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "desktop/lanes/lane_drawing.h"
+
+#include <QAbstractScrollArea>
+
+namespace Tamrivo
+{
+
+/// Shows lanes of loci; scrolls when there are more rows than fit, with the axis in view all along.
+class LanePicture : public QAbstractScrollArea
+{
+public:
+    explicit LanePicture(QWidget* parent);
+
+    void Show(LaneDrawing drawing);
+    const LaneDrawing& Drawing() const { return m_drawing; }
+
+    /// All lanes and the axis, as wide as shown here, dark on white. PNG has twice the pixels of
+    /// the screen while its height allows. Raises `ErrorNumber::InvalidArgument` for a picture too
+    /// tall for PNG.
+    QByteArray AsPng() const;
+    QByteArray AsSvg() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void FitScrollBar();
+    QSize WholeSize() const;
+    QString TipAt(QPoint place) const;
+
+    LaneDrawing m_drawing{{}, {}};
+};
+
+} // namespace Tamrivo

@@ -16,8 +16,7 @@ public:
     Reference() = default;
     template <class U>
     Reference(std::shared_ptr<U> object) : m_object(std::move(object))
-    {
-    }
+    {}
 
     explicit operator bool() const { return m_object != nullptr; }
     operator const std::shared_ptr<T>&() const { return m_object; }

@@ -17,16 +17,14 @@ struct LocusEditorPage::Generation : Steps
 
 void LocusEditorPage::cmdGenAlleleList_Click()
 {
-    Terminal("cmdGenAlleleList_Click",
-             [&](Guard& run)
-             {
-                 Locus& oLocus = run([&]() -> Locus& { return *WorkingLocus(); });
-                 for (const auto step : Generation::DefinitionSteps)
-                     run([&] { step(*this, oLocus); });
-                 run([&] { oLocus.GenerateAlleles(); });
-                 run([&] { ctlPaneAlleleList->RefreshAlleles(); });
-                 run([&] { NoteChangedAlleles(); });
-             });
+    Terminal("cmdGenAlleleList_Click", [&](Guard& run) {
+        Locus& oLocus = run([&]() -> Locus& { return *WorkingLocus(); });
+        for (const auto step : Generation::DefinitionSteps)
+            run([&] { step(*this, oLocus); });
+        run([&] { oLocus.GenerateAlleles(); });
+        run([&] { ctlPaneAlleleList->RefreshAlleles(); });
+        run([&] { NoteChangedAlleles(); });
+    });
 }
 
 void LocusEditorPage::ctlPaneAlleleList_AlleleEdited(Allele&)

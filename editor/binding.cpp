@@ -130,22 +130,18 @@ struct LocusEditorPage::Binding : Steps
 
 void LocusEditorPage::LoadLocusData()
 {
-    Propagating("LoadLocusData",
-                [&](Guard& run)
-                {
-                    for (const auto step : Binding::LoadSteps)
-                        run([&] { step(*this); });
-                });
+    Propagating("LoadLocusData", [&](Guard& run) {
+        for (const auto step : Binding::LoadSteps)
+            run([&] { step(*this); });
+    });
 }
 
 void LocusEditorPage::UpdateLocus(const Reference<Locus>& oLocus)
 {
-    Propagating("UpdateLocus",
-                [&](Guard& run)
-                {
-                    for (const auto step : Binding::UpdateSteps)
-                        run([&] { step(*this, *oLocus); });
-                });
+    Propagating("UpdateLocus", [&](Guard& run) {
+        for (const auto step : Binding::UpdateSteps)
+            run([&] { step(*this, *oLocus); });
+    });
 }
 
 } // namespace Tamrivo

@@ -10,8 +10,9 @@ template <class... Arguments>
 void On(Event<Arguments...>& event, LocusEditorPage& page,
         void (LocusEditorPage::*handler)(Arguments...))
 {
-    event = [&page, handler](Arguments... arguments)
-    { (page.*handler)(std::forward<Arguments>(arguments)...); };
+    event = [&page, handler](Arguments... arguments) {
+        (page.*handler)(std::forward<Arguments>(arguments)...);
+    };
 }
 
 } // namespace

@@ -128,49 +128,41 @@ struct LocusEditorPage::Defaults : Steps
 
 void LocusEditorPage::ClearInformation()
 {
-    Propagating("ClearInformation",
-                [&](Guard& run)
-                {
-                    for (const auto step : Defaults::ClearSteps)
-                        run([&] { step(*this); });
-                });
+    Propagating("ClearInformation", [&](Guard& run) {
+        for (const auto step : Defaults::ClearSteps)
+            run([&] { step(*this); });
+    });
 }
 
 void LocusEditorPage::LoadDefaults()
 {
-    Propagating("LoadDefaults",
-                [&](Guard& run)
-                {
-                    for (const auto step : Defaults::LoadSteps)
-                        run([&] { step(*this); });
-                });
+    Propagating("LoadDefaults", [&](Guard& run) {
+        for (const auto step : Defaults::LoadSteps)
+            run([&] { step(*this); });
+    });
 }
 
 void LocusEditorPage::LoadProjects()
 {
-    Propagating(
-        "LoadProjects",
-        [&](Guard& run)
+    Propagating("LoadProjects", [&](Guard& run) {
+        const auto oProjects = run([&] { return Projects(Objects()); });
+        run([&] { cmbProjects.Clear(); });
+        std::int32_t lDefault = 0;
+        const std::int32_t lCount = run([&] { return oProjects->Count(); });
+        if (lCount <= 0)
+            return;
+        for (std::int32_t i = 1; i <= lCount; ++i)
         {
-            const auto oProjects = run([&] { return Projects(Objects()); });
-            run([&] { cmbProjects.Clear(); });
-            std::int32_t lDefault = 0;
-            const std::int32_t lCount = run([&] { return oProjects->Count(); });
-            if (lCount <= 0)
-                return;
-            for (std::int32_t i = 1; i <= lCount; ++i)
-            {
-                const auto oProject = run([&] { return As<Project>(oProjects->Item(i)); });
-                const std::string sName = TrimRight(oProject->Name());
-                run([&] { cmbProjects.AddItem(sName); });
-                run([&]
-                    { cmbProjects.SetItemData(cmbProjects.NewIndex(), oProject->ProjectID()); });
-                if (EqualNoCase(sName, DefaultProject))
-                    lDefault = i - 1;
-            }
-            run([&] { cmbProjects.SetText(cmbProjects.List(lDefault)); });
-            run([&] { lblProject.SetCaption(cmbProjects.Text()); });
-        });
+            const auto oProject = run([&] { return As<Project>(oProjects->Item(i)); });
+            const std::string sName = TrimRight(oProject->Name());
+            run([&] { cmbProjects.AddItem(sName); });
+            run([&] { cmbProjects.SetItemData(cmbProjects.NewIndex(), oProject->ProjectID()); });
+            if (EqualNoCase(sName, DefaultProject))
+                lDefault = i - 1;
+        }
+        run([&] { cmbProjects.SetText(cmbProjects.List(lDefault)); });
+        run([&] { lblProject.SetCaption(cmbProjects.Text()); });
+    });
 }
 
 } // namespace Tamrivo

@@ -50,38 +50,44 @@ struct LocusEditorPage::Groups : Steps
 
 void LocusEditorPage::DisplaySearchForStutter(bool bEnabled)
 {
-    Propagating("DisplaySearchForStutter", [&](Guard& run)
-                { Groups::SetEnabled(run, *this, Groups::SearchForStutter, bEnabled); });
+    Propagating("DisplaySearchForStutter", [&](Guard& run) {
+        Groups::SetEnabled(run, *this, Groups::SearchForStutter, bEnabled);
+    });
 }
 
 void LocusEditorPage::DisplayDetectSpuriousPeaks(bool bEnabled)
 {
-    Propagating("DisplayDetectSpuriousPeaks", [&](Guard& run)
-                { Groups::SetEnabled(run, *this, Groups::DetectSpuriousPeaks, bEnabled); });
+    Propagating("DisplayDetectSpuriousPeaks", [&](Guard& run) {
+        Groups::SetEnabled(run, *this, Groups::DetectSpuriousPeaks, bEnabled);
+    });
 }
 
 void LocusEditorPage::DisplayUserSpecified(bool bEnabled)
 {
-    Propagating("DisplayUserSpecified", [&](Guard& run)
-                { Groups::SetEnabled(run, *this, Groups::UserSpecified, bEnabled); });
+    Propagating("DisplayUserSpecified", [&](Guard& run) {
+        Groups::SetEnabled(run, *this, Groups::UserSpecified, bEnabled);
+    });
 }
 
 void LocusEditorPage::chkSearchForStutter_Click()
 {
-    Terminal("chkSearchForStutter_Click", [&](Guard& run)
-             { run([&] { DisplaySearchForStutter(chkSearchForStutter.Value() != 0); }); });
+    Terminal("chkSearchForStutter_Click", [&](Guard& run) {
+        run([&] { DisplaySearchForStutter(chkSearchForStutter.Value() != 0); });
+    });
 }
 
 void LocusEditorPage::chkDetectSpuriousPeaks_Click()
 {
-    Terminal("chkDetectSpuriousPeaks_Click", [&](Guard& run)
-             { run([&] { DisplayDetectSpuriousPeaks(chkDetectSpuriousPeaks.Value() != 0); }); });
+    Terminal("chkDetectSpuriousPeaks_Click", [&](Guard& run) {
+        run([&] { DisplayDetectSpuriousPeaks(chkDetectSpuriousPeaks.Value() != 0); });
+    });
 }
 
 void LocusEditorPage::chkUserSpecified_Click()
 {
-    Terminal("chkUserSpecified_Click", [&](Guard& run)
-             { run([&] { DisplayUserSpecified(chkUserSpecified.Value() != 0); }); });
+    Terminal("chkUserSpecified_Click", [&](Guard& run) {
+        run([&] { DisplayUserSpecified(chkUserSpecified.Value() != 0); });
+    });
 }
 
 } // namespace Tamrivo

@@ -2,7 +2,6 @@
 #include "editor/locus_editor_page.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace Tamrivo
 {
@@ -35,16 +34,15 @@ constexpr KeyRange DecimalOnce[] = {Back, FullStop};
 template <std::size_t Count>
 bool LetsThrough(const KeyRange (&filter)[Count], std::int16_t key)
 {
-    return std::ranges::any_of(filter, [key](const KeyRange& range)
-                               { return range.First <= key && key <= range.Last; });
+    return std::ranges::any_of(
+        filter, [key](const KeyRange& range) { return range.First <= key && key <= range.Last; });
 }
 
 /// The body of a handler that swallows what its filter doesn't let through.
 template <std::size_t Count>
 auto Filter(const KeyRange (&filter)[Count], std::int16_t& key)
 {
-    return [&](Guard&)
-    {
+    return [&](Guard&) {
         if (!LetsThrough(filter, key))
             key = 0;
     };
@@ -105,30 +103,23 @@ void LocusEditorPage::txtStartAtNumeric_KeyPress(std::int16_t& KeyAscii)
 
 void LocusEditorPage::txtConfInt_KeyPress(std::int16_t& KeyAscii)
 {
-    Terminal("txtConfChoice_KeyPress",
-             [&](Guard& run)
-             {
-                 if (LetsThrough(DecimalAlways, KeyAscii))
-                     return;
-                 if (!LetsThrough(DecimalOnce, KeyAscii) ||
-                     run([&] { return IsDecimalPresent(KeyAscii, txtConfInt.Text()); }))
-                     KeyAscii = 0;
-             });
+    Terminal("txtConfChoice_KeyPress", [&](Guard& run) {
+        if (LetsThrough(DecimalAlways, KeyAscii))
+            return;
+        if (!LetsThrough(DecimalOnce, KeyAscii) ||
+            run([&] { return IsDecimalPresent(KeyAscii, txtConfInt.Text()); }))
+            KeyAscii = 0;
+    });
 }
 
 bool LocusEditorPage::IsDecimalPresent(std::int16_t iKey, const std::string& sText)
 {
-    return Propagating("IsDecimalPresent",
-                       [&](Guard& run)
-                       {
-                           return run(
-                               [&]
-                               {
-                                   const auto code = static_cast<std::uint16_t>(iKey);
-                                   return Decode(sText).find(char32_t{code}) !=
-                                          std::u32string::npos;
-                               });
-                       });
+    return Propagating("IsDecimalPresent", [&](Guard& run) {
+        return run([&] {
+            const auto code = static_cast<std::uint16_t>(iKey);
+            return Decode(sText).find(char32_t{code}) != std::u32string::npos;
+        });
+    });
 }
 
 } // namespace Tamrivo

@@ -79,66 +79,61 @@ std::shared_ptr<PageBase> LocusEditorPage::Page()
 
 void LocusEditorPage::UserControl_Initialize()
 {
-    Terminal("UserControl_Initialize",
-             [&](Guard& run)
-             {
-                 run([&] { m_oPageBase = m_host.NewPageBase(); });
-                 run([&] { ConnectPageBase(); });
-                 m_bAlleleListValid = true;
-             });
+    Terminal("UserControl_Initialize", [&](Guard& run) {
+        run([&] { m_oPageBase = m_host.NewPageBase(); });
+        run([&] { ConnectPageBase(); });
+        m_bAlleleListValid = true;
+    });
 }
 
 void LocusEditorPage::m_oPageBase_Initialize(const std::shared_ptr<PanePositions>&)
 {
-    Propagating("m_oPageBase_Initialize",
-                [&](Guard& run)
-                {
-                    const auto hasParameter = [&](const char* key)
-                    { return run([&] { return SharedUtility().KeyExists(Parameters(), key); }); };
+    Propagating("m_oPageBase_Initialize", [&](Guard& run) {
+        const auto hasParameter = [&](const char* key) {
+            return run([&] { return SharedUtility().KeyExists(Parameters(), key); });
+        };
 
-                    if (!hasParameter(ParameterKey::Locus))
-                        return;
-                    m_bBinning = hasParameter(ParameterKey::Binning);
-                    if (m_bBinning)
-                        run(
-                            [&]
-                            {
-                                m_oBinning = ParameterItem<std::shared_ptr<BinningContext>>(
-                                    Parameters(), ParameterKey::Binning);
-                            });
-                    run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
-                    if (m_oBinning)
-                        run([&] { m_oBinning->SetInitialized(false); });
-                    run(
-                        [&] {
-                            HoldLocus(ParameterItem<std::shared_ptr<Locus>>(Parameters(),
-                                                                            ParameterKey::Locus));
-                        });
-                    run([&] { Parameters().Remove(ParameterKey::Locus); });
+        if (!hasParameter(ParameterKey::Locus))
+            return;
+        m_bBinning = hasParameter(ParameterKey::Binning);
+        if (m_bBinning)
+        {
+            run([&] {
+                m_oBinning = ParameterItem<std::shared_ptr<BinningContext>>(Parameters(),
+                                                                            ParameterKey::Binning);
+            });
+        }
+        run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
+        if (m_oBinning)
+            run([&] { m_oBinning->SetInitialized(false); });
+        run([&] {
+            HoldLocus(ParameterItem<std::shared_ptr<Locus>>(Parameters(), ParameterKey::Locus));
+        });
+        run([&] { Parameters().Remove(ParameterKey::Locus); });
 
-                    run([&] { ClearInformation(); });
-                    run([&] { LoadProjects(); });
-                    run([&] { LoadDefaults(); });
+        run([&] { ClearInformation(); });
+        run([&] { LoadProjects(); });
+        run([&] { LoadDefaults(); });
 
-                    m_bNewLocus = run([&] { return m_oLocus->LocusID() <= 0; });
-                    run([&] { ShowMode(); });
-                    if (m_bNewLocus)
-                        m_oLocus->SystemConfInt = 0;
-                    else
-                        run([&] { LoadLocusData(); });
+        m_bNewLocus = run([&] { return m_oLocus->LocusID() <= 0; });
+        run([&] { ShowMode(); });
+        if (m_bNewLocus)
+            m_oLocus->SystemConfInt = 0;
+        else
+            run([&] { LoadLocusData(); });
 
-                    run([&] { m_oLocus->ProjectName = cmbProjects.Text(); });
-                    for (std::int32_t i = 0; i < cmbProjects.ListCount(); ++i)
-                    {
-                        if (cmbProjects.ItemData(i) != m_oLocus->ProjectID)
-                            continue;
-                        run([&] { cmbProjects.SetText(cmbProjects.List(i)); });
-                        run([&] { lblProject.SetCaption(cmbProjects.Text()); });
-                    }
+        run([&] { m_oLocus->ProjectName = cmbProjects.Text(); });
+        for (std::int32_t i = 0; i < cmbProjects.ListCount(); ++i)
+        {
+            if (cmbProjects.ItemData(i) != m_oLocus->ProjectID)
+                continue;
+            run([&] { cmbProjects.SetText(cmbProjects.List(i)); });
+            run([&] { lblProject.SetCaption(cmbProjects.Text()); });
+        }
 
-                    run([&] { m_oCopyOfLocus = m_oLocus->Clone(); });
-                    run([&] { ctlPaneAlleleList->SetLocus(WorkingLocus()); });
-                });
+        run([&] { m_oCopyOfLocus = m_oLocus->Clone(); });
+        run([&] { ctlPaneAlleleList->SetLocus(WorkingLocus()); });
+    });
 }
 
 void LocusEditorPage::ShowMode()
@@ -171,15 +166,13 @@ void LocusEditorPage::ShowMode()
 
 void LocusEditorPage::m_oPageBase_Activate()
 {
-    Propagating("m_oPageBase_Activate",
-                [&](Guard& run)
-                {
-                    m_bDeactivated = false;
-                    if (!m_bBinning)
-                        return;
-                    for (const auto step : Binning::ActivateSteps)
-                        run([&] { step(*this); });
-                });
+    Propagating("m_oPageBase_Activate", [&](Guard& run) {
+        m_bDeactivated = false;
+        if (!m_bBinning)
+            return;
+        for (const auto step : Binning::ActivateSteps)
+            run([&] { step(*this); });
+    });
 }
 
 void LocusEditorPage::m_oPageBase_Deactivate()
@@ -193,32 +186,29 @@ void LocusEditorPage::m_oPageBase_Deactivate()
 
 void LocusEditorPage::m_oPageBase_Save()
 {
-    Propagating(
-        "m_oPageBase_Save",
-        [&](Guard& run)
+    Propagating("m_oPageBase_Save", [&](Guard& run) {
+        run([&] { UpdateLocus(m_oLocus); });
+        if (!m_bBinning)
         {
-            run([&] { UpdateLocus(m_oLocus); });
-            if (!m_bBinning)
-            {
-                while (run([&] { return m_oLocus->Alleles().Count() > 0; }))
-                    run([&] { m_oLocus->Alleles().Remove(1); });
-                for (const auto& oAllele : run([&] { return m_oCopyOfLocus->Alleles().Members(); }))
-                    run([&] { m_oLocus->Alleles().Add(oAllele); });
-            }
-            if (run([&] { return m_oLocus->LocusTagID() < 1; }))
-            {
-                run([&] { RemoveParameter(ParameterKey::NewLocus); });
-                run([&] { Parameters().Add(m_oLocus, ParameterKey::NewLocus); });
-            }
-            run([&] { Objects().Save(*m_oLocus, true); });
-            if (m_bSavedAs)
-            {
-                run([&] { RemoveParameter(ParameterKey::NewSaveAs); });
-                const bool bTagIsCurrent = run([&] { return TagIsCurrent(m_oLocus->LocusTag()); });
-                if (!bTagIsCurrent)
-                    run([&] { Parameters().Add(m_oLocus, ParameterKey::NewSaveAs); });
-            }
-        });
+            while (run([&] { return m_oLocus->Alleles().Count() > 0; }))
+                run([&] { m_oLocus->Alleles().Remove(1); });
+            for (const auto& oAllele : run([&] { return m_oCopyOfLocus->Alleles().Members(); }))
+                run([&] { m_oLocus->Alleles().Add(oAllele); });
+        }
+        if (run([&] { return m_oLocus->LocusTagID() < 1; }))
+        {
+            run([&] { RemoveParameter(ParameterKey::NewLocus); });
+            run([&] { Parameters().Add(m_oLocus, ParameterKey::NewLocus); });
+        }
+        run([&] { Objects().Save(*m_oLocus, true); });
+        if (m_bSavedAs)
+        {
+            run([&] { RemoveParameter(ParameterKey::NewSaveAs); });
+            const bool bTagIsCurrent = run([&] { return TagIsCurrent(m_oLocus->LocusTag()); });
+            if (!bTagIsCurrent)
+                run([&] { Parameters().Add(m_oLocus, ParameterKey::NewSaveAs); });
+        }
+    });
 }
 
 void LocusEditorPage::HoldLocus(const std::shared_ptr<Locus>& oLocus)

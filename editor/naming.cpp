@@ -84,35 +84,29 @@ void LocusEditorPage::Steps::StoreNamingConvention(Page& page, Locus& oLocus)
 
 void LocusEditorPage::optAlleleNaming_Click(int Index)
 {
-    Terminal("optAlleleNaming_Click",
-             [&](Guard& run)
-             {
-                 const Naming::Option& option = Naming::Options[Index];
-                 run([&] { StartAtAlphanumeric(option.StartsAtAlphanumeric); });
-                 run([&] { StartAtNumeric(option.StartsAtNumeric); });
-             });
+    Terminal("optAlleleNaming_Click", [&](Guard& run) {
+        const Naming::Option& option = Naming::Options[Index];
+        run([&] { StartAtAlphanumeric(option.StartsAtAlphanumeric); });
+        run([&] { StartAtNumeric(option.StartsAtNumeric); });
+    });
 }
 
 void LocusEditorPage::StartAtAlphanumeric(bool bEnabled)
 {
-    Propagating("StartAtAlphanumeric (Let)",
-                [&](Guard& run)
-                {
-                    run([&] { txtStartAtAlphanumeric.SetEnabled(bEnabled); });
-                    run([&] { udStartAtAlphanumeric.SetEnabled(bEnabled); });
-                    run([&] { lblStartAtAlphanumeric.SetEnabled(bEnabled); });
-                });
+    Propagating("StartAtAlphanumeric (Let)", [&](Guard& run) {
+        run([&] { txtStartAtAlphanumeric.SetEnabled(bEnabled); });
+        run([&] { udStartAtAlphanumeric.SetEnabled(bEnabled); });
+        run([&] { lblStartAtAlphanumeric.SetEnabled(bEnabled); });
+    });
 }
 
 void LocusEditorPage::StartAtNumeric(bool bEnabled)
 {
-    Propagating("StartAtNumeric (Let)",
-                [&](Guard& run)
-                {
-                    run([&] { txtStartAtNumeric.SetEnabled(bEnabled); });
-                    run([&] { udStartAtNumeric.SetEnabled(bEnabled); });
-                    run([&] { lblStartAtNumeric.SetEnabled(bEnabled); });
-                });
+    Propagating("StartAtNumeric (Let)", [&](Guard& run) {
+        run([&] { txtStartAtNumeric.SetEnabled(bEnabled); });
+        run([&] { udStartAtNumeric.SetEnabled(bEnabled); });
+        run([&] { lblStartAtNumeric.SetEnabled(bEnabled); });
+    });
 }
 
 void LocusEditorPage::udStartAtAlphanumeric_UpClick()
@@ -123,19 +117,18 @@ void LocusEditorPage::udStartAtAlphanumeric_UpClick()
 
 void LocusEditorPage::udStartAtAlphanumeric_DownClick()
 {
-    Terminal("udStartAtAlphanumeric_DownClick", [&](Guard& run)
-             { Naming::StepStartAtAlphanumeric(run, *this, &Locus::PreviousStartAt); });
+    Terminal("udStartAtAlphanumeric_DownClick", [&](Guard& run) {
+        Naming::StepStartAtAlphanumeric(run, *this, &Locus::PreviousStartAt);
+    });
 }
 
 void LocusEditorPage::txtLocusTag_Change()
 {
-    Terminal("txtLocusTag_Change",
-             [&](Guard& run)
-             {
-                 run([&] { m_oPageBase->PageChanged(); });
-                 if (Trim(txtLocusTag.Text()).empty())
-                     run([&] { m_oLocus->SetIsCurrent(false); });
-             });
+    Terminal("txtLocusTag_Change", [&](Guard& run) {
+        run([&] { m_oPageBase->PageChanged(); });
+        if (Trim(txtLocusTag.Text()).empty())
+            run([&] { m_oLocus->SetIsCurrent(false); });
+    });
 }
 
 } // namespace Tamrivo

@@ -57,26 +57,22 @@ std::optional<double> WholeNumber(const TextField& field)
 
 void LocusEditorPage::txtFragStart_LostFocus()
 {
-    Terminal("txtFragStart_LostFocus",
-             [&](Guard& run)
-             {
-                 Repair(run, *this, FragStart);
-                 run([&] { udShortestAlleleSize.SetMin(ToInteger(txtFragStart.Text())); });
-                 run([&] { RaiseShortestAlleleSize(); });
-                 run([&] { m_oPageBase->PageChanged(); });
-             });
+    Terminal("txtFragStart_LostFocus", [&](Guard& run) {
+        Repair(run, *this, FragStart);
+        run([&] { udShortestAlleleSize.SetMin(ToInteger(txtFragStart.Text())); });
+        run([&] { RaiseShortestAlleleSize(); });
+        run([&] { m_oPageBase->PageChanged(); });
+    });
 }
 
 void LocusEditorPage::txtFragEnd_LostFocus()
 {
-    Terminal("txtFragEnd_LostFocus",
-             [&](Guard& run)
-             {
-                 Repair(run, *this, FragEnd);
-                 run([&] { udShortestAlleleSize.SetMax(ToInteger(txtFragEnd.Text())); });
-                 run([&] { LowerShortestAlleleSize(); });
-                 run([&] { m_oPageBase->PageChanged(); });
-             });
+    Terminal("txtFragEnd_LostFocus", [&](Guard& run) {
+        Repair(run, *this, FragEnd);
+        run([&] { udShortestAlleleSize.SetMax(ToInteger(txtFragEnd.Text())); });
+        run([&] { LowerShortestAlleleSize(); });
+        run([&] { m_oPageBase->PageChanged(); });
+    });
 }
 
 void LocusEditorPage::RaiseShortestAlleleSize()
@@ -136,36 +132,30 @@ void LocusEditorPage::txtPloidy_LostFocus()
 
 void LocusEditorPage::txtConfInt_LostFocus()
 {
-    Terminal("txtConfChoice_LostFocus",
-             [&](Guard& run)
-             {
-                 if (!IsNumeric(txtConfInt.Text()))
-                     run([&] { txtConfInt.SetText("0"); });
-                 else if (run([&] { return ToDouble(txtConfInt.Text()) > 1; }))
-                     run([&] { txtConfInt.SetText("1"); });
-                 else if (run([&] { return ToDouble(txtConfInt.Text()) < 0; }))
-                     run([&] { txtConfInt.SetText("0"); });
-             });
+    Terminal("txtConfChoice_LostFocus", [&](Guard& run) {
+        if (!IsNumeric(txtConfInt.Text()))
+            run([&] { txtConfInt.SetText("0"); });
+        else if (run([&] { return ToDouble(txtConfInt.Text()) > 1; }))
+            run([&] { txtConfInt.SetText("1"); });
+        else if (run([&] { return ToDouble(txtConfInt.Text()) < 0; }))
+            run([&] { txtConfInt.SetText("0"); });
+    });
 }
 
 void LocusEditorPage::txtStartAtAlphanumeric_LostFocus()
 {
-    Terminal("txtStartAtAlphanumeric_LostFocus",
-             [&](Guard& run)
-             {
-                 if (txtStartAtAlphanumeric.Text().empty())
-                     run([&] { txtStartAtAlphanumeric.SetText("A"); });
-             });
+    Terminal("txtStartAtAlphanumeric_LostFocus", [&](Guard& run) {
+        if (txtStartAtAlphanumeric.Text().empty())
+            run([&] { txtStartAtAlphanumeric.SetText("A"); });
+    });
 }
 
 void LocusEditorPage::txtStartAtNumeric_LostFocus()
 {
-    Terminal("txtStartAtNumeric_LostFocus",
-             [&](Guard& run)
-             {
-                 if (txtStartAtNumeric.Text().empty())
-                     run([&] { txtStartAtNumeric.SetText("1"); });
-             });
+    Terminal("txtStartAtNumeric_LostFocus", [&](Guard& run) {
+        if (txtStartAtNumeric.Text().empty())
+            run([&] { txtStartAtNumeric.SetText("1"); });
+    });
 }
 
 void LocusEditorPage::txtStartAtNumeric_Change()

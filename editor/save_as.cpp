@@ -26,48 +26,45 @@ constexpr void (*CopySteps[])(const Allele& oSource, Allele& oNew) = {
 
 void LocusEditorPage::cmdSaveAs_Click()
 {
-    Terminal(
-        "cmdSaveAs_Click",
-        [&](Guard& run)
+    Terminal("cmdSaveAs_Click", [&](Guard& run) {
+        const auto oParameters = run([&] { return m_oPageBase->Parameters(); });
+        const auto oNewLocus = run([&] { return CreateObject<Locus>(Objects(), "Locus"); });
+        run([&] { RemoveParameter(ParameterKey::SaveLocusAs); });
+        run([&] { UpdateLocus(oNewLocus); });
+        if (!m_bBinning)
+            run([&] { UpdateLocus(m_oCopyOfLocus); });
+
+        for (const auto& oMember : run([&] { return WorkingLocus()->Alleles().Members(); }))
         {
-            const auto oParameters = run([&] { return m_oPageBase->Parameters(); });
-            const auto oNewLocus = run([&] { return CreateObject<Locus>(Objects(), "Locus"); });
-            run([&] { RemoveParameter(ParameterKey::SaveLocusAs); });
-            run([&] { UpdateLocus(oNewLocus); });
-            if (!m_bBinning)
-                run([&] { UpdateLocus(m_oCopyOfLocus); });
+            const auto oSource = run([&] { return As<Allele>(oMember); });
+            const auto oAllele = run([&] { return CreateObject<Allele>(Objects(), "Allele"); });
+            run([&] { oAllele->SetAlleleOwner(oNewLocus); });
+            for (const auto copy : CopySteps)
+                run([&] { copy(*oSource, *oAllele); });
+            run([&] { oNewLocus->Alleles().Add(oAllele); });
+        }
+        run([&] { Parameters().Add(oNewLocus, ParameterKey::SaveLocusAs); });
 
-            for (const auto& oMember : run([&] { return WorkingLocus()->Alleles().Members(); }))
-            {
-                const auto oSource = run([&] { return As<Allele>(oMember); });
-                const auto oAllele = run([&] { return CreateObject<Allele>(Objects(), "Allele"); });
-                run([&] { oAllele->SetAlleleOwner(oNewLocus); });
-                for (const auto copy : CopySteps)
-                    run([&] { copy(*oSource, *oAllele); });
-                run([&] { oNewLocus->Alleles().Add(oAllele); });
-            }
-            run([&] { Parameters().Add(oNewLocus, ParameterKey::SaveLocusAs); });
+        const auto oResult =
+            run([&] { return StartWizard(m_host.SharedLauncher(), SaveAsWizard, oParameters); });
+        if (oResult->Cancelled())
+            return;
 
-            const auto oResult = run(
-                [&] { return StartWizard(m_host.SharedLauncher(), SaveAsWizard, oParameters); });
-            if (oResult->Cancelled())
-                return;
-
-            if (EqualNoCase(m_oLocus->LocusTag(), oNewLocus->LocusTag()))
-            {
-                m_bSavedAs = false;
-                run([&] { m_oPageBase_Save(); });
-            }
-            else
-            {
-                run([&] { HoldLocus(oNewLocus); });
-                m_bSavedAs = true;
-                run([&] { txtLocusTag.SetText(m_oLocus->LocusTag()); });
-                run([&] { CountNewTag(); });
-            }
-            run([&] { txtLocusTag.SetVisible(false); });
-            run([&] { lblLocusTag.SetCaption(txtLocusTag.Text()); });
-        });
+        if (EqualNoCase(m_oLocus->LocusTag(), oNewLocus->LocusTag()))
+        {
+            m_bSavedAs = false;
+            run([&] { m_oPageBase_Save(); });
+        }
+        else
+        {
+            run([&] { HoldLocus(oNewLocus); });
+            m_bSavedAs = true;
+            run([&] { txtLocusTag.SetText(m_oLocus->LocusTag()); });
+            run([&] { CountNewTag(); });
+        }
+        run([&] { txtLocusTag.SetVisible(false); });
+        run([&] { lblLocusTag.SetCaption(txtLocusTag.Text()); });
+    });
 }
 
 void LocusEditorPage::CountNewTag()

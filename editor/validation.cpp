@@ -32,59 +32,51 @@ void ClearMark(TextField& field)
 
 void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
 {
-    const auto fail = [&bIsValid](TextField& field, const char* why)
-    {
+    const auto fail = [&bIsValid](TextField& field, const char* why) {
         bIsValid = false;
         MarkFault(field, why);
     };
 
-    Propagating(
-        "m_oPageBase_Validate",
-        [&](Guard& run)
+    Propagating("m_oPageBase_Validate", [&](Guard& run) {
+        bIsValid = m_bAlleleListValid;
+        if (!m_bAlleleListValid)
+            return;
+
+        if (TrimRight(txtLocusTag.Text()).empty())
         {
-            bIsValid = m_bAlleleListValid;
-            if (!m_bAlleleListValid)
-                return;
-
-            if (TrimRight(txtLocusTag.Text()).empty())
-            {
-                run([&] { fail(txtLocusTag, TagRequired); });
-            }
+            run([&] { fail(txtLocusTag, TagRequired); });
+        }
+        else
+        {
+            run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
+            const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
+            const bool bTagIsFree = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
+            if (bTagIsCurrent && bTagIsFree)
+                run([&] { fail(txtLocusTag, TagNotUnique); });
             else
-            {
-                run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
-                const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
-                const bool bTagIsFree = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
-                if (bTagIsCurrent && bTagIsFree)
-                    run([&] { fail(txtLocusTag, TagNotUnique); });
-                else
-                    run([&] { txtLocusTag.SetToolTipText(""); });
-            }
+                run([&] { txtLocusTag.SetToolTipText(""); });
+        }
 
-            if (IsNumeric(txtFragStart.Text()) && IsNumeric(txtFragEnd.Text()))
-            {
-                const bool bReversed = run(
-                    [&] { return ToInteger(txtFragStart.Text()) > ToInteger(txtFragEnd.Text()); });
-                for (TextField* field : {&txtFragStart, &txtFragEnd})
-                    run([&] { bReversed ? fail(*field, RangeReversed) : ClearMark(*field); });
-            }
+        if (IsNumeric(txtFragStart.Text()) && IsNumeric(txtFragEnd.Text()))
+        {
+            const bool bReversed =
+                run([&] { return ToInteger(txtFragStart.Text()) > ToInteger(txtFragEnd.Text()); });
+            for (TextField* field : {&txtFragStart, &txtFragEnd})
+                run([&] { bReversed ? fail(*field, RangeReversed) : ClearMark(*field); });
+        }
 
-            if (optAlleleNaming.Item(2).Value())
-            {
-                const bool bInRange = run(
-                    [&]
-                    {
-                        return !Trim(txtStartAtNumeric.Text()).empty() &&
-                               SharedUtility().IsIntegerInRange(txtStartAtNumeric, LeastStart,
-                                                                GreatestStart);
-                    });
-                run(
-                    [&] {
-                        bInRange ? ClearMark(txtStartAtNumeric)
-                                 : fail(txtStartAtNumeric, StartOutOfRange);
-                    });
-            }
-        });
+        if (optAlleleNaming.Item(2).Value())
+        {
+            const bool bInRange = run([&] {
+                return !Trim(txtStartAtNumeric.Text()).empty() &&
+                       SharedUtility().IsIntegerInRange(txtStartAtNumeric, LeastStart,
+                                                        GreatestStart);
+            });
+            run([&] {
+                bInRange ? ClearMark(txtStartAtNumeric) : fail(txtStartAtNumeric, StartOutOfRange);
+            });
+        }
+    });
 }
 
 } // namespace Tamrivo

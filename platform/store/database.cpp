@@ -17,9 +17,10 @@ struct Reason
 
 constexpr Reason Reasons[] = {
     {StoreError::Unreachable, "can't be reached"},
-    {StoreError::Locked, "has been locked by another program for more than five seconds"},
+    {StoreError::Locked, "has been locked by another program for more than five seconds. Try "
+                         "again when that has finished"},
     {StoreError::ReadOnly, "is read-only"},
-    {StoreError::DiskFull, "has no room left on its disk"},
+    {StoreError::DiskFull, "has no room left on its disk. Make room and try again"},
     {StoreError::NotAStore, "is no store of this program, or is damaged"},
     {StoreError::NameTaken, "already has another one of that name, apart from case and trailing "
                             "blanks. Choose another name"},
@@ -133,7 +134,7 @@ void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
 {
     std::string description = consequence + ": the store \"" + m_address + "\" ";
     description += ReasonText(number);
-    if (number != StoreError::NameTaken)
+    if (number == StoreError::Unreachable || number == StoreError::Database)
         description += " (" + message + ")";
     throw Failure(number, "Store", description);
 }

@@ -16,8 +16,8 @@ class Transaction
 {
 public:
     /// The outermost transaction reserves the store for writing at once: it waits up to five
-    /// seconds for another writer, then raises `StoreError::Locked`. Raises `StoreError::ReadOnly`
-    /// for a read-only store.
+    /// seconds for another writer, then raises `StoreError::Locked`. On a read-only store it is
+    /// the first write that raises `StoreError::ReadOnly`.
     explicit Transaction(Database& database);
     ~Transaction();
 

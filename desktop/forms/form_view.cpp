@@ -1,8 +1,10 @@
 #include "desktop/forms/form_view.h"
 
 #include "controls/label.h"
+#include "controls/user.h"
 #include "controls/user_control.h"
 #include "desktop/forms/accessible_name.h"
+#include "desktop/forms/actions.h"
 #include "desktop/text.h"
 
 #include <QEvent>
@@ -14,7 +16,7 @@ namespace Tamrivo
 
 FormView::FormView(UserControl& form, const Actions& actions, const HostedViewFactory& hosted,
                    QWidget* parent)
-    : QWidget(parent), m_form(form), m_layout(form)
+    : QWidget(parent), m_form(form), m_actions(actions), m_layout(form)
 {
     setObjectName(ToQString(form.Name()));
     for (Control* control : form.Controls())
@@ -88,6 +90,19 @@ void FormView::FocusFirst()
         if (view != nullptr && view->FocusWidget().isEnabled() &&
             view->FocusWidget().isVisibleTo(this))
             return view->FocusWidget().setFocus(Qt::TabFocusReason);
+    }
+}
+
+void FormView::BringToView(const Control& control)
+{
+    for (const Control* inner = &control; inner != nullptr; inner = inner->Parent().AsControl())
+    {
+        const auto* frame = dynamic_cast<const Frame*>(inner);
+        const Control* outer = inner->Parent().AsControl();
+        auto* strip = outer != nullptr ? dynamic_cast<TabStrip*>(m_form.Find(outer->Name()))
+                                       : nullptr;
+        if (frame != nullptr && strip != nullptr)
+            m_actions.Run([&] { User::Turn(*strip, frame->Tab()); });
     }
 }
 

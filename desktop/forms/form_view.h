@@ -27,6 +27,8 @@ public:
 
     /// Gives the first control of the form's focus order the focus.
     void FocusFirst();
+    /// Turns to the tab that the control lies on.
+    void BringToView(const Control& control);
     /// Leaves the field that has the focus, which runs its repair; the focus goes to `to`.
     void LeaveFocus(QWidget& to);
 
@@ -47,6 +49,7 @@ private:
     void FocusNextHosted();
 
     UserControl& m_form;
+    const Actions& m_actions;
     FormLayout m_layout;
     std::map<const Control*, ControlView*> m_views;
 };

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "desktop/forms/control_view.h"
+#include "platform/alleles/pane_user.h"
+
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QTableView;
+
+namespace Tamrivo
+{
+
+class AllelePicture;
+class AlleleTableModel;
+
+/// The allele pane of a form: the rows as a table beside a picture of their bins.
+class AllelePaneView : public QWidget, public ControlView
+{
+public:
+    AllelePaneView(User::AllelePaneControl& pane, QWidget& parent, const Actions& actions);
+    ~AllelePaneView() override;
+
+    QWidget& Widget() override { return *this; }
+    void Refresh() override;
+    QSize LeastSize() const override;
+    bool CanGrow() const override { return true; }
+    QWidget& FocusWidget() override;
+
+private:
+    void MakeActions();
+    QAction* AddAction(const QString& text, const char* icon, const QKeySequence& shortcut,
+                       const std::function<void()>& action);
+    void ShowRows();
+    void ShowState();
+    void MarkSelected();
+    void SelectRow(int row);
+    std::vector<std::int32_t> SelectedRows() const;
+
+    void AddRow();
+    void RemoveRows();
+    void Copy() const;
+    void Paste();
+
+    User::AllelePaneControl& m_control;
+    const Actions& m_actions;
+    AllelePane& m_pane;
+    AlleleTableModel* m_model;
+    QTableView* m_table;
+    AllelePicture* m_picture;
+    QLabel* m_state;
+    QAction* m_remove = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,250 @@
+#include "desktop/alleles/allele_picture.h"
+
+#include "contracts/locus.h"
+#include "desktop/pictures/colors.h"
+#include "desktop/pictures/length_axis.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <ranges>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr int margin = 8;
+
+/// How a state is shown, and what the legend says of it.
+struct StateLook
+{
+    BinState State;
+    QColor Color;
+    Qt::BrushStyle Pattern;
+    const char* Legend;
+};
+
+constexpr StateLook looks[] = {
+    {BinState::InOrder, SafeColor::Blue, Qt::SolidPattern, "Bin"},
+    {BinState::Overlapping, SafeColor::Vermillion, Qt::BDiagPattern, "Overlapping"},
+    {BinState::OutOfRange, SafeColor::Orange, Qt::DiagCrossPattern, "Outside the range"},
+};
+
+const StateLook& LookOf(BinState state)
+{
+    return *std::ranges::find(looks, state, &StateLook::State);
+}
+
+void FillBin(QPainter& painter, const QRectF& rect, const StateLook& look)
+{
+    if (look.Pattern != Qt::SolidPattern)
+    {
+        QColor ground = look.Color;
+        ground.setAlphaF(0.35F);
+        painter.fillRect(rect, ground);
+    }
+    painter.fillRect(rect, QBrush(look.Color, look.Pattern));
+    painter.setPen(look.Color);
+    painter.drawRect(rect);
+}
+
+} // namespace
+
+AllelePicture::AllelePicture(QWidget* parent) : QWidget(parent)
+{
+    setMouseTracking(true);
+    setAccessibleName("Picture of the bins along the fragment length");
+}
+
+void AllelePicture::Show(const AlleleRows& rows, const Locus* locus)
+{
+    m_hasLocus = locus != nullptr;
+    m_shapes = m_hasLocus ? ShapesOf(rows, *locus) : std::vector<BinShape>();
+    m_low = m_rangeStart = m_hasLocus ? locus->FragStart : 0;
+    m_high = m_rangeEnd = m_hasLocus ? locus->FragEnd : 1;
+    for (const BinShape& shape : m_shapes)
+    {
+        m_low = std::min(m_low, shape.From);
+        m_high = std::max(m_high, shape.To);
+    }
+    const double edge = std::max(1.0, (m_high - m_low) * 0.02);
+    m_low -= edge;
+    m_high += edge;
+
+    const auto faulty = std::ranges::count_if(
+        m_shapes, [](const BinShape& shape) { return shape.State != BinState::InOrder; });
+    setAccessibleDescription(QString("%1 bins, %2 of them overlapping or outside the range")
+                                 .arg(m_shapes.size())
+                                 .arg(faulty));
+    update();
+}
+
+void AllelePicture::Mark(const std::set<std::int32_t>& rows)
+{
+    m_marked = rows;
+    update();
+}
+
+QSize AllelePicture::sizeHint() const
+{
+    const int line = fontMetrics().lineSpacing();
+    return {30 * line, 9 * line};
+}
+
+double AllelePicture::LegendHeight() const
+{
+    return fontMetrics().lineSpacing() + margin / 2;
+}
+
+double AllelePicture::BaseLine() const
+{
+    return height() - fontMetrics().height() - margin - LegendHeight();
+}
+
+LengthAxis AllelePicture::Axis() const
+{
+    return {m_low, m_high, margin, static_cast<double>(width() - margin)};
+}
+
+QRectF AllelePicture::RectOf(const BinShape& shape) const
+{
+    constexpr double leastWidth = 3;
+    const LengthAxis axis = Axis();
+    const double left = axis.X(shape.From);
+    const double width = std::max(leastWidth, axis.X(shape.To) - left);
+    const double height = std::max(12.0, (BaseLine() - margin) * 0.55);
+    return {left, BaseLine() - height, width, height};
+}
+
+const BinShape* AllelePicture::ShapeAt(QPointF place) const
+{
+    // The one drawn last lies on top.
+    for (const BinShape& shape : m_shapes | std::views::reverse)
+    {
+        if (RectOf(shape).adjusted(-1, 0, 1, 0).contains(place))
+            return &shape;
+    }
+    return nullptr;
+}
+
+void AllelePicture::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().base());
+    if (!m_hasLocus)
+        return;
+    const LengthAxis axis = Axis();
+    DrawRange(painter, axis);
+    axis.Draw(painter, palette(), BaseLine(), margin);
+    for (const BinShape& shape : m_shapes)
+        DrawBin(painter, shape);
+    DrawNames(painter);
+    DrawLegend(painter);
+}
+
+void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
+{
+    QColor ground = SafeColor::SkyBlue;
+    ground.setAlphaF(0.15F);
+    const double left = axis.X(m_rangeStart);
+    const double right = axis.X(m_rangeEnd);
+    painter.fillRect(QRectF(left, margin / 2, right - left, BaseLine() - margin / 2), ground);
+    painter.setPen(QPen(SafeColor::SkyBlue, 1, Qt::DashLine));
+    for (const double x : {left, right})
+        painter.drawLine(QPointF(x, margin / 2), QPointF(x, BaseLine()));
+}
+
+void AllelePicture::DrawBin(QPainter& painter, const BinShape& shape) const
+{
+    const QRectF rect = RectOf(shape);
+    FillBin(painter, rect, LookOf(shape.State));
+    const double size = Axis().X(shape.Size);
+    painter.setPen(QPen(palette().color(QPalette::Text), 1));
+    painter.drawLine(QPointF(size, rect.top() - 3), QPointF(size, rect.top() + 3));
+    if (m_marked.contains(shape.Row))
+    {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(palette().color(QPalette::Text), 2));
+        painter.drawRect(rect.adjusted(-2, -2, 2, 1));
+    }
+}
+
+void AllelePicture::DrawNames(QPainter& painter) const
+{
+    // Upright while there is room, else turned, and then as many as fit; a marked one always.
+    const QFontMetrics font = fontMetrics();
+    double room = width();
+    double longest = 0;
+    for (std::size_t i = 0; i < m_shapes.size(); ++i)
+    {
+        longest = std::max<double>(longest, font.horizontalAdvance(m_shapes[i].Name));
+        if (i > 0)
+            room = std::min(room, RectOf(m_shapes[i]).center().x() -
+                                      RectOf(m_shapes[i - 1]).center().x());
+    }
+    const bool isTurned = longest + 4 > room;
+    double free = -1;
+    painter.setPen(palette().color(QPalette::Text));
+    for (const BinShape& shape : m_shapes)
+    {
+        const QRectF rect = RectOf(shape);
+        const double length = font.horizontalAdvance(shape.Name);
+        const double half = (isTurned ? font.height() : length) / 2.0;
+        const double x = rect.center().x();
+        if (x - half < free && !m_marked.contains(shape.Row))
+            continue;
+        free = x + half;
+        painter.save();
+        painter.translate(x, rect.top() - 5);
+        if (isTurned)
+        {
+            painter.rotate(-90);
+            painter.drawText(QPointF(0, font.ascent() / 2.0 - 1), shape.Name);
+        }
+        else
+            painter.drawText(QPointF(-length / 2, 0), shape.Name);
+        painter.restore();
+    }
+}
+
+void AllelePicture::DrawLegend(QPainter& painter) const
+{
+    const QFontMetrics font = fontMetrics();
+    const double swatch = font.ascent();
+    double x = margin;
+    const double top = height() - LegendHeight();
+    for (const StateLook& look : looks)
+    {
+        FillBin(painter, {x, top + 1, swatch, swatch}, look);
+        x += swatch + margin / 2;
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(QPointF(x, top + font.ascent()), look.Legend);
+        x += font.horizontalAdvance(look.Legend) + 2 * margin;
+    }
+}
+
+void AllelePicture::mousePressEvent(QMouseEvent* event)
+{
+    const BinShape* shape = ShapeAt(event->position());
+    if (shape != nullptr && onClicked)
+        onClicked(shape->Row);
+}
+
+bool AllelePicture::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (const BinShape* shape = ShapeAt(help->pos()))
+        QToolTip::showText(help->globalPos(), Describe(*shape), this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+} // namespace Tamrivo

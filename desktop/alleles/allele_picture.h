@@ -1,0 +1,61 @@
+#pragma once
+
+#include "desktop/alleles/bin_shapes.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <set>
+
+namespace Tamrivo
+{
+
+class LengthAxis;
+
+/// The bins of a locus along the fragment length.
+class AllelePicture : public QWidget
+{
+public:
+    explicit AllelePicture(QWidget* parent);
+
+    /// Shows the alleles of a locus; no locus leaves the picture empty.
+    void Show(const AlleleRows& rows, const Locus* locus);
+    /// Marks rows, counted from 1.
+    void Mark(const std::set<std::int32_t>& rows);
+
+    const std::vector<BinShape>& Shapes() const { return m_shapes; }
+    /// Where a bin stands in the widget.
+    QRectF RectOf(const BinShape& shape) const;
+
+    /// A click on a bin, with its row.
+    std::function<void(std::int32_t row)> onClicked;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint() / 2; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    LengthAxis Axis() const;
+    /// Top of the axis; bins and names stand above it.
+    double BaseLine() const;
+    double LegendHeight() const;
+    const BinShape* ShapeAt(QPointF place) const;
+    void DrawRange(QPainter& painter, const LengthAxis& axis) const;
+    void DrawBin(QPainter& painter, const BinShape& shape) const;
+    void DrawNames(QPainter& painter) const;
+    void DrawLegend(QPainter& painter) const;
+
+    std::vector<BinShape> m_shapes;
+    std::set<std::int32_t> m_marked;
+    bool m_hasLocus = false;
+    double m_rangeStart = 0;
+    double m_rangeEnd = 0;
+    double m_low = 0;
+    double m_high = 1;
+};
+
+} // namespace Tamrivo

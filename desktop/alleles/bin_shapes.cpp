@@ -1,0 +1,46 @@
+#include "desktop/alleles/bin_shapes.h"
+
+#include "contracts/locus.h"
+#include "core/numbers.h"
+#include "desktop/text.h"
+
+#include <algorithm>
+
+namespace Tamrivo
+{
+
+std::vector<BinShape> ShapesOf(const AlleleRows& rows, const Locus& locus)
+{
+    std::vector<BinShape> shapes;
+    for (const auto& allele : rows)
+    {
+        const auto [from, to] = std::minmax(allele->AlleleReal2, allele->AlleleReal3);
+        const bool isInside = locus.FragStart <= from && to <= locus.FragEnd;
+        shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to,
+                          allele->AlleleReal1,
+                          isInside ? BinState::InOrder : BinState::OutOfRange,
+                          ToQString(allele->AlleleText1)});
+    }
+    for (const auto& [row, other] : OverlappingBins(rows))
+    {
+        for (const std::int32_t overlapping : {row, other})
+            shapes[static_cast<std::size_t>(overlapping - 1)].State = BinState::Overlapping;
+    }
+    return shapes;
+}
+
+QString Describe(const BinShape& shape)
+{
+    const QString name = shape.Name.isEmpty() ? QString("without a name") : shape.Name;
+    QString text = QString("Row %1: %2, %3 nt, bin %4 to %5 nt")
+                       .arg(shape.Row)
+                       .arg(name, ToQString(DoubleText(shape.Size)),
+                            ToQString(DoubleText(shape.From)), ToQString(DoubleText(shape.To)));
+    if (shape.State == BinState::Overlapping)
+        text += "\nOverlaps another bin";
+    else if (shape.State == BinState::OutOfRange)
+        text += "\nReaches outside the fragment range";
+    return text;
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/alleles/allele_problems.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace Tamrivo
+{
+
+class Locus;
+
+/// What the picture tells of a bin by colour and pattern.
+enum class BinState
+{
+    InOrder,
+    Overlapping, ///< With another bin.
+    OutOfRange,  ///< Not wholly within the fragment range.
+};
+
+/// A bin in the picture, lengths in nt.
+struct BinShape
+{
+    std::int32_t Row; ///< Counted from 1.
+    double From;
+    double To;
+    double Size;
+    BinState State;
+    QString Name;
+};
+
+/// The bins of a list in the order of its rows. A bin whose ends stand the wrong way round is shown
+/// between them all the same.
+std::vector<BinShape> ShapesOf(const AlleleRows& rows, const Locus& locus);
+
+/// What a bin's shape means, in words.
+QString Describe(const BinShape& shape);
+
+} // namespace Tamrivo

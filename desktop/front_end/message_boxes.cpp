@@ -1,0 +1,67 @@
+#include "desktop/front_end/message_boxes.h"
+
+#include "desktop/text.h"
+#include "platform/framework/environment.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace Tamrivo
+{
+
+MessageAnswer ShowMessageBox(QWidget* parent, const std::string& text, std::int32_t kind,
+                             const std::string& title)
+{
+    const bool isQuestion = kind == MessageKind::ExclamationYesNo;
+    QMessageBox box(parent);
+    box.setWindowTitle(ToQString(title));
+    box.setText(ToQString(text));
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(kind == MessageKind::Critical ? QMessageBox::Critical : QMessageBox::Warning);
+    box.setStandardButtons(isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    box.setDefaultButton(isQuestion ? QMessageBox::Yes : QMessageBox::Ok);
+    box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
+    const int answer = box.exec();
+    if (!isQuestion)
+        return MessageAnswer::Ok;
+    return answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+void OpenLog(QWidget* parent)
+{
+    const QString path = QString::fromStdString((StateDirectory() / "tamrivo.log").string());
+    if (!QFileInfo::exists(path))
+        QMessageBox::information(parent, "Log", "There is no log yet: nothing has failed so far.");
+    else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        QMessageBox::information(parent, "Log",
+                                 "No program is set up to open the log. It stands in\n" + path);
+}
+
+void ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& place)
+{
+    QMessageBox box(parent);
+    box.setObjectName("failure");
+    box.setWindowTitle("Tamrivo");
+    box.setIcon(QMessageBox::Critical);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(error.Description.empty()
+                    ? QString("Something went wrong, and what failed gives no reason.")
+                    : ToQString(error.Description));
+    QString details = "Raised by: " + ToQString(error.Source) +
+                      "\nNumber of the failure: " + QString::number(error.Number);
+    if (!place.isEmpty())
+        details += "\nCaught in: " + place;
+    box.setDetailedText(details);
+    box.setStandardButtons(QMessageBox::Ok);
+
+    QPushButton* log = box.addButton("Open &Log", QMessageBox::ActionRole);
+    // A button of the box would close it.
+    log->disconnect();
+    QObject::connect(log, &QPushButton::clicked, &box, [&box] { OpenLog(&box); });
+    box.exec();
+}
+
+} // namespace Tamrivo

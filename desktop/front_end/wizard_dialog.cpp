@@ -1,0 +1,160 @@
+#include "desktop/front_end/wizard_dialog.h"
+
+#include "contracts/launcher.h"
+#include "controls/text_field.h"
+#include "desktop/forms/actions.h"
+#include "desktop/forms/form_view.h"
+#include "desktop/front_end/hosted_views.h"
+#include "desktop/front_end/page_reasons.h"
+#include "desktop/settings.h"
+#include "desktop/text.h"
+#include "platform/framework/wizard_session.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShowEvent>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// What a person is told of a wizard.
+struct WizardText
+{
+    std::string_view Wizard;
+    const char* Title;
+    const char* Invalid; ///< When the page marks no field.
+};
+
+constexpr WizardText wizardTexts[] = {
+    {LocusEditorWizard.Name, "Locus", "The locus can't be stored as it is."},
+    {SaveAsWizard.Name, "Save Locus Tag As", "Enter a tag that no other locus has."},
+};
+
+/// Dark on a pale yellow: readable in light and dark themes alike.
+QPalette ReasonPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(255, 243, 196));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    return palette;
+}
+
+WizardText TextOf(const std::string& wizard)
+{
+    const auto* found = std::ranges::find(wizardTexts, wizard, &WizardText::Wizard);
+    return found != std::end(wizardTexts)
+               ? *found
+               : WizardText{wizard, wizard.c_str(), "The page is not valid yet."};
+}
+
+} // namespace
+
+WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidget* parent)
+    : QDialog(parent),
+      m_wizard(wizard),
+      m_actions(actions),
+      m_page(new FormView(wizard.Page(), actions, NewHostedView)),
+      m_reasons(new QLabel(this))
+{
+    setObjectName(ToQString(wizard.Name()));
+    setWindowTitle(TextOf(wizard.Name()).Title);
+    setSizeGripEnabled(true);
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(m_page);
+    m_reasons->setObjectName("reasons");
+    m_reasons->setAccessibleName("Why the page can't be finished");
+    m_reasons->setTextFormat(Qt::PlainText);
+    m_reasons->setWordWrap(true);
+    m_reasons->setMargin(fontMetrics().averageCharWidth());
+    m_reasons->setAutoFillBackground(true);
+    m_reasons->setPalette(ReasonPalette());
+    m_reasons->hide();
+
+    auto* buttons = new QDialogButtonBox(this);
+    m_finish = buttons->addButton("&Finish", QDialogButtonBox::AcceptRole);
+    m_finish->setObjectName("finish");
+    m_finish->setDefault(true);
+    m_cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    m_cancel->setObjectName("cancel");
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(scroll, 1);
+    layout->addWidget(m_reasons);
+    layout->addWidget(buttons);
+
+    m_wizard.Validated = [this] { ShowReasons(); };
+    ShowReasons();
+    const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
+    resize(natural.expandedTo(sizeHint()).boundedTo(screen()->availableSize() * 0.95));
+    RestorePlace(*this);
+}
+
+WizardDialog::~WizardDialog()
+{
+    m_wizard.Validated = nullptr;
+    RememberPlace(*this);
+}
+
+void WizardDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        m_page->FocusFirst();
+}
+
+void WizardDialog::ShowReasons()
+{
+    QStringList reasons = ReasonsOf(m_wizard.Page());
+    if (reasons.isEmpty())
+        reasons += TextOf(m_wizard.Name()).Invalid;
+    m_reasons->setText(reasons.join('\n'));
+    m_reasons->setVisible(!m_wizard.IsValid());
+}
+
+void WizardDialog::FocusFault()
+{
+    const TextField* field = FirstFault(m_wizard.Page());
+    if (field == nullptr)
+        return m_page->FocusFirst();
+    QWidget& widget = m_page->ViewOf(*field)->FocusWidget();
+    m_page->BringToView(*field);
+    widget.setFocus(Qt::OtherFocusReason);
+}
+
+void WizardDialog::accept()
+{
+    // The field is left first, so that its repair runs before the page is judged.
+    m_page->LeaveFocus(*m_finish);
+    m_actions.Run(
+        [this]
+        {
+            if (m_wizard.Finish())
+                QDialog::accept();
+            else
+                FocusFault();
+        });
+}
+
+void WizardDialog::reject()
+{
+    m_page->LeaveFocus(*m_cancel);
+    m_actions.Run([this] { m_wizard.Cancel(); });
+    QDialog::reject();
+}
+
+} // namespace Tamrivo

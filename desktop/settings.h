@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace Tamrivo
+{
+
+// What the program remembers between its runs, in the user's configuration.
+
+/// Size and place of a window, under its object name.
+void RememberPlace(const QWidget& window);
+/// False when nothing is remembered.
+bool RestorePlace(QWidget& window);
+
+/// Addresses of the stores that were opened last, the latest first.
+QStringList RecentStores();
+void RememberStore(const QString& address);
+void ForgetStore(const QString& address);
+
+/// The analysis parameter that was shown last in a store; empty for none.
+QString LastParameter(const QString& store);
+void RememberParameter(const QString& store, const QString& parameter);
+
+/// Steps by which the text is larger than the desktop's own.
+int TextSteps();
+void RememberTextSteps(int steps);
+
+} // namespace Tamrivo

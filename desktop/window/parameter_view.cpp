@@ -1,0 +1,191 @@
+#include "desktop/window/parameter_view.h"
+
+#include "desktop/forms/actions.h"
+#include "desktop/forms/form_view.h"
+#include "desktop/front_end/hosted_views.h"
+#include "desktop/icons.h"
+#include "desktop/lanes/locus_lanes.h"
+#include "desktop/text.h"
+#include "platform/framework/host_application.h"
+#include "platform/framework/parameter_page.h"
+#include "platform/grid/grid_model.h"
+#include "platform/grid/grid_user.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QTableView>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr std::int32_t tagColumn = 1;
+
+/// Moves every row whose tag `moves` takes to the other grid, as a double click does.
+void MoveRows(User::GridControl& grid, const std::function<bool(const std::string&)>& moves)
+{
+    const GridModel& rows = ModelOf(grid.Object());
+    // From the end, since a moved row takes those behind it along.
+    for (std::int32_t row = rows.Rows(); row > 0; --row)
+    {
+        if (moves(rows.Cell(row, tagColumn)))
+            User::DoubleClick(grid, row);
+    }
+}
+
+} // namespace
+
+ParameterView::ParameterView(HostApplication& host, const Actions& actions,
+                             const std::string& name, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_actions(actions),
+      m_name(name),
+      m_splitter(new QSplitter(Qt::Vertical, this)),
+      m_lanes(new LocusLanes(actions, this)),
+      m_save(new QPushButton(ThemeIcon("document-save"), "&Save", this)),
+      m_revert(new QPushButton(ThemeIcon("document-revert"), "Re&vert", this))
+{
+    m_save->setObjectName("save");
+    m_save->setToolTip("Store the selection in the analysis parameter");
+    m_revert->setObjectName("revert");
+    m_revert->setToolTip("Go back to the selection that is stored");
+    connect(m_save, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Save(); }); });
+    connect(m_revert, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Revert(); }); });
+
+    auto* scroll = new QScrollArea(m_splitter);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    m_splitter->addWidget(scroll);
+    m_splitter->addWidget(m_lanes);
+    m_splitter->setStretchFactor(0, 3);
+    m_splitter->setStretchFactor(1, 2);
+    m_splitter->setChildrenCollapsible(false);
+
+    auto* title = new QLabel(ToQString(name), this);
+    title->setTextFormat(Qt::PlainText);
+    QFont large = title->font();
+    large.setBold(true);
+    title->setFont(large);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(title, 1);
+    buttons->addWidget(m_save);
+    buttons->addWidget(m_revert);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(buttons);
+    layout->addWidget(m_splitter, 1);
+
+    // Changes of many rows come one by one.
+    m_selectionChanged.setSingleShot(true);
+    m_selectionChanged.setInterval(0);
+    connect(&m_selectionChanged, &QTimer::timeout, this,
+            [this] { m_actions.Run([this] { ShowSelection(); }); });
+    Open();
+}
+
+ParameterView::~ParameterView()
+{
+    // The form goes before the page that it shows.
+    delete m_form;
+}
+
+void ParameterView::Open()
+{
+    auto page = std::make_unique<ParameterPage>(m_host, m_host.Parameters().Open(m_name));
+    delete m_form;
+    m_page = std::move(page);
+    m_form = new FormView(m_page->Selector(), m_actions, NewHostedView);
+    static_cast<QScrollArea*>(m_splitter->widget(0))->setWidget(m_form);
+    WatchSelection();
+    ShowSelection();
+}
+
+void ParameterView::WatchSelection()
+{
+    const auto& view =
+        dynamic_cast<QTableView&>(m_form->ViewOf(m_page->Selector().gridSelected)->Widget());
+    const auto* rows = view.model();
+    const auto restart = [this] { m_selectionChanged.start(); };
+    connect(rows, &QAbstractItemModel::rowsInserted, this, restart);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, restart);
+    connect(rows, &QAbstractItemModel::modelReset, this, restart);
+    connect(rows, &QAbstractItemModel::dataChanged, this, restart);
+}
+
+void ParameterView::ShowSelection()
+{
+    std::vector<LaneLocus> loci;
+    for (const auto& locus : m_page->Selector().SelectedLocusTags())
+        loci.push_back({locus->LocusTag(), locus->DyeIndex, locus->FragStart, locus->FragEnd});
+    m_lanes->SetLoci(std::move(loci));
+    m_isChanged = m_page->IsChanged();
+    m_save->setEnabled(m_isChanged);
+    m_revert->setEnabled(m_isChanged);
+    if (onChanged)
+        onChanged();
+}
+
+bool ParameterView::IsChanged() const
+{
+    return m_selectionChanged.isActive() ? m_page->IsChanged() : m_isChanged;
+}
+
+void ParameterView::Save()
+{
+    m_page->Save();
+    ShowSelection();
+}
+
+void ParameterView::Revert()
+{
+    Open();
+}
+
+void ParameterView::Reload()
+{
+    const bool wasChanged = IsChanged();
+    const auto tags = SelectedTags();
+    Open();
+    if (wasChanged)
+        Select({tags.begin(), tags.end()});
+}
+
+void ParameterView::Select(const std::set<std::string>& tags)
+{
+    STRLocusTagSelector& selector = m_page->Selector();
+    MoveRows(selector.gridSelected, [&](const std::string& tag) { return !tags.contains(tag); });
+    MoveRows(selector.gridAvailable, [&](const std::string& tag) { return tags.contains(tag); });
+}
+
+std::vector<std::string> ParameterView::SelectedTags() const
+{
+    const GridModel& rows = ModelOf(m_page->Selector().gridSelected.Object());
+    std::vector<std::string> tags;
+    for (std::int32_t row = 1; row <= rows.Rows(); ++row)
+        tags.push_back(rows.Cell(row, tagColumn));
+    return tags;
+}
+
+std::optional<std::string> ParameterView::HighlightedTag() const
+{
+    std::optional<std::string> tag;
+    for (const auto* grid :
+         {&m_page->Selector().gridAvailable, &m_page->Selector().gridSelected})
+    {
+        const GridModel& rows = ModelOf(grid->Object());
+        const auto highlighted = rows.HighlightedRows();
+        if (highlighted.empty())
+            continue;
+        if (tag || highlighted.size() > 1)
+            return std::nullopt;
+        tag = rows.Cell(highlighted.front(), tagColumn);
+    }
+    return tag;
+}
+
+} // namespace Tamrivo

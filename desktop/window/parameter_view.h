@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+class QPushButton;
+class QSplitter;
+class QTableView;
+
+namespace Tamrivo
+{
+
+class Actions;
+class FormView;
+class HostApplication;
+class LocusLanes;
+class ParameterPage;
+
+/// The page of one analysis parameter: the selector, under it the picture of the selected loci.
+class ParameterView : public QWidget
+{
+public:
+    /// Raises what opening the page raises. Host and actions must outlive the view.
+    ParameterView(HostApplication& host, const Actions& actions, const std::string& name,
+                  QWidget* parent = nullptr);
+    ~ParameterView() override;
+
+    const std::string& Name() const { return m_name; }
+    /// Whether there is anything to save.
+    bool IsChanged() const;
+    void Save();
+    /// Drops what wasn't saved.
+    void Revert();
+    /// Reads the store's loci anew and keeps the selection as far as they are still there.
+    void Reload();
+
+    /// Tags of the selection, in the order of its rows.
+    std::vector<std::string> SelectedTags() const;
+    /// The tag of the one row that is highlighted in the grids; none when it isn't exactly one.
+    std::optional<std::string> HighlightedTag() const;
+
+    FormView& Selector() const { return *m_form; }
+    LocusLanes& Picture() const { return *m_lanes; }
+
+    /// The selection may have changed, shortly after it did.
+    std::function<void()> onChanged;
+
+private:
+    void Open();
+    void WatchSelection();
+    void ShowSelection();
+    void Select(const std::set<std::string>& tags);
+
+    HostApplication& m_host;
+    const Actions& m_actions;
+    std::string m_name;
+    std::unique_ptr<ParameterPage> m_page;
+    FormView* m_form = nullptr;
+    QSplitter* m_splitter;
+    LocusLanes* m_lanes;
+    QPushButton* m_save;
+    QPushButton* m_revert;
+    QTimer m_selectionChanged;
+    bool m_isChanged = false; ///< As long as the timer doesn't run.
+};
+
+} // namespace Tamrivo

@@ -83,7 +83,8 @@ double QueryAgainstScan(std::string_view ordering)
         7, [&] { return CurrentLoci(manager, ordering); }, [&] { BareScan(connection); });
 }
 
-/// Seconds for looking up each of some tags of the list.
+/// Seconds for looking up some tags of the list, as many for each list, so that the processor's
+/// caches help both alike.
 double LookupSeconds(int count)
 {
     const auto loci = CurrentLoci(StoreOfLoci(count).Get().Manager(), "");

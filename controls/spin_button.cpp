@@ -29,7 +29,7 @@ void SpinButton::Step(std::int64_t by)
 {
     if (m_linked == nullptr)
         return;
-    const auto [low, high] = std::minmax<double>(m_min, m_max);
+    const auto [low, high] = std::minmax({double(m_min), double(m_max)});
     const double start = StartOfStep(m_linked->Text(), low, high);
     const double stepped = std::clamp(start + static_cast<double>(by), low, high);
     m_linked->SetText(IntegerText(static_cast<std::int32_t>(stepped)));

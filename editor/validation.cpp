@@ -50,8 +50,8 @@ void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
         {
             run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
             const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
-            const bool bTagIsFree = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
-            if (bTagIsCurrent && bTagIsFree)
+            const bool bTagMustBeNew = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
+            if (bTagIsCurrent && bTagMustBeNew)
                 run([&] { fail(txtLocusTag, TagNotUnique); });
             else
                 run([&] { txtLocusTag.SetToolTipText(""); });

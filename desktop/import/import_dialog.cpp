@@ -266,6 +266,7 @@ void ImportDialog::Import()
                              static_cast<int>(m_plan.Count(ImportFate::New)), this);
     progress.setObjectName("importProgress");
     progress.setWindowTitle("Import");
+    progress.setMinimumDuration(500);
     progress.setWindowModality(Qt::WindowModal);
     try
     {
@@ -280,6 +281,12 @@ void ImportDialog::Import()
     {
         m_status->setText("Cancelled: nothing was imported.");
         return;
+    }
+    catch (...)
+    {
+        // What stopped it may have changed what can come in.
+        m_replan.start();
+        throw;
     }
     QStringList sentences;
     for (const std::string& sentence : ResultOf(m_plan, FromQString(Source())))

@@ -67,6 +67,7 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
       m_status(new QLabel(this))
 {
     setObjectName("reports");
+    m_status->setObjectName("reportStatus");
     setWindowTitle("Reports");
     m_type->setObjectName("reportType");
     m_type->setAccessibleName("Report on");

@@ -23,6 +23,12 @@ double LookupOfTag();
 double MemoryOfLocus();
 double AlleleGeneration();
 
+double LoadAndUpdate();
+double KeyInTag();
+double KeyInTagByLoci();
+double GenerationClick();
+double GenerationByRows();
+
 /// All figures, in the order in which they are printed.
 inline constexpr Figure Figures[] = {
     {"query", "CurrentLoci of 100,000 loci / bare scan of the same columns", 2, "", QueryOfLoci},
@@ -31,6 +37,13 @@ inline constexpr Figure Figures[] = {
     {"lookup", "Looking up a tag, 100,000 loci / 100 loci", 2, "", LookupOfTag},
     {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
     {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
+    {"editor_load", "Opening a locus in the editor and storing its fields", 20, "us", LoadAndUpdate},
+    {"editor_key", "A key in the tag field, 100,000 current loci", 5, "us", KeyInTag},
+    {"editor_key_by_loci", "A key in the tag field, 100,000 loci / 100 loci", 1.5, "",
+     KeyInTagByLoci},
+    {"editor_generate", "Generating the widest list in the editor", 2, "ms", GenerationClick},
+    {"editor_generate_by_rows", "A row of 1,000 generated / a row of 250", 1.5, "",
+     GenerationByRows},
 };
 
 } // namespace Tamrivo::Bench

@@ -86,15 +86,7 @@ void PrintHelp(std::ostream& out)
 std::vector<std::string> Completions(Shell& shell, std::string_view beforeCursor)
 {
     const std::string_view word = beforeCursor.substr(beforeCursor.find_last_of(" \t") + 1);
-    Words words;
-    try
-    {
-        words = SplitWords(beforeCursor.substr(0, beforeCursor.size() - word.size()));
-    }
-    catch (const User::Refusal&)
-    {
-        return {};
-    }
+    const Words words = SplitWords(beforeCursor.substr(0, beforeCursor.size() - word.size()));
 
     std::vector<std::string> candidates;
     if (words.empty())

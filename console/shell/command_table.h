@@ -55,7 +55,8 @@ void RunCommand(Shell& shell, const Words& words);
 /// Prints all commands.
 void PrintHelp(std::ostream& out);
 
-/// The words that could take the place of the last word of the text.
+/// The words that could take the place of the last word of the text. Raises `User::Refusal` for
+/// text that `SplitWords` refuses, and failures of the store.
 std::vector<std::string> Completions(Shell& shell, std::string_view beforeCursor);
 
 } // namespace Tamrivo

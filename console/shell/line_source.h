@@ -25,6 +25,7 @@ public:
     virtual bool IsInteractive() const { return false; }
 
     /// Gives the words that could take the place of the last word of the text before the cursor.
+    /// Each begins as that word does. An exception means that there are none.
     using Completer = std::function<std::vector<std::string>(std::string_view beforeCursor)>;
     virtual void SetCompleter(Completer) {}
 };

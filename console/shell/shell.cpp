@@ -1,6 +1,6 @@
 #include "console/shell/shell.h"
 
-#include "console/commands/command.h"
+#include "console/exit_status.h"
 #include "console/shell/command_table.h"
 #include "console/shell/words.h"
 #include "controls/user.h"

@@ -61,7 +61,7 @@ struct TerminalSource::Editor
         el_set(Line, EL_PROMPT, PromptOf);
         el_set(Line, EL_EDITOR, "emacs");
         el_set(Line, EL_HIST, history, Past);
-        el_set(Line, EL_ADDFN, "complete", "Complete the word", CompleteWord);
+        el_set(Line, EL_ADDFN, "complete", "Complete the word", OnTab);
         el_set(Line, EL_BIND, "^I", "complete", nullptr);
         el_set(Line, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     }
@@ -93,28 +93,40 @@ struct TerminalSource::Editor
 
     static char* PromptOf(EditLine* line) { return Of(line).Prompt.data(); }
 
-    static unsigned char CompleteWord(EditLine* line, int)
+    static unsigned char OnTab(EditLine* line, int)
     {
-        const LineInfo* info = el_line(line);
+        // No exception may cross the line editor, which is written in C.
+        try
+        {
+            return Of(line).CompleteWord();
+        }
+        catch (...)
+        {
+            return CC_REFRESH_BEEP;
+        }
+    }
+
+    unsigned char CompleteWord()
+    {
+        const LineInfo* info = el_line(Line);
         const std::string_view before(info->buffer,
                                       static_cast<std::size_t>(info->cursor - info->buffer));
-        const std::string_view word = before.substr(before.find_last_of(" \t") + 1);
-        const auto words =
-            Of(line).Complete ? Of(line).Complete(before) : std::vector<std::string>{};
+        const std::size_t typed = before.size() - (before.find_last_of(" \t") + 1);
+        const auto words = Complete ? Complete(before) : std::vector<std::string>{};
         if (words.empty())
             return CC_REFRESH_BEEP;
 
-        std::string rest = CommonStart(words).substr(word.size());
+        std::string rest = CommonStart(words).substr(typed);
         if (words.size() == 1)
             rest += ' ';
         if (!rest.empty())
         {
-            el_insertstr(line, rest.c_str());
+            el_insertstr(Line, rest.c_str());
             return CC_REFRESH;
         }
         std::fputc('\n', stdout);
-        for (const std::string& candidate : words)
-            std::fprintf(stdout, "%s  ", candidate.c_str());
+        for (const std::string& word : words)
+            std::fprintf(stdout, "%s  ", word.c_str());
         std::fputc('\n', stdout);
         return CC_REDISPLAY;
     }

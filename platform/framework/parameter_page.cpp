@@ -57,7 +57,11 @@ void ParameterPage::RequireWholeSelection()
     const auto listed = ListedTagIDs();
     for (const auto& locus : m_selector.SelectedLocusTags())
     {
-        if (!listed.contains(locus->LocusTagID()) && m_host.Store().FindLocus(locus->LocusTag()))
+        if (listed.contains(locus->LocusTagID()))
+            continue;
+        // A tag that was deleted and made anew has another number.
+        const auto stored = m_host.Store().FindLocus(locus->LocusTag());
+        if (stored && !listed.contains(stored->LocusTagID()))
             throw Failure(ErrorNumber::Unexpected, "ParameterPage",
                           "The selection of parameter \"" + Name() +
                               "\" could not be written whole; the stored one is as it was. Save "

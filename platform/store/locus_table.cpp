@@ -67,6 +67,19 @@ std::shared_ptr<StoredLocus> ReadLocus(const std::shared_ptr<Database>& database
     return loci.empty() ? nullptr : loci.front();
 }
 
+std::unordered_set<std::string> ReadTagKeys(Database& database)
+{
+    return database.Run("The tags are not read", [](soci::session& session) {
+        std::unordered_set<std::string> keys;
+        std::string key;
+        soci::statement statement =
+            (session.prepare << "SELECT TagKey FROM Locus WHERE TagKey <> ''", soci::into(key));
+        for (statement.execute(); statement.fetch();)
+            keys.insert(key);
+        return keys;
+    });
+}
+
 std::int32_t FindLocusNumber(Database& database, const std::string& tag)
 {
     return database.Run("The locus \"" + tag + "\" is not looked up", [&](soci::session& session) {

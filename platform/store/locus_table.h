@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace soci
@@ -25,6 +26,9 @@ std::vector<std::shared_ptr<StoredLocus>> ReadCurrentLoci(
 /// The locus with the tag, current or not, or none. The empty tag names no locus.
 std::shared_ptr<StoredLocus> ReadLocus(const std::shared_ptr<Database>& database,
                                        const std::string& tag);
+
+/// The keys of all tags but the empty one.
+std::unordered_set<std::string> ReadTagKeys(Database& database);
 
 /// The number of the locus with the tag, 0 for none.
 std::int32_t FindLocusNumber(Database& database, const std::string& tag);

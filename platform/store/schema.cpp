@@ -22,82 +22,82 @@ constexpr std::string_view Version1[] = {
     "CREATE TABLE LastNumber (Number INTEGER NOT NULL)",
     "INSERT INTO LastNumber (Number) VALUES (1)",
 
-    "CREATE TABLE Project ("
-    "ProjectID INTEGER NOT NULL PRIMARY KEY, "
-    "Name TEXT NOT NULL, "
-    "NameKey TEXT NOT NULL UNIQUE)",
+    R"(CREATE TABLE Project (
+        ProjectID INTEGER NOT NULL PRIMARY KEY,
+        Name TEXT NOT NULL,
+        NameKey TEXT NOT NULL UNIQUE))",
     "INSERT INTO Project (ProjectID, Name, NameKey) VALUES (1, 'Default', 'default')",
 
-    "CREATE TABLE Locus ("
-    "LocusID INTEGER NOT NULL PRIMARY KEY, "
-    "Revision INTEGER NOT NULL, "
-    "LocusTag TEXT NOT NULL, "
-    "TagKey TEXT NOT NULL, "
-    "IsCurrent INTEGER NOT NULL, "
-    "DateLastModified BIGINT NOT NULL, " // Seconds since 1970, UTC.
-    "LocusName TEXT NOT NULL, "
-    "ProjectID INTEGER NOT NULL, "
-    "ProjectName TEXT NOT NULL, "
-    "DyeIndex INTEGER NOT NULL, "
-    "FragStart INTEGER NOT NULL, "
-    "FragEnd INTEGER NOT NULL, "
-    "RepeatLength INTEGER NOT NULL, "
-    "RepeatUnitSequence TEXT NOT NULL, "
-    "ShortestAlleleSize INTEGER NOT NULL, "
-    "RepeatsInShortestAllele TEXT NOT NULL, "
-    "AlleleNamingConventionTypeID INTEGER NOT NULL, "
-    "StartAtAlphanumeric TEXT NOT NULL, "
-    "StartAtNumeric INTEGER NOT NULL, "
-    "PrimerSet TEXT NOT NULL, "
-    "GenBank TEXT NOT NULL, "
-    "PrimerLabelTypeID INTEGER NOT NULL, "
-    "FwdPrimer TEXT NOT NULL, "
-    "RevPrimer TEXT NOT NULL, "
-    "ConfInt DOUBLE PRECISION NOT NULL, "
-    "SystemConfInt DOUBLE PRECISION NOT NULL, "
-    "UserSpecifiedConfInt INTEGER NOT NULL, "
-    "SearchForStutter INTEGER NOT NULL, "
-    "DetShortStutter INTEGER NOT NULL, "
-    "DetLongStutter INTEGER NOT NULL, "
-    "StutterWidth INTEGER NOT NULL, "
-    "RelStutter INTEGER NOT NULL, "
-    "ApparentSizeIncludesA INTEGER NOT NULL, "
-    "DetectA INTEGER NOT NULL, "
-    "UseA INTEGER NOT NULL, "
-    "DetectSpuriousPeaks INTEGER NOT NULL, "
-    "MaxSpurHeight INTEGER NOT NULL, "
-    "Ploidy INTEGER NOT NULL)",
+    R"(CREATE TABLE Locus (
+        LocusID INTEGER NOT NULL PRIMARY KEY,
+        Revision INTEGER NOT NULL,
+        LocusTag TEXT NOT NULL,
+        TagKey TEXT NOT NULL,
+        IsCurrent INTEGER NOT NULL,
+        DateLastModified BIGINT NOT NULL, -- Seconds since 1970, UTC.
+        LocusName TEXT NOT NULL,
+        ProjectID INTEGER NOT NULL,
+        ProjectName TEXT NOT NULL,
+        DyeIndex INTEGER NOT NULL,
+        FragStart INTEGER NOT NULL,
+        FragEnd INTEGER NOT NULL,
+        RepeatLength INTEGER NOT NULL,
+        RepeatUnitSequence TEXT NOT NULL,
+        ShortestAlleleSize INTEGER NOT NULL,
+        RepeatsInShortestAllele TEXT NOT NULL,
+        AlleleNamingConventionTypeID INTEGER NOT NULL,
+        StartAtAlphanumeric TEXT NOT NULL,
+        StartAtNumeric INTEGER NOT NULL,
+        PrimerSet TEXT NOT NULL,
+        GenBank TEXT NOT NULL,
+        PrimerLabelTypeID INTEGER NOT NULL,
+        FwdPrimer TEXT NOT NULL,
+        RevPrimer TEXT NOT NULL,
+        ConfInt DOUBLE PRECISION NOT NULL,
+        SystemConfInt DOUBLE PRECISION NOT NULL,
+        UserSpecifiedConfInt INTEGER NOT NULL,
+        SearchForStutter INTEGER NOT NULL,
+        DetShortStutter INTEGER NOT NULL,
+        DetLongStutter INTEGER NOT NULL,
+        StutterWidth INTEGER NOT NULL,
+        RelStutter INTEGER NOT NULL,
+        ApparentSizeIncludesA INTEGER NOT NULL,
+        DetectA INTEGER NOT NULL,
+        UseA INTEGER NOT NULL,
+        DetectSpuriousPeaks INTEGER NOT NULL,
+        MaxSpurHeight INTEGER NOT NULL,
+        Ploidy INTEGER NOT NULL))",
     "CREATE UNIQUE INDEX LocusByTag ON Locus (TagKey) WHERE TagKey <> ''",
 
-    "CREATE TABLE Allele ("
-    "LocusID INTEGER NOT NULL REFERENCES Locus, "
-    "Position INTEGER NOT NULL, "
-    "AlleleReal1 DOUBLE PRECISION NOT NULL, "
-    "AlleleReal2 DOUBLE PRECISION NOT NULL, "
-    "AlleleReal3 DOUBLE PRECISION NOT NULL, "
-    "AlleleReal4 DOUBLE PRECISION NOT NULL, "
-    "AlleleReal5 DOUBLE PRECISION NOT NULL, "
-    "AlleleText1 TEXT NOT NULL, "
-    "AlleleText2 TEXT NOT NULL, "
-    "AlleleText3 TEXT NOT NULL, "
-    "AlleleInt1 INTEGER NOT NULL, "
-    "AlleleInt2 INTEGER NOT NULL, "
-    "AlleleInt3 INTEGER NOT NULL, "
-    "PRIMARY KEY (LocusID, Position))",
+    R"(CREATE TABLE Allele (
+        LocusID INTEGER NOT NULL REFERENCES Locus,
+        Position INTEGER NOT NULL,
+        AlleleReal1 DOUBLE PRECISION NOT NULL,
+        AlleleReal2 DOUBLE PRECISION NOT NULL,
+        AlleleReal3 DOUBLE PRECISION NOT NULL,
+        AlleleReal4 DOUBLE PRECISION NOT NULL,
+        AlleleReal5 DOUBLE PRECISION NOT NULL,
+        AlleleText1 TEXT NOT NULL,
+        AlleleText2 TEXT NOT NULL,
+        AlleleText3 TEXT NOT NULL,
+        AlleleInt1 INTEGER NOT NULL,
+        AlleleInt2 INTEGER NOT NULL,
+        AlleleInt3 INTEGER NOT NULL,
+        PRIMARY KEY (LocusID, Position)))",
 
-    "CREATE TABLE AnalysisParameter ("
-    "ParameterID INTEGER NOT NULL PRIMARY KEY, "
-    "Revision INTEGER NOT NULL, "
-    "Name TEXT NOT NULL, "
-    "NameKey TEXT NOT NULL UNIQUE, "
-    "LocusTagListCount INTEGER NOT NULL)",
+    R"(CREATE TABLE AnalysisParameter (
+        ParameterID INTEGER NOT NULL PRIMARY KEY,
+        Revision INTEGER NOT NULL,
+        Name TEXT NOT NULL,
+        NameKey TEXT NOT NULL UNIQUE,
+        LocusTagListCount INTEGER NOT NULL))",
 
     // A tag stays in the list of a parameter after its locus was deleted.
-    "CREATE TABLE AnalysisParameterTag ("
-    "ParameterID INTEGER NOT NULL REFERENCES AnalysisParameter, "
-    "LocusTagID INTEGER NOT NULL, "
-    "Position INTEGER NOT NULL, "
-    "PRIMARY KEY (ParameterID, LocusTagID))",
+    R"(CREATE TABLE AnalysisParameterTag (
+        ParameterID INTEGER NOT NULL REFERENCES AnalysisParameter,
+        LocusTagID INTEGER NOT NULL,
+        Position INTEGER NOT NULL,
+        PRIMARY KEY (ParameterID, LocusTagID)))",
 };
 
 constexpr SchemaStep Steps[] = {Version1};

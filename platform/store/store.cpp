@@ -33,6 +33,11 @@ std::shared_ptr<Locus> Store::FindLocus(const std::string& tag)
     return ReadLocus(m_database, tag);
 }
 
+std::unordered_set<std::string> Store::TagKeys()
+{
+    return ReadTagKeys(*m_database);
+}
+
 void Store::DeleteLocus(const std::string& tag)
 {
     RemoveLocus(*m_database, tag);

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 
 namespace Tamrivo
 {
@@ -41,6 +42,8 @@ public:
     /// The stored locus with the tag, current or not, or none. Case and trailing blanks don't
     /// count; the empty tag names no locus.
     std::shared_ptr<Locus> FindLocus(const std::string& tag);
+    /// The tags of all stored loci, current or not, each as its `LookupKey`.
+    std::unordered_set<std::string> TagKeys();
     /// Removes the locus with the tag and its alleles. Analysis parameters that use it keep its
     /// number, which no other locus will ever get. Raises `StoreError::NotFound`.
     void DeleteLocus(const std::string& tag);

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include <tuple>
 
 namespace Tamrivo
 {
@@ -21,7 +22,11 @@ struct Place
     std::string_view Key;
     std::size_t Index;
 
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const
+    {
+        return std::tie(FirstBytes, Key, Index) <
+               std::tie(other.FirstBytes, other.Key, other.Index);
+    }
 };
 
 /// Bytes as a number that orders as they do.
@@ -46,7 +51,7 @@ void SortByTag(std::vector<std::shared_ptr<StoredLocus>>& loci)
         const std::string_view rest = key.substr(std::min(key.size(), sizeof(std::uint64_t)));
         places.push_back({{NumberOf(key), NumberOf(rest)}, key, places.size()});
     }
-    std::ranges::sort(places);
+    std::sort(places.begin(), places.end());
 
     std::vector<std::shared_ptr<StoredLocus>> sorted;
     sorted.reserve(loci.size());

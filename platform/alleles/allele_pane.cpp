@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <compare>
 #include <iterator>
+#include <set>
 #include <unordered_set>
 #include <utility>
 
@@ -39,8 +40,9 @@ AlleleRows Without(const AlleleRows& rows, const AlleleRows& others)
 {
     AlleleRows rest;
     std::ranges::remove_copy_if(rows, std::back_inserter(rest),
-                                [others = SetOf(others)](const std::shared_ptr<Allele>& row)
-                                { return others.contains(row.get()); });
+                                [others = SetOf(others)](const std::shared_ptr<Allele>& row) {
+                                    return others.contains(row.get());
+                                });
     return rest;
 }
 
@@ -112,9 +114,10 @@ std::int32_t AllelePane::AddRow()
 void AllelePane::RemoveRows(const std::vector<std::int32_t>& rows)
 {
     Change change;
-    for (const std::int32_t row : rows)
+    for (const std::int32_t row : std::set<std::int32_t>(rows.begin(), rows.end()))
         change.ToRemove.push_back(RowAt(row));
-    Do(std::move(change));
+    if (!change.ToRemove.empty())
+        Do(std::move(change));
 }
 
 std::int32_t AllelePane::EditCell(std::int32_t row, const AlleleColumn& column,

@@ -50,7 +50,7 @@ public:
     /// that counts, still without a name. Gives its number.
     std::int32_t AddRow();
     void RemoveRow(std::int32_t row) { RemoveRows({row}); }
-    /// Removes several rows in one step.
+    /// Removes several rows in one step; a row may be named twice.
     void RemoveRows(const std::vector<std::int32_t>& rows);
     /// Enters a block of cells in one step, from a row and a column on (0-based, among
     /// `AlleleColumns`). Rows that the list doesn't have yet are added, as by `AddRow`, and what

@@ -13,7 +13,8 @@ namespace
 {
 
 constexpr void (*commands[])(CLI::App&, Context&) = {
-    AddShellCommand,
+    AddListCommand,   AddShowCommand,   AddImportCommand, AddExportCommand,
+    AddDeleteCommand, AddReportCommand, AddShellCommand,
 };
 
 void AddStoreOption(CLI::App& app, Context& context)
@@ -41,7 +42,7 @@ int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostrea
     Context context{in, out, err, DefaultStoreAddress()};
     CLI::App program("Defines STR loci and chooses those that an analysis uses.", "tamrivo");
     program.set_version_flag("--version", "tamrivo " TAMRIVO_VERSION);
-    program.require_subcommand(1);
+    program.require_subcommand(0, 1);
     AddStoreOption(program, context);
     for (const auto add : commands)
         add(program, context);
@@ -50,6 +51,14 @@ int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostrea
     {
         std::ranges::reverse(arguments);
         program.parse(std::move(arguments));
+        if (program.get_subcommands().empty())
+        {
+            err << program.help();
+            return ExitStatus::Usage;
+        }
+        if (!out.flush())
+            throw Failure(ErrorNumber::Unexpected, "Program",
+                          "Not all of the output could be written");
         return context.Status;
     }
     catch (const CLI::ParseError& error)

@@ -1,5 +1,6 @@
 #include "console/commands/command.h"
 #include "console/commands/stored_loci.h"
+#include "platform/panels/counts.h"
 #include "platform/parameters/parameter_store.h"
 #include "platform/store/store.h"
 

@@ -1,5 +1,5 @@
 #include "console/commands/command.h"
-#include "console/commands/stored_loci.h"
+#include "platform/panels/counts.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
 
@@ -13,17 +13,13 @@ void Export(Context& context, const std::string& file)
 {
     Store store(context.StoreLocation);
     const auto loci = CurrentLoci(store.Manager(), "");
-    const std::string count = CountOfLoci(loci->Members().size());
-    if (!file.empty())
+    if (file.empty())
     {
-        WritePanelFile(file, loci->Members());
-        context.Out << "Exported " << count << " to " << file << ".\n";
+        WritePanelTable(context.Out, loci->Members());
         return;
     }
-    WritePanelTable(context.Out, loci->Members());
-    if (!context.Out.flush())
-        throw Failure(ErrorNumber::InvalidArgument, "Export",
-                      "The table of " + count + " couldn't be written to standard output");
+    WritePanelFile(file, loci->Members());
+    context.Out << "Exported " << CountOfLoci(loci->Members().size()) << " to " << file << ".\n";
 }
 
 } // namespace

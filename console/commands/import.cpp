@@ -1,7 +1,8 @@
 #include "platform/panels/import.h"
 
 #include "console/commands/command.h"
-#include "console/commands/stored_loci.h"
+#include "platform/panels/counts.h"
+#include "platform/panels/import_result.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
 
@@ -79,32 +80,6 @@ std::size_t ReportObstacles(Context& context, const std::string& file, const Imp
     throw Failure(ErrorNumber::InvalidArgument, "Import", "Nothing was imported: " + why);
 }
 
-void ReportResult(Context& context, const Options& options, const ImportPlan& plan)
-{
-    for (const PlannedLocus& locus : plan.Loci)
-    {
-        if (locus.Fate == ImportFate::New && locus.IsRenamed())
-            context.Out << locus.Place() << " is stored under the tag \"" << locus.Tag << "\".\n";
-    }
-    const std::size_t added = plan.Count(ImportFate::New);
-    const std::size_t present = plan.Count(ImportFate::Present);
-    const std::size_t leftOut = plan.Count(ImportFate::LeftOut);
-    if (plan.Loci.empty())
-        context.Out << "Nothing to import: " << options.File << " has no markers.\n";
-    else if (added == 0)
-        context.Out << "Nothing to import: the store has " << CountOfLoci(present)
-                    << " of this table already and is unchanged.\n";
-    else
-    {
-        context.Out << "Imported " << CountOfLoci(added) << " with "
-                    << CountOfAlleles(plan.NewAlleles()) << ".\n";
-        if (present > 0)
-            context.Out << "The store had " << CountOfLoci(present) << " already.\n";
-    }
-    if (leftOut > 0)
-        context.Out << "Left out " << CountOfLoci(leftOut) << ".\n";
-}
-
 void Import(Context& context, const Options& options)
 {
     const PanelReading reading = ReadPanelFile(options.File);
@@ -122,7 +97,8 @@ void Import(Context& context, const Options& options)
             progress.Show(done, total);
         });
     }
-    ReportResult(context, options, plan);
+    for (const std::string& sentence : ResultOf(plan, options.File))
+        context.Out << sentence << '\n';
 }
 
 } // namespace

@@ -1,7 +1,8 @@
+#include "console/commands/aligned_table.h"
 #include "console/commands/command.h"
-#include "console/commands/locus_listing.h"
 #include "console/commands/output_format.h"
-#include "console/commands/stored_loci.h"
+#include "platform/panels/counts.h"
+#include "platform/reports/locus_listing.h"
 #include "platform/store/store.h"
 
 namespace Tamrivo

@@ -1,11 +1,12 @@
 #include "console/commands/locus_sheet.h"
 
-#include "console/commands/locus_listing.h"
-#include "console/commands/stored_loci.h"
+#include "console/commands/aligned_table.h"
 #include "console/commands/text_width.h"
 #include "contracts/allele.h"
 #include "core/numbers.h"
+#include "platform/panels/counts.h"
 #include "platform/panels/dyes.h"
+#include "platform/reports/locus_listing.h"
 
 #include <algorithm>
 
@@ -136,10 +137,10 @@ constexpr SheetLine sheetLines[] = {
 Table AlleleTable(Locus& locus)
 {
     Table table{{{"Allele"},
-                 {"Size (nt)", true},
-                 {"Bin from (nt)", true},
-                 {"Bin to (nt)", true},
-                 {"Repeats", true},
+                 {"Size (nt)", Table::Number},
+                 {"Bin from (nt)", Table::Number},
+                 {"Bin to (nt)", Table::Number},
+                 {"Repeats", Table::Number},
                  {"Origin"},
                  {"In ladder"}},
                 {}};

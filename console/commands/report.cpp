@@ -1,7 +1,8 @@
+#include "platform/reports/report.h"
+
+#include "console/commands/aligned_table.h"
 #include "console/commands/command.h"
-#include "console/commands/locus_listing.h"
 #include "console/commands/output_format.h"
-#include "console/commands/stored_loci.h"
 #include "platform/framework/host_application.h"
 #include "platform/framework/parameter_page.h"
 #include "platform/framework/wizard_session.h"
@@ -20,13 +21,11 @@ struct Options
     OutputFormat Format = OutputFormat::Table;
 };
 
-/// What a report is about, with the loci in it.
-struct Report
+/// A report and, for programs, what it is about.
+struct DescribedReport
 {
-    std::string Subject;
     nlohmann::ordered_json About;
-    std::vector<std::string> Keys;
-    Loci Items;
+    Report Content;
 };
 
 /// Nobody answers while a report is made: what would be shown goes to standard error.
@@ -58,26 +57,10 @@ private:
     std::ostream& m_err;
 };
 
-Report ContextsOf(HostApplication& host, const HostReportContextType& type)
-{
-    Report report{
-        type.Name(),
-        {{"Identifier", type.Identifier()}, {"Name", type.Name()}, {"Number", type.Number()}},
-        {},
-        {}};
-    const ReportContexts contexts = host.Contexts(type.Identifier());
-    for (const auto& [key, locus] : contexts.Entries())
-    {
-        report.Keys.push_back(key);
-        report.Items.push_back(locus);
-    }
-    return report;
-}
-
 Report LociOfParameter(HostApplication& host, const std::string& name)
 {
     ParameterPage page(host, host.Parameters().Open(name));
-    Report report{"Analysis parameter " + page.Name(), {{"Parameter", page.Name()}}, {}, {}};
+    Report report{"Analysis parameter " + page.Name(), {}, {}};
     for (const auto& locus : page.Selector().SelectedLocusTags())
     {
         report.Keys.push_back(locus->LocusTag());
@@ -86,65 +69,59 @@ Report LociOfParameter(HostApplication& host, const std::string& name)
     return report;
 }
 
-std::vector<Report> Reports(HostApplication& host, const Options& options)
+std::vector<DescribedReport> Reports(HostApplication& host, const Options& options)
 {
     if (!options.Parameter.empty())
-        return {LociOfParameter(host, options.Parameter)};
-    std::vector<Report> reports;
-    for (const auto& type : host.ContextTypes())
-        reports.push_back(ContextsOf(host, dynamic_cast<const HostReportContextType&>(*type)));
+        return {{{{"Parameter", options.Parameter}}, LociOfParameter(host, options.Parameter)}};
+    std::vector<DescribedReport> reports;
+    for (const auto& member : host.ContextTypes())
+    {
+        const auto& type = dynamic_cast<const HostReportContextType&>(*member);
+        reports.push_back(
+            {{{"Identifier", type.Identifier()}, {"Name", type.Name()}, {"Number", type.Number()}},
+             ContextsOf(host, type)});
+    }
     return reports;
 }
 
-/// The loci under their keys.
-Table TableOf(const Report& report, Audience audience)
+void PrintForPeople(std::ostream& out, const std::vector<DescribedReport>& reports)
 {
-    Table table = LociTable(report.Items, audience);
-    table.Columns.front().Title = "Context";
-    for (std::size_t row = 0; row < table.Rows.size(); ++row)
-        table.Rows[row].front() = report.Keys[row];
-    return table;
-}
-
-void PrintForPeople(std::ostream& out, const std::vector<Report>& reports)
-{
-    for (const Report& report : reports)
+    for (const auto& [about, report] : reports)
     {
-        out << report.Subject << ": " << CountOfLoci(report.Items.size()) << "\n\n";
+        out << report.Heading() << "\n\n";
         PrintAligned(out, TableOf(report, Audience::People));
     }
 }
 
-void PrintJson(std::ostream& out, const std::vector<Report>& reports)
+void PrintTables(std::ostream& out, const std::vector<DescribedReport>& reports)
+{
+    for (const auto& [about, report] : reports)
+        PrintTsv(out, TableOf(report, Audience::Programs));
+}
+
+void PrintJson(std::ostream& out, const std::vector<DescribedReport>& reports)
 {
     auto array = nlohmann::ordered_json::array();
-    for (const Report& report : reports)
+    for (const auto& [about, report] : reports)
     {
-        auto contexts = LociJson(report.Items);
+        auto& object = array.emplace_back(about);
+        auto& contexts = object["Contexts"] = LociJson(report.Items);
         for (std::size_t at = 0; at < contexts.size(); ++at)
-            contexts[at]["Context"] = report.Keys[at];
-        auto& object = array.emplace_back(report.About);
-        object["Contexts"] = std::move(contexts);
+        {
+            nlohmann::ordered_json context{{"Context", report.Keys[at]}};
+            context.update(contexts[at]);
+            contexts[at] = std::move(context);
+        }
     }
     out << JsonText(array) << '\n';
 }
 
-void PrintHtmlPage(std::ostream& out, const std::vector<Report>& reports)
+void PrintPage(std::ostream& out, const std::vector<DescribedReport>& reports)
 {
-    out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-           "<title>Loci</title>\n<style>\n"
-           "body { font-family: sans-serif; margin: 2em }\n"
-           "table { border-collapse: collapse }\n"
-           "th, td { border-bottom: 1px solid #ccc; padding: 0.3em 0.8em; text-align: left }\n"
-           ".number { text-align: right }\n"
-           "</style>\n</head>\n<body>\n";
-    for (const Report& report : reports)
-    {
-        out << "<h1>" << EscapeHtml(report.Subject) << ": " << CountOfLoci(report.Items.size())
-            << "</h1>\n";
-        PrintHtml(out, TableOf(report, Audience::People));
-    }
-    out << "</body>\n</html>\n";
+    std::vector<std::pair<std::string, Table>> tables;
+    for (const auto& [about, report] : reports)
+        tables.emplace_back(report.Heading(), TableOf(report, Audience::People));
+    PrintHtmlPage(out, tables);
 }
 
 void PrintReport(Context& context, const Options& options)
@@ -152,16 +129,13 @@ void PrintReport(Context& context, const Options& options)
     Store store(context.StoreLocation);
     SilentFrontEnd frontEnd(context.Err);
     HostApplication host(store, frontEnd);
-    const std::vector<Report> reports = Reports(host, options);
+    const std::vector<DescribedReport> reports = Reports(host, options);
     switch (options.Format)
     {
     case OutputFormat::Table: PrintForPeople(context.Out, reports); break;
-    case OutputFormat::Tsv:
-        for (const Report& report : reports)
-            PrintTsv(context.Out, TableOf(report, Audience::Programs));
-        break;
+    case OutputFormat::Tsv: PrintTables(context.Out, reports); break;
     case OutputFormat::Json: PrintJson(context.Out, reports); break;
-    case OutputFormat::Html: PrintHtmlPage(context.Out, reports); break;
+    case OutputFormat::Html: PrintPage(context.Out, reports); break;
     }
 }
 

@@ -1,9 +1,9 @@
 #include "console/commands/command.h"
-#include "console/commands/locus_listing.h"
 #include "console/commands/locus_sheet.h"
 #include "console/commands/output_format.h"
 #include "console/commands/stored_loci.h"
 #include "platform/panels/panel_writer.h"
+#include "platform/reports/locus_listing.h"
 #include "platform/store/store.h"
 
 namespace Tamrivo

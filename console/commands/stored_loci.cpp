@@ -53,11 +53,6 @@ std::string Suggestion(Store& store, const std::string& tag)
     return tags.empty() ? "" : "; did you mean " + tags + "?";
 }
 
-std::string Counted(std::size_t count, const char* one, const char* several)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : several);
-}
-
 } // namespace
 
 std::shared_ptr<Locus> RequireLocus(Store& store, const std::string& tag)
@@ -66,16 +61,6 @@ std::shared_ptr<Locus> RequireLocus(Store& store, const std::string& tag)
         return locus;
     throw Failure(StoreError::NotFound, "Store",
                   "There is no locus \"" + tag + "\" in the store" + Suggestion(store, tag));
-}
-
-std::string CountOfLoci(std::size_t count)
-{
-    return Counted(count, "locus", "loci");
-}
-
-std::string CountOfAlleles(std::size_t count)
-{
-    return Counted(count, "allele", "alleles");
 }
 
 } // namespace Tamrivo

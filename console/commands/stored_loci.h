@@ -14,9 +14,4 @@ class Store;
 /// that come nearest.
 std::shared_ptr<Locus> RequireLocus(Store& store, const std::string& tag);
 
-/// "1 locus", "20 loci".
-std::string CountOfLoci(std::size_t count);
-/// "1 allele", "30 alleles".
-std::string CountOfAlleles(std::size_t count);
-
 } // namespace Tamrivo

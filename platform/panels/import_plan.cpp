@@ -5,12 +5,14 @@
 #include "platform/panels/cells.h"
 #include "platform/panels/dyes.h"
 #include "platform/panels/locus_columns.h"
+#include "platform/store/keys.h"
 #include "platform/store/store.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
+#include <unordered_set>
 
 namespace Tamrivo
 {
@@ -19,12 +21,6 @@ namespace
 {
 
 constexpr std::string_view defaultProject = "Default";
-
-/// How tags are compared.
-std::string TagKey(const std::string& tag)
-{
-    return FoldCase(TrimRight(tag));
-}
 
 /// The nearest 32-bit integer to a whole number, so that what is far out of range stays so.
 std::int32_t Saturated(double whole)
@@ -99,7 +95,9 @@ bool HasAlleles(Locus& locus, const std::vector<AlleleFields>& alleles)
 class Planner
 {
 public:
-    Planner(const ImportChoice& choice, Store& store) : m_choice(choice), m_store(store) {}
+    Planner(const ImportChoice& choice, Store& store)
+        : m_choice(choice), m_store(store), m_storedKeys(store.TagKeys())
+    {}
 
     ImportPlan Plan(const std::vector<PanelMarker>& markers)
     {
@@ -111,7 +109,7 @@ public:
                 continue;
             chosen.push_back(&marker);
             if (marker.LocusTag.empty())
-                ++m_markersNamed[TagKey(marker.Marker)];
+                ++m_markersNamed[LookupKey(marker.Marker)];
         }
         ImportPlan plan;
         for (const PanelMarker* marker : chosen)
@@ -170,17 +168,23 @@ private:
         return planned;
     }
 
+    /// The stored locus with the tag. Few of the tags of a table are stored, as a rule.
+    std::shared_ptr<Locus> Stored(const std::string& tag)
+    {
+        return m_storedKeys.contains(LookupKey(tag)) ? m_store.FindLocus(tag) : nullptr;
+    }
+
     /// Chooses the tag, and gives the locus that the store has under it. A locus of the marker's
     /// own panel is found again under either tag, with whatever else it came in.
     std::shared_ptr<Locus> Find(const PanelMarker& marker, std::string& tag)
     {
         tag = marker.LocusTag.empty() ? marker.Marker : marker.LocusTag;
-        const auto stored = m_store.FindLocus(tag);
+        const auto stored = Stored(tag);
         if (!marker.LocusTag.empty() || marker.Panel.empty() || IsOf(marker.Panel, stored))
             return stored;
         const std::string tagInPanel = MarkerInPanel(marker.Marker, marker.Panel);
-        const auto storedInPanel = m_store.FindLocus(tagInPanel);
-        const bool isFree = !stored && m_markersNamed[TagKey(marker.Marker)] == 1;
+        const auto storedInPanel = Stored(tagInPanel);
+        const bool isFree = !stored && m_markersNamed[LookupKey(marker.Marker)] == 1;
         if (isFree && !IsOf(marker.Panel, storedInPanel))
             return nullptr;
         tag = tagInPanel;
@@ -210,7 +214,7 @@ private:
         if (CharacterCount(planned.Tag) > MaxTagLength)
             planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" is longer than " +
                                         std::to_string(MaxTagLength) + " characters");
-        const auto [earlier, isFirst] = m_lineOfTag.emplace(TagKey(planned.Tag), marker.Line);
+        const auto [earlier, isFirst] = m_lineOfTag.emplace(LookupKey(planned.Tag), marker.Line);
         if (!isFirst)
             planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" comes from line " +
                                         std::to_string(earlier->second) + " already");
@@ -230,6 +234,7 @@ private:
 
     const ImportChoice& m_choice;
     Store& m_store;
+    std::unordered_set<std::string> m_storedKeys;
     std::map<std::string, std::size_t> m_markersNamed;
     std::map<std::string, std::size_t> m_lineOfTag;
     std::map<std::string, std::string> m_projects;

@@ -36,7 +36,8 @@ std::string OffsetOf(const Locus& locus, const AlleleFields* shortest)
     if (repeats == 0)
         repeats = CellNumber(locus.RepeatsInShortestAllele).value_or(1);
     const double size = shortest != nullptr ? shortest->AlleleReal1 : locus.ShortestAlleleSize;
-    return NumberCell(std::round(size - RepeatsLength(repeats, locus.RepeatLength)));
+    // To the nearest whole number, a half down.
+    return NumberCell(std::ceil(size - RepeatsLength(repeats, locus.RepeatLength) - 0.5));
 }
 
 class Writer

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -43,20 +44,40 @@ constexpr OwnIcon ownIcons[] = {
     {"help-about", "M12 3a9 9 0 1 0 .01 0z M12 11v6 M12 7v1"},
     {"list-add", "M12 5v14 M5 12h14"},
     {"list-remove", "M5 12h14"},
+    {"view-refresh", "M19 13a7 7 0 1 1-2-6l2 2 M19 4v5h-5"},
 };
 
-QPixmap Draw(const OwnIcon& icon, int size, const QColor& color)
+/// Draws an icon in the colour that the text of buttons has at the time.
+class OwnIconEngine : public QIconEngine
 {
-    const QString svg = QString("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
-                                "<path d='%1' fill='none' stroke='%2' stroke-width='1.8' "
-                                "stroke-linecap='round' stroke-linejoin='round'/></svg>")
-                            .arg(icon.Strokes, color.name());
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    QSvgRenderer(svg.toUtf8()).render(&painter);
-    return pixmap;
-}
+public:
+    explicit OwnIconEngine(const OwnIcon& icon) : m_icon(icon) {}
+
+    QIconEngine* clone() const override { return new OwnIconEngine(m_icon); }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QColor color = QGuiApplication::palette().color(group, QPalette::ButtonText);
+        const QString svg = QString("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
+                                    "<path d='%1' fill='none' stroke='%2' stroke-width='1.8' "
+                                    "stroke-linecap='round' stroke-linejoin='round'/></svg>")
+                                .arg(m_icon.Strokes, color.name());
+        QSvgRenderer(svg.toUtf8()).render(painter, rect);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap drawn(size);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        paint(&painter, drawn.rect(), mode, state);
+        return drawn;
+    }
+
+private:
+    const OwnIcon& m_icon;
+};
 
 } // namespace
 
@@ -64,20 +85,9 @@ QIcon ThemeIcon(const char* name)
 {
     if (QIcon::hasThemeIcon(name))
         return QIcon::fromTheme(name);
-    QIcon icon;
     const auto own = std::ranges::find_if(
         ownIcons, [&](const OwnIcon& candidate) { return QString(candidate.Name) == name; });
-    if (own == std::end(ownIcons))
-        return icon;
-    const QPalette palette = QGuiApplication::palette();
-    for (const int size : {16, 24, 32, 48})
-    {
-        icon.addPixmap(Draw(*own, size, palette.color(QPalette::Active, QPalette::ButtonText)),
-                       QIcon::Normal);
-        icon.addPixmap(Draw(*own, size, palette.color(QPalette::Disabled, QPalette::ButtonText)),
-                       QIcon::Disabled);
-    }
-    return icon;
+    return own == std::end(ownIcons) ? QIcon() : QIcon(new OwnIconEngine(*own));
 }
 
 } // namespace Tamrivo

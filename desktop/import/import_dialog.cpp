@@ -154,7 +154,10 @@ void ImportDialog::Preview(const QString& path)
     m_tree->expandAll();
     m_tree->setCurrentIndex(m_preview->index(0, 0));
     for (int column = 0; column < ImportPreviewModel::Remarks; ++column)
+    {
         m_tree->resizeColumnToContents(column);
+        m_tree->setColumnWidth(column, m_tree->columnWidth(column) + fontMetrics().height());
+    }
 }
 
 void ImportDialog::OfferProjects()

@@ -197,7 +197,7 @@ QVariant ImportPreviewModel::MarkerData(std::size_t marker, int column, int role
             fateWords[static_cast<std::size_t>(planned->Fate)].Icon);
     case Qt::ForegroundRole:
         if (planned == nullptr || planned->Fate == ImportFate::Present)
-            return QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QApplication::palette().brush(QPalette::PlaceholderText);
         return {};
     default: return {};
     }

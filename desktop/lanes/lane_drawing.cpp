@@ -5,6 +5,7 @@
 #include "platform/panels/dyes.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -60,33 +61,31 @@ void Hatch(QPainter& painter, const QRectF& rect, const QColor& color)
     painter.drawLines(strokes.data(), static_cast<int>(strokes.size()));
 }
 
-/// In the bar, else beside it, else cut short.
+/// In the bar or beside it, cut short when there is no room for all of it.
 void DrawName(QPainter& painter, const QString& name, const LaneBar& bar, const QColor& text,
-              const QColor& ground)
+              const QColor& halo)
 {
     constexpr double edge = 4;
     const QFontMetrics font = painter.fontMetrics();
-    const double length = font.horizontalAdvance(name);
     const double inside = bar.Rect.width() - 2 * edge;
-    QString shown = name;
-    QRectF place = bar.Rect.adjusted(edge, 0, -edge, 0);
-    if (length <= inside)
-        place = QRectF(bar.Rect.center().x() - length / 2, place.top(), length, place.height());
-    else if (length <= bar.FreeTo - bar.Rect.right() - 2 * edge)
-        place = QRectF(bar.Rect.right() + edge, place.top(), length, place.height());
-    else
+    const double beside = bar.FreeTo - bar.Rect.right() - 2 * edge;
+    const double length = font.horizontalAdvance(name);
+    const bool isInside = length <= inside || (length > beside && inside >= beside);
+    const QString shown =
+        font.elidedText(name, Qt::ElideRight, static_cast<int>(isInside ? inside : beside));
+    if (shown != name && shown.size() < 2)
+        return;
+    const double left = isInside ? bar.Rect.center().x() - font.horizontalAdvance(shown) / 2.0
+                                 : bar.Rect.right() + edge;
+    const QPointF place(left, bar.Rect.center().y() + (font.ascent() - font.descent()) / 2.0);
+    if (isInside)
     {
-        shown = font.elidedText(name, Qt::ElideRight, static_cast<int>(inside));
-        if (shown.size() < 3)
-            return;
+        QPainterPath outline;
+        outline.addText(place, painter.font(), shown);
+        painter.strokePath(outline, QPen(halo, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
-    if (bar.Rect.contains(place.center()))
-        painter.fillRect(QRectF(place.left() - 2, place.center().y() - font.height() / 2.0,
-                                font.horizontalAdvance(shown) + 4, font.height()),
-                         ground);
     painter.setPen(text);
-    painter.drawText(
-        QPointF(place.left(), place.center().y() + (font.ascent() - font.descent()) / 2.0), shown);
+    painter.drawText(place, shown);
 }
 
 } // namespace
@@ -173,14 +172,16 @@ void LaneDrawing::Draw(QPainter& painter, QSize size, int scrolled, const QPalet
     const QFontMetrics font = painter.fontMetrics();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(QRect({}, size), palette.color(QPalette::Base));
-    DrawGrounds(painter, size, scrolled, palette);
     const LengthAxis axis = AxisIn(size, font);
     const int axisTop = size.height() - AxisHeight(font);
+    painter.setClipRect(0, 0, size.width(), axisTop);
+    DrawGrounds(painter, size, scrolled, palette);
+    painter.setClipping(false);
+    axis.Draw(painter, palette, axisTop, 0);
+    painter.setClipRect(0, 0, size.width(), axisTop);
     for (const LaneBar& bar : BarsInView(size, scrolled, font))
         DrawBar(painter, bar, axis, palette);
-    painter.fillRect(QRect(0, axisTop, size.width(), AxisHeight(font)),
-                     palette.color(QPalette::Base));
-    axis.Draw(painter, palette, axisTop, 0);
+    painter.setClipping(false);
 }
 
 void LaneDrawing::DrawGrounds(QPainter& painter, QSize size, int scrolled,

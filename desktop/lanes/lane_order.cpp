@@ -23,7 +23,7 @@ Lane LayOutLane(const std::vector<LaneLocus>& loci, std::span<const std::size_t>
     LeastFirst<std::size_t> free;
     for (const std::size_t position : positions)
     {
-        while (!taken.empty() && taken.top().first < loci[position].From)
+        while (!taken.empty() && taken.top().first <= loci[position].From)
         {
             free.push(taken.top().second);
             taken.pop();
@@ -34,7 +34,8 @@ Lane LayOutLane(const std::vector<LaneLocus>& loci, std::span<const std::size_t>
             lane.Rows.emplace_back();
         }
         lane.Rows[free.top()].push_back(position);
-        taken.emplace(loci[position].To, free.top());
+        // Even a range without an extent has a bar that can be seen.
+        taken.emplace(std::max(loci[position].To, loci[position].From + 1), free.top());
         free.pop();
     }
     return lane;

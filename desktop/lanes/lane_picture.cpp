@@ -28,6 +28,17 @@ QPalette PaperPalette()
     return palette;
 }
 
+constexpr int tallest = 32767; // What a raster painter can address.
+
+QSize RequireSaveable(QSize size)
+{
+    if (size.height() > tallest)
+        throw Failure(ErrorNumber::InvalidArgument, "LanePicture",
+                      "The picture can't be saved: with so many loci it is too tall. Select fewer "
+                      "loci");
+    return size;
+}
+
 } // namespace
 
 LanePicture::LanePicture(QWidget* parent) : QAbstractScrollArea(parent)
@@ -52,11 +63,7 @@ QSize LanePicture::WholeSize() const
 
 QByteArray LanePicture::AsPng() const
 {
-    constexpr int tallest = 32767; // What a raster painter can address.
-    const QSize size = WholeSize();
-    if (size.height() > tallest)
-        throw Failure(ErrorNumber::InvalidArgument, "LanePicture",
-                      "The picture is too tall for PNG. Save it as SVG, or select fewer loci");
+    const QSize size = RequireSaveable(WholeSize());
     const int scale = 2 * size.height() <= tallest ? 2 : 1;
     QImage image(size * scale, QImage::Format_RGB32);
     QPainter painter(&image);
@@ -71,16 +78,17 @@ QByteArray LanePicture::AsPng() const
 
 QByteArray LanePicture::AsSvg() const
 {
+    const QSize size = RequireSaveable(WholeSize());
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setSize(WholeSize());
-    generator.setViewBox(QRect({}, WholeSize()));
+    generator.setSize(size);
+    generator.setViewBox(QRect({}, size));
     generator.setResolution(logicalDpiX());
     generator.setTitle("Loci along the fragment length");
     QPainter painter(&generator);
     painter.setFont(font());
-    m_drawing.Draw(painter, WholeSize(), 0, PaperPalette());
+    m_drawing.Draw(painter, size, 0, PaperPalette());
     painter.end();
     return buffer.data();
 }

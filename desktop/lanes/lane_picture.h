@@ -16,9 +16,9 @@ public:
     void Show(LaneDrawing drawing);
     const LaneDrawing& Drawing() const { return m_drawing; }
 
-    /// All lanes and the axis, as wide as shown here, dark on white. PNG has twice the pixels of
-    /// the screen while its height allows. Raises `ErrorNumber::InvalidArgument` for a picture too
-    /// tall for PNG.
+    /// All lanes and the axis, as wide as shown here, dark on white; PNG has twice the pixels of
+    /// the screen while its height allows. Both raise `ErrorNumber::InvalidArgument` for a picture
+    /// that is too tall to be of use.
     QByteArray AsPng() const;
     QByteArray AsSvg() const;
 

@@ -6,12 +6,14 @@
 #include "desktop/save_file.h"
 #include "desktop/text.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 namespace Tamrivo
@@ -30,7 +32,7 @@ QString SummaryOf(const LocusOverlaps& overlaps, std::size_t loci)
         return "No loci of one dye overlap.";
     return overlaps.Count == 1
                ? QString("2 loci of one dye overlap:")
-               : QString("%1 pairs of loci of one dye overlap:").arg(overlaps.Count);
+               : QString("%L1 pairs of loci of one dye overlap:").arg(overlaps.Count);
 }
 
 } // namespace
@@ -50,7 +52,6 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
     m_list->setAccessibleName("Loci that overlap");
     m_list->setReadOnly(true);
     m_list->setTabChangesFocus(true);
-    m_list->setLineWrapMode(QPlainTextEdit::NoWrap);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -72,13 +73,13 @@ void LocusLanes::ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<L
     const QString summary = SummaryOf(overlaps, loci.size());
     m_summary->setText(summary);
     m_summary->setVisible(!summary.isEmpty());
-    m_picture->setAccessibleDescription(QString("%1 loci. %2").arg(loci.size()).arg(summary));
+    m_picture->setAccessibleDescription(QString("%L1 loci. %2").arg(loci.size()).arg(summary));
 
     QStringList lines;
     for (const LocusOverlap& overlap : overlaps.Listed)
         lines.append(ToQString(Describe(overlap, loci) + "."));
     if (overlaps.Count > overlaps.Listed.size())
-        lines.append(QString("And %1 more.").arg(overlaps.Count - overlaps.Listed.size()));
+        lines.append(QString("And %L1 more.").arg(overlaps.Count - overlaps.Listed.size()));
     m_list->setPlainText(lines.join('\n'));
     m_list->setVisible(!lines.isEmpty());
     FitList();
@@ -105,6 +106,8 @@ void LocusLanes::SavePictureAs()
             return;
         if (QFileInfo(path).suffix().isEmpty())
             path += chosen == png ? ".png" : ".svg";
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
         SavePicture(path);
     });
 }

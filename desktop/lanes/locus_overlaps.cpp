@@ -15,11 +15,15 @@ namespace
 class LaneSweep
 {
 public:
-    LaneSweep(const std::vector<LaneLocus>& loci, std::span<const std::size_t> lane)
-        : m_loci(loci), m_lane(lane)
+    LaneSweep(const std::vector<LaneLocus>& loci, std::span<const std::size_t> lane) : m_loci(loci)
     {
         for (const std::size_t locus : lane)
+        {
+            if (loci[locus].From >= loci[locus].To)
+                continue;
+            m_lane.push_back(locus);
             m_ends.push_back(loci[locus].To);
+        }
         std::ranges::sort(m_ends);
     }
 
@@ -30,12 +34,11 @@ public:
         {
             const LaneLocus& locus = m_loci[m_lane[at]];
             // What ends before this one begins has begun before it as well.
-            while (m_ends[ended] < locus.From)
+            while (m_ends[ended] <= locus.From)
                 ++ended;
             overlaps.Count += at - ended;
 
-            const bool meetsNext =
-                at + 1 < m_lane.size() && m_loci[m_lane[at + 1]].From <= locus.To;
+            const bool meetsNext = at + 1 < m_lane.size() && m_loci[m_lane[at + 1]].From < locus.To;
             overlaps.IsOverlapped[m_lane[at]] = at > ended || meetsNext;
             if (at > ended)
                 Share(locus, overlaps.Shared);
@@ -49,7 +52,7 @@ private:
     {
         const std::int32_t to = std::min(locus.To, m_furthest);
         if (!stretches.empty() && stretches.back().DyeIndex == locus.DyeIndex &&
-            locus.From <= stretches.back().To + 1)
+            locus.From <= stretches.back().To)
             stretches.back().To = std::max(stretches.back().To, to);
         else
             stretches.push_back({locus.DyeIndex, locus.From, to});
@@ -61,7 +64,7 @@ private:
         if (listed.size() >= most)
             return;
         const LaneLocus& added = m_loci[locus];
-        std::erase_if(m_open, [&](std::size_t open) { return m_loci[open].To < added.From; });
+        std::erase_if(m_open, [&](std::size_t open) { return m_loci[open].To <= added.From; });
         for (const std::size_t open : m_open)
         {
             if (listed.size() >= most)
@@ -72,7 +75,7 @@ private:
     }
 
     const std::vector<LaneLocus>& m_loci;
-    std::span<const std::size_t> m_lane;
+    std::vector<std::size_t> m_lane;
     std::vector<std::int32_t> m_ends;
     std::int32_t m_furthest = 0;
     std::vector<std::size_t> m_open;
@@ -97,13 +100,9 @@ LocusOverlaps FindOverlaps(const std::vector<LaneLocus>& loci, std::size_t most)
 
 std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& loci)
 {
-    const std::string lengths =
-        overlap.From == overlap.To
-            ? "at " + std::to_string(overlap.From)
-            : "from " + std::to_string(overlap.From) + " to " + std::to_string(overlap.To);
-    return loci[overlap.First].Tag + " and " + loci[overlap.Second].Tag + " overlap " + lengths +
-           " nt on dye " + DyeName(loci[overlap.First].DyeIndex) +
-           ": they can't be told apart in one run";
+    return loci[overlap.First].Tag + " and " + loci[overlap.Second].Tag + " overlap from " +
+           std::to_string(overlap.From) + " to " + std::to_string(overlap.To) + " nt on dye " +
+           DyeName(loci[overlap.First].DyeIndex) + ": they can't be told apart in one run";
 }
 
 } // namespace Tamrivo

@@ -13,8 +13,8 @@ struct LaneLocus
 {
     std::string Tag;
     std::int32_t DyeIndex = 0; ///< Position in the list of dyes, from 0.
-    std::int32_t From = 0;     ///< Start of the fragment length range, nt, within it.
-    std::int32_t To = 0;       ///< End of the range, nt, within it; not before `From`.
+    std::int32_t From = 0;     ///< Start of the fragment length range, nt.
+    std::int32_t To = 0;       ///< End of the range, nt; not before `From`.
 };
 
 /// "D1", as the editor's list of dyes has it.
@@ -25,11 +25,11 @@ struct LocusOverlap
 {
     std::size_t First;
     std::size_t Second;
-    std::int32_t From; ///< nt, within both ranges.
-    std::int32_t To;   ///< nt, within both ranges.
+    std::int32_t From; ///< nt
+    std::int32_t To;   ///< nt
 };
 
-/// Lengths on a dye that more than one locus may have, nt, both ends included.
+/// Lengths on a dye that more than one locus may have, nt.
 struct SharedStretch
 {
     std::int32_t DyeIndex;
@@ -48,7 +48,8 @@ struct LocusOverlaps
     std::vector<bool> IsOverlapped;    ///< Of each locus.
 };
 
-/// Finds the loci of one dye whose ranges have a length in common, in time n log n.
+/// Finds the loci of one dye whose ranges overlap, in time n log n. Lengths are measured, not
+/// counted: ranges that only meet, as 78 to 92 nt and 92 to 149 nt, don't overlap.
 /// @param most how many pairs are listed at most
 LocusOverlaps FindOverlaps(const std::vector<LaneLocus>& loci, std::size_t most);
 

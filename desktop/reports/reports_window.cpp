@@ -96,7 +96,7 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     connect(m_type, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
     connect(m_scope, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
     const int line = fontMetrics().lineSpacing();
-    resize(60 * line, 32 * line);
+    resize(70 * line, 32 * line);
 }
 
 QLayout* ReportsWindow::MakeTopRow()
@@ -185,6 +185,8 @@ void ReportsWindow::Load()
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_model->Show(std::move(report));
     m_table->resizeColumnsToContents();
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        m_table->setColumnWidth(column, m_table->columnWidth(column) + fontMetrics().height());
     ShowStatus();
 }
 

@@ -56,7 +56,8 @@ Report OnlyKeys(const Report& report, const std::vector<std::string>& keys)
 Table TableOf(const Report& report, Audience audience)
 {
     Table table = LociTable(report.Items, audience);
-    table.Columns.front().Title = "Context";
+    if (audience == Audience::Programs)
+        table.Columns.front().Title = "Context";
     for (std::size_t row = 0; row < table.Rows.size(); ++row)
         table.Rows[row].front() = report.Keys[row];
     return table;

@@ -50,12 +50,13 @@ TEST_F(StoreTest, WhatIsNoStoreIsRefusedAndLeftAlone)
          })
     {
         SCOPED_TRACE(name);
-        const std::string before = ContentOf(Path(name));
-        const ErrorRecord error = FailureOf([&] { Store store(Path(name)); });
+        const std::string path = Path(name);
+        const std::string before = ContentOf(path);
+        const ErrorRecord error = FailureOf([&] { Store store(path); });
         EXPECT_EQ(error.Number, number);
         EXPECT_THAT(error.Description, HasSubstr(message));
         EXPECT_THAT(error.Description, HasSubstr(name));
-        EXPECT_EQ(ContentOf(Path(name)), before);
+        EXPECT_EQ(ContentOf(path), before);
     }
     EXPECT_EQ(FailureOf([] { Store store("postgresql://127.0.0.1:1/none"); }).Number,
               StoreError::Unreachable);

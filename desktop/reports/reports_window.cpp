@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
+#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -82,7 +83,7 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     m_table->setAlternatingRowColors(true);
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     // The order of the service until the person asks for another.
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -95,8 +96,21 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
 
     connect(m_type, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
     connect(m_scope, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
+    FitRows();
     const int line = fontMetrics().lineSpacing();
     resize(70 * line, 32 * line);
+}
+
+void ReportsWindow::FitRows()
+{
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
+}
+
+void ReportsWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        FitRows();
 }
 
 QLayout* ReportsWindow::MakeTopRow()

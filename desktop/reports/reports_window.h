@@ -40,6 +40,9 @@ public:
     /// Asks for a printer and prints the table.
     void Print();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Parameter
     {
@@ -47,6 +50,7 @@ private:
         std::vector<std::string> Tags;
     };
 
+    void FitRows();
     QLayout* MakeTopRow();
     void OfferScopes();
     void Load();

@@ -21,6 +21,16 @@ void AppendBigEndian(std::string& key, std::uint64_t value, int bytes)
         key += static_cast<char>((value >> static_cast<unsigned>(shift)) & 0xFFU);
 }
 
+/// One byte for the numbers that occur, so that the key of a usual tag is a short string.
+void AppendCount(std::string& key, std::size_t count)
+{
+    constexpr std::size_t first = 0xFF;
+    if (count < first)
+        return AppendBigEndian(key, count, 1);
+    AppendBigEndian(key, first, 1);
+    AppendBigEndian(key, count, 8);
+}
+
 bool IsDigit(char character)
 {
     return character >= '0' && character <= '9';
@@ -31,7 +41,7 @@ bool IsDigit(char character)
 void AppendNumber(std::string& key, std::string_view digits)
 {
     key += '0';
-    AppendBigEndian(key, digits.size(), 4);
+    AppendCount(key, digits.size());
     key += digits;
 }
 
@@ -50,7 +60,7 @@ std::string TagKey(std::string_view tag, bool caseCounts)
         const auto end = std::find_if_not(place, folded.end(), IsDigit);
         const auto first = std::find_if(place, end, [](char digit) { return digit != '0'; });
         AppendNumber(key, {first, end});
-        AppendBigEndian(leadingZeros, static_cast<std::uint64_t>(first - place), 4);
+        AppendCount(leadingZeros, static_cast<std::size_t>(first - place));
         place = end;
     }
     key += End;

@@ -1,0 +1,186 @@
+#include "desktop/alleles/allele_pane_view.h"
+#include "desktop/alleles/allele_picture.h"
+#include "desktop/pictures/colors.h"
+#include "desktop_test.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QToolTip>
+
+namespace Tamrivo::Testing
+{
+
+namespace
+{
+
+class AllelePaneTest : public DesktopTest
+{
+protected:
+    /// Opens the editor on D3S1358, whose alleles are 80, 84, ... 136 nt with bins of 1 nt.
+    void OnPane(const std::function<void()>& act)
+    {
+        Edit("D3S1358", [&](WizardDialog& editor) {
+            m_view = dynamic_cast<QWidget*>(&Named(editor, "ctlPaneAlleleList"));
+            m_table = m_view->findChild<QTableView*>();
+            m_pane = &User::AllelesOf(dynamic_cast<User::AllelePaneControl&>(
+                *editor.Page().Form().Find("ctlPaneAlleleList")));
+            for (auto* child : m_view->findChildren<QWidget*>())
+            {
+                if (auto* picture = dynamic_cast<AllelePicture*>(child))
+                    m_picture = picture;
+            }
+            act();
+            editor.reject();
+        });
+    }
+
+    /// Types a cell's new content as a person does.
+    void EditCell(int row, int column, const QString& text)
+    {
+        m_table->setFocus();
+        m_table->setCurrentIndex(m_table->model()->index(row, column));
+        QTest::keyClick(m_table->viewport(), Qt::Key_F2);
+        QLineEdit* editor = nullptr;
+        for (auto* candidate : m_table->findChildren<QLineEdit*>())
+            editor = candidate->isVisible() ? candidate : editor;
+        ASSERT_TRUE(editor);
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+
+    QString Cell(int row, int column) const
+    {
+        return m_table->model()->index(row, column).data().toString();
+    }
+
+    BinState StateOf(int row) const
+    {
+        return m_picture->Shapes()[static_cast<std::size_t>(row)].State;
+    }
+
+    /// How many pixels of the picture have the colour of a state, about.
+    int Pixels(const QColor& color) const
+    {
+        const QImage image = m_picture->grab().toImage();
+        // The legend at the bottom shows every colour.
+        const int bottom = image.height() - 2 * m_picture->fontMetrics().lineSpacing();
+        int count = 0;
+        for (int y = 0; y < bottom; ++y)
+        {
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixelColor(x, y) == color ? 1 : 0;
+        }
+        return count;
+    }
+
+    QWidget* m_view = nullptr;
+    QTableView* m_table = nullptr;
+    AllelePane* m_pane = nullptr;
+    AllelePicture* m_picture = nullptr;
+};
+
+} // namespace
+
+TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
+{
+    OnPane([this] {
+        ASSERT_EQ(m_table->model()->rowCount(), 15);
+        EXPECT_EQ(Cell(0, 1), "80");
+        EXPECT_GT(Pixels(SafeColor::Blue), 0);
+        EXPECT_EQ(Pixels(SafeColor::Vermillion), 0);
+
+        EditCell(0, 3, "84");
+        EXPECT_EQ(Cell(0, 3), "84");
+        EXPECT_EQ(StateOf(0), BinState::Overlapping);
+        EXPECT_EQ(StateOf(1), BinState::Overlapping);
+        EXPECT_GT(Pixels(SafeColor::Vermillion), 0);
+
+        EditCell(14, 3, "140");
+        EXPECT_EQ(StateOf(14), BinState::OutOfRange);
+        EXPECT_GT(Pixels(SafeColor::Orange), 0);
+
+        EditCell(2, 1, "never");
+        EXPECT_EQ(Cell(2, 1), "88") << "refused";
+        EXPECT_TRUE(QToolTip::text().contains("Row 3"));
+
+        EditCell(0, 1, "137");
+        EXPECT_EQ(Cell(14, 1), "137") << "rows stand by size";
+        EXPECT_EQ(m_table->currentIndex().row(), 14) << "and the person stays with the row";
+    });
+}
+
+TEST_F(AllelePaneTest, RowsAreAddedRemovedAndTakenBack)
+{
+    OnPane([this] {
+        m_table->setFocus();
+        QTest::keyClick(m_table, Qt::Key_Insert);
+        EXPECT_EQ(m_table->model()->rowCount(), 16);
+        EXPECT_FALSE(m_pane->IsValid()) << "no name yet";
+        QTest::keyClick(m_table->findChild<QLineEdit*>(), Qt::Key_Escape);
+        QTest::keyClick(m_table, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(m_table->model()->rowCount(), 15);
+
+        m_table->selectRow(3);
+        QTest::keyClick(m_table, Qt::Key_Delete);
+        EXPECT_EQ(m_table->model()->rowCount(), 14);
+        EXPECT_EQ(Cell(3, 1), "96");
+        QTest::keyClick(m_table, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(m_table, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(m_table->model()->rowCount(), 14);
+    });
+}
+
+TEST_F(AllelePaneTest, CellsAreExchangedWithOtherPrograms)
+{
+    OnPane([this] {
+        m_table->setFocus();
+        m_table->setCurrentIndex(m_table->model()->index(0, 0));
+        m_table->selectRow(0);
+        QTest::keyClick(m_table, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), "1\t80\t79.5\t80.5\n");
+
+        QApplication::clipboard()->setText("x\t135\t134.5\t135.5\r\ny\t139\t138.5\t139.5\r\n");
+        m_table->setCurrentIndex(m_table->model()->index(14, 0));
+        QTest::keyClick(m_table, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(m_table->model()->rowCount(), 16);
+        EXPECT_EQ(Cell(14, 0) + Cell(15, 0) + Cell(15, 3), "xy139.5");
+        QTest::keyClick(m_table, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(m_table->model()->rowCount(), 15) << "one step";
+        EXPECT_EQ(Cell(14, 1), "136");
+    });
+}
+
+TEST_F(AllelePaneTest, ThePictureTellsAndSelectsTheRow)
+{
+    OnPane([this] {
+        const QPoint place = m_picture->RectOf(m_picture->Shapes()[5]).center().toPoint();
+        QHelpEvent hover(QEvent::ToolTip, place, m_picture->mapToGlobal(place));
+        QApplication::sendEvent(m_picture, &hover);
+        EXPECT_TRUE(QToolTip::text().startsWith("Row 6: 6, 100 nt"))
+            << QToolTip::text().toStdString();
+        QTest::mouseClick(m_picture, Qt::LeftButton, Qt::NoModifier, place);
+        EXPECT_EQ(m_table->currentIndex().row(), 5);
+    });
+}
+
+TEST_F(AllelePaneTest, AnInvalidListKeepsTheWizardOpenAndTellsWhy)
+{
+    Edit("D3S1358", [this](WizardDialog& editor) {
+        auto& pane =
+            dynamic_cast<User::AllelePaneControl&>(*editor.Page().Form().Find("ctlPaneAlleleList"));
+        User::EditAllele(pane, 1, AlleleColumns[0], "");
+        auto& reasons = Named<QLabel>(editor, "reasons");
+        EXPECT_EQ(reasons.text(), "Allele list, row 1: The name is missing.");
+        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
+        EXPECT_TRUE(editor.isVisible());
+        editor.reject();
+    });
+}
+
+} // namespace Tamrivo::Testing

@@ -1,0 +1,85 @@
+#include "desktop_test.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
+
+namespace Tamrivo::Testing
+{
+
+void OnModal(std::function<void(QDialog&)> act)
+{
+    auto* timer = new QTimer;
+    const QWidget* before = QApplication::activeModalWidget();
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, before, act = std::move(act)] {
+        auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || dialog == before || !dialog->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        QApplication::setActiveWindow(dialog);
+        act(*dialog);
+        if (dialog->isVisible())
+        {
+            ADD_FAILURE() << "The dialog " << dialog->windowTitle().toStdString()
+                          << " is still open";
+            dialog->reject();
+        }
+    });
+    timer->start(5);
+}
+
+void Press(QDialog& dialog, const QString& text)
+{
+    for (auto* button : dialog.findChildren<QAbstractButton*>())
+    {
+        if (button->text().remove('&') == text)
+            return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    ADD_FAILURE() << "There is no button " << text.toStdString();
+}
+
+void Type(QWidget& widget, const QString& text)
+{
+    for (const QChar character : text)
+        QTest::keyClick(&widget, character.toLatin1());
+}
+
+void Focus(QWidget& widget)
+{
+    widget.setFocus(Qt::MouseFocusReason);
+    QCoreApplication::processEvents();
+}
+
+DesktopTest::DesktopTest() : m_session(std::make_unique<StoreSession>(Address(), m_frontEnd))
+{
+    AddLocus("D3S1358", 0, 80, 136);
+    AddLocus("TH01", 0, 120, 180);
+    AddLocus("FGA", 1, 200, 300);
+}
+
+void DesktopTest::AddLocus(const std::string& tag, int dye, int from, int to)
+{
+    Store& store = Host().Store();
+    const auto locus = CreateObject<Locus>(store.Manager(), "Locus");
+    const auto project = store.ProjectNamed("Default");
+    locus->SetLocusTag(tag);
+    locus->SetIsCurrent(true);
+    locus->ProjectID = project->ProjectID();
+    locus->ProjectName = project->Name();
+    locus->DyeIndex = dye;
+    locus->FragStart = locus->ShortestAlleleSize = from;
+    locus->FragEnd = to;
+    locus->AlleleNamingConventionTypeID = AlleleNamingConvention::Numeric;
+    locus->GenerateAlleles();
+    store.Manager().Save(*locus, true);
+}
+
+WizardOutcome DesktopTest::Edit(const std::string& tag,
+                                const std::function<void(WizardDialog&)>& act)
+{
+    OnModal([&](QDialog& dialog) { act(dynamic_cast<WizardDialog&>(dialog)); });
+    return tag.empty() ? Host().NewLocus(false) : Host().EditLocus(tag, false);
+}
+
+} // namespace Tamrivo::Testing

@@ -1,0 +1,239 @@
+#include "controls/text_field.h"
+#include "desktop/forms/accessible_name.h"
+#include "desktop_test.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace Tamrivo::Testing
+{
+
+namespace
+{
+
+class WizardTest : public DesktopTest
+{};
+
+QString Reasons(WizardDialog& editor)
+{
+    auto& reasons = Named<QLabel>(editor, "reasons");
+    return reasons.isVisible() ? reasons.text() : QString();
+}
+
+void Replace(QWidget& editor, const QString& field, const QString& text)
+{
+    auto& widget = Named<QLineEdit>(editor, field);
+    Focus(widget);
+    widget.selectAll();
+    Type(widget, text);
+}
+
+} // namespace
+
+TEST_F(WizardTest, TheWholeRoadOfOneEdit)
+{
+    const auto outcome = Edit("D3S1358", [](WizardDialog& editor) {
+        Replace(editor, "txtFragEnd", "140");
+        Replace(editor, "txtRepeat", "x8");
+        QTest::mouseClick(&Named(editor, "cmdGenAlleleList"), Qt::LeftButton);
+        Named<QTabWidget>(editor, "SSTab1").setCurrentIndex(1);
+        QTest::mouseClick(&Named(editor, "chkSearchForStutter"), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(8, 8));
+        EXPECT_TRUE(Named(editor, "txtStutterWidth").isEnabled());
+        QTest::keyClick(&Named(editor, "UpDown1"), Qt::Key_Up);
+        EXPECT_EQ(Named<QLineEdit>(editor, "txtStutterWidth").text(), "2");
+        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
+    });
+    EXPECT_TRUE(outcome.Completed);
+    const auto locus = Stored("D3S1358");
+    EXPECT_EQ(locus->FragEnd, 140);
+    EXPECT_EQ(locus->RepeatLength, 8);
+    EXPECT_TRUE(locus->SearchForStutter);
+    EXPECT_EQ(locus->StutterWidth, 2);
+    EXPECT_EQ(locus->Alleles().Count(), 8) << "80, 88, ... 136";
+}
+
+TEST_F(WizardTest, EnterFinishesAndEscapeCancelsAfterTheRepair)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        auto& field = Named<QLineEdit>(editor, "txtRepeat");
+        Replace(editor, "txtRepeat", "999");
+        QTest::keyClick(&field, Qt::Key_Return);
+    });
+    EXPECT_EQ(Stored("D3S1358")->RepeatLength, 255);
+
+    std::string repaired;
+    const auto outcome = Edit("D3S1358", [&](WizardDialog& editor) {
+        Replace(editor, "txtRepeat", "0");
+        QTest::keyClick(&Named(editor, "txtRepeat"), Qt::Key_Escape);
+        repaired = Named<QLineEdit>(editor, "txtRepeat").text().toStdString();
+    });
+    EXPECT_FALSE(outcome.Completed);
+    EXPECT_EQ(repaired, "1");
+    EXPECT_EQ(Stored("D3S1358")->RepeatLength, 255);
+}
+
+TEST_F(WizardTest, EveryKindOfFaultIsMarkedExplainedAndKeepsTheWizardOpen)
+{
+    Edit({}, [](WizardDialog& editor) {
+        auto& finish = Named(editor, "finish");
+        const auto isYellow = [&](const char* field) {
+            const QWidget& widget = Named(editor, field);
+            return widget.palette().color(QPalette::Base) == QColor(255, 255, 0) &&
+                   !widget.toolTip().isEmpty();
+        };
+        QTest::mouseClick(&finish, Qt::LeftButton);
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_TRUE(isYellow("txtLocusTag"));
+        EXPECT_EQ(Reasons(editor), "Locus Tag Name is required.");
+        EXPECT_TRUE(Named(editor, "txtLocusTag").hasFocus());
+
+        Replace(editor, "txtLocusTag", "d3s1358");
+        EXPECT_EQ(Reasons(editor), "Locus Tag Name is not unique.");
+
+        Replace(editor, "txtLocusTag", "New");
+        EXPECT_EQ(Reasons(editor), "");
+        Replace(editor, "txtFragStart", "300");
+        Replace(editor, "txtFragEnd", "200");
+        Named<QTabWidget>(editor, "SSTab1").setCurrentIndex(1);
+        QTest::mouseClick(&finish, Qt::LeftButton);
+        EXPECT_TRUE(isYellow("txtFragStart") && isYellow("txtFragEnd"));
+        EXPECT_EQ(Named<QTabWidget>(editor, "SSTab1").currentIndex(), 0)
+            << "the field at fault comes into view";
+
+        Replace(editor, "txtFragEnd", "400");
+        QTest::mouseClick(&Named(editor, "optAlleleNaming(2)"), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(8, 8));
+        Replace(editor, "txtStartAtNumeric", "0");
+        EXPECT_TRUE(isYellow("txtStartAtNumeric"));
+        editor.reject();
+    });
+}
+
+TEST_F(WizardTest, TabStopsAreTheDeclaredOnes)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        const UserControl& page = editor.Page().Form();
+        for (const int tab : {0, 1})
+        {
+            Named<QTabWidget>(editor, "SSTab1").setCurrentIndex(tab);
+            std::vector<std::string> expected;
+            QWidget* first = nullptr;
+            for (const Control* control : page.FocusOrder())
+            {
+                QWidget& widget = editor.Page().ViewOf(*control)->FocusWidget();
+                if (!widget.isVisible() || !widget.isEnabled())
+                    continue;
+                first = first != nullptr ? first : &widget;
+                expected.push_back(control->Name());
+            }
+            std::vector<std::string> visited;
+            Focus(*first);
+            for (std::size_t i = 0; i < expected.size(); ++i)
+            {
+                const QWidget* focus = editor.focusWidget();
+                for (const Control* control : page.FocusOrder())
+                {
+                    if (&editor.Page().ViewOf(*control)->FocusWidget() == focus)
+                        visited.push_back(control->Name());
+                }
+                QTest::keyClick(editor.focusWidget(), Qt::Key_Tab);
+            }
+            EXPECT_EQ(visited, expected);
+        }
+        editor.reject();
+    });
+}
+
+TEST_F(WizardTest, EveryControlHasANameAndARole)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        for (const Control* control : editor.Page().Form().FocusOrder())
+        {
+            QWidget& widget = editor.Page().ViewOf(*control)->FocusWidget();
+            QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&widget);
+            EXPECT_FALSE(read->text(QAccessible::Name).isEmpty()) << control->Name();
+        }
+        const UserControl& page = editor.Page().Form();
+        const std::pair<const char*, const char*> names[] = {
+            {"txtLocusTag", "Locus Tag"},
+            {"txtFragEnd", "Fragment length range between: and"},
+            {"txtStartAtNumeric", "Numeric Start at"},
+            {"txtShortestAlleleSize", "Shortest Allele size"},
+            {"UpDown2", "Maximum relative stutter peak height"},
+            {"txtConfInt", "Overwrite system confidence interval"},
+        };
+        for (const auto& [control, name] : names)
+            EXPECT_EQ(AccessibleName(*page.Find(control)), name) << control;
+        editor.reject();
+    });
+}
+
+TEST_F(WizardTest, SaveAsUnderAnotherTagAndOverTheSame)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        OnModal([](QDialog& saveAs) {
+            QTest::mouseClick(&Named(saveAs, "finish"), Qt::LeftButton);
+            EXPECT_TRUE(saveAs.isVisible()) << "no tag yet";
+            auto& reasons = Named<QLabel>(saveAs, "reasons");
+            EXPECT_TRUE(reasons.isVisible() && !reasons.text().isEmpty());
+            Type(Named(saveAs, "txtLocusName"), "Copy");
+            QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
+        });
+        QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
+        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
+    });
+    ASSERT_TRUE(Stored("Copy"));
+    EXPECT_EQ(Stored("Copy")->FragEnd, 136);
+
+    Edit({}, [](WizardDialog& editor) {
+        Replace(editor, "txtLocusTag", "Fresh");
+        Replace(editor, "txtFragStart", "100");
+        Replace(editor, "txtFragEnd", "200");
+        OnModal([](QDialog& saveAs) {
+            OnModal([](QDialog& question) {
+                auto& box = dynamic_cast<QMessageBox&>(question);
+                EXPECT_EQ(box.windowTitle(), "Save Over Existing Locus");
+                EXPECT_EQ(box.icon(), QMessageBox::Warning);
+                EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
+                QTest::keyClick(&box, Qt::Key_Return);
+            });
+            Type(Named(saveAs, "txtLocusName"), "Fresh");
+            QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
+        });
+        if (Named(editor, "cmdSaveAs").isEnabled())
+            QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
+        editor.reject();
+    });
+}
+
+TEST_F(WizardTest, AFailureIsTakenInPlainWordsAndNothingIsLost)
+{
+    Edit("D3S1358", [&](WizardDialog& editor) {
+        const auto other = Stored("D3S1358");
+        other->LocusName = "Changed meanwhile";
+        Host().Store().Manager().Save(*other, true);
+        Replace(editor, "txtFragEnd", "150");
+        OnModal([](QDialog& dialog) {
+            auto& box = dynamic_cast<QMessageBox&>(dialog);
+            EXPECT_EQ(box.objectName(), "failure");
+            EXPECT_GT(box.text().size(), 30);
+            EXPECT_FALSE(box.text().contains("-2147"));
+            EXPECT_TRUE(box.detailedText().contains("-2147"));
+            Press(box, "OK");
+        });
+        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
+        if (editor.isVisible())
+        {
+            EXPECT_EQ(Named<QLineEdit>(editor, "txtFragEnd").text(), "150");
+            editor.reject();
+        }
+    });
+}
+
+} // namespace Tamrivo::Testing

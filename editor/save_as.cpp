@@ -69,13 +69,13 @@ void LocusEditorPage::cmdSaveAs_Click()
 
 void LocusEditorPage::CountNewTag()
 {
-    std::int16_t iSaveTimes = 1;
+    int saveTimes = 1;
     if (SharedUtility().KeyExists(Parameters(), ParameterKey::SaveTimes))
     {
-        iSaveTimes += ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes);
+        saveTimes += ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes);
         Parameters().Remove(ParameterKey::SaveTimes);
     }
-    Parameters().Add(iSaveTimes, ParameterKey::SaveTimes);
+    Parameters().Add(static_cast<std::int16_t>(saveTimes), ParameterKey::SaveTimes);
 }
 
 } // namespace Tamrivo

@@ -33,6 +33,7 @@ public:
 std::vector<std::string> Names(const std::vector<Control*>& controls)
 {
     std::vector<std::string> names;
+    names.reserve(controls.size());
     for (const Control* control : controls)
         names.push_back(control->Name());
     return names;

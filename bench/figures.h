@@ -23,6 +23,8 @@ double LookupOfTag();
 double MemoryOfLocus();
 double AlleleGeneration();
 
+double ImportOfPanels();
+
 double SelectorInitialize();
 double SelectorSort();
 double SelectorAddAll();
@@ -44,6 +46,7 @@ inline constexpr Figure Figures[] = {
     {"lookup", "Looking up a tag, 100,000 loci / 100 loci", 2, "", LookupOfTag},
     {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
     {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
+    {"import", "Import of 100,000 alleles / bare inserts", 3, "", ImportOfPanels},
     {"selector_open", "Selector over 100,000 loci / their query by name", 2, "",
      SelectorInitialize},
     {"selector_sort", "Sorting the grid, 1,000 to 100,000 loci / n log n", 1, "", SelectorSort},
@@ -51,7 +54,8 @@ inline constexpr Figure Figures[] = {
     {"selector_remove_all", "Removing all rows / n log n", 1, "", SelectorRemoveAll},
     {"selector_save", "Saving the selection / n log n", 1, "", SelectorSave},
     {"selector_move", "Moving one row of 100,000", 1, "ms", SelectorMove},
-    {"editor_load", "Opening a locus in the editor and storing its fields", 20, "us", LoadAndUpdate},
+    {"editor_load", "Opening a locus in the editor and storing its fields", 20, "us",
+     LoadAndUpdate},
     {"editor_key", "A key in the tag field, 100,000 current loci", 5, "us", KeyInTag},
     {"editor_key_by_loci", "A key in the tag field, 100,000 loci / 100 loci", 1.5, "",
      KeyInTagByLoci},

@@ -1,0 +1,107 @@
+#include "bench/bare_sqlite.h"
+#include "bench/figures.h"
+#include "bench/sample_store.h"
+#include "bench/timing.h"
+#include "platform/panels/import.h"
+#include "platform/panels/panel_reader.h"
+#include "platform/store/locus_row.h"
+
+namespace Tamrivo::Bench
+{
+
+namespace
+{
+
+constexpr int markers = 4'000;
+constexpr int allelesOfMarker = 25;
+
+void Step(const BareStatement& statement, const BareConnection& connection)
+{
+    Require(sqlite3_step(statement.get()) == SQLITE_DONE, connection);
+    sqlite3_reset(statement.get());
+}
+
+/// A panel table of 100,000 alleles.
+std::string PanelText()
+{
+    std::string text = "Panel\tMarker\tAllele\tSize\tSize.Min\tSize.Max\tVirtual\tColor\tRepeat"
+                       "\tMarker.Min\tMarker.Max\tOffset\n";
+    for (int marker = 0; marker < markers; ++marker)
+    {
+        for (int allele = 5; allele < 5 + allelesOfMarker; ++allele)
+        {
+            const std::string size = std::to_string(80 + 4 * allele);
+            text += "Panel\t" + SampleTag(marker) + '\t' + std::to_string(allele) + '\t' + size +
+                    ".25\t" + size + "\t" + size + ".5\t0\tblue\t4\t90.5\t240.5\t80\n";
+        }
+    }
+    return text;
+}
+
+double ImportSeconds(const std::string& text)
+{
+    TemporaryStore store;
+    return SecondsOf([&] {
+        const PanelReading reading = ReadPanelTable(text);
+        CarryOutImport(PlanImport(reading.Markers, {}, store.Get()), store.Get());
+    });
+}
+
+/// Inserts as many rows, with every column bound, in one transaction.
+double InsertSeconds()
+{
+    TemporaryStore store;
+    const BareConnection connection = Connect(store.Path());
+    std::string names;
+    std::string values;
+    LocusRow row;
+    row.VisitColumns([&](std::string_view name, const auto&) {
+        names.append(names.empty() ? "" : ", ").append(name);
+        // A locus is one row in 25, so that binding its columns counts for little.
+        values.append(values.empty() ? "" : ", ")
+            .append(name == "LocusID" || name == "LocusTag" || name == "TagKey" ? "?1" : "'0'");
+    });
+    const BareStatement insertLocus =
+        Prepare(connection, "INSERT INTO Locus (" + names + ") VALUES (" + values + ")");
+    const BareStatement insertAllele =
+        Prepare(connection, "INSERT INTO Allele VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+    return SecondsOf([&] {
+        Execute(connection, "BEGIN IMMEDIATE");
+        for (int marker = 1; marker <= markers; ++marker)
+        {
+            sqlite3_bind_int(insertLocus.get(), 1, marker);
+            Step(insertLocus, connection);
+            for (int allele = 1; allele <= allelesOfMarker; ++allele)
+            {
+                const std::string name = std::to_string(allele);
+                sqlite3_bind_int(insertAllele.get(), 1, marker);
+                sqlite3_bind_int(insertAllele.get(), 2, allele);
+                for (int column = 3; column <= 7; ++column)
+                    sqlite3_bind_double(insertAllele.get(), column, 80.25 + allele);
+                for (int column = 8; column <= 10; ++column)
+                    sqlite3_bind_text(insertAllele.get(), column, name.c_str(), -1, SQLITE_STATIC);
+                for (int column = 11; column <= 13; ++column)
+                    sqlite3_bind_int(insertAllele.get(), column, 0);
+                Step(insertAllele, connection);
+            }
+        }
+        Execute(connection, "COMMIT");
+    });
+}
+
+} // namespace
+
+double ImportOfPanels()
+{
+    const std::string text = PanelText();
+    double import = std::numeric_limits<double>::max();
+    double inserts = import;
+    for (int turn = 0; turn < 5; ++turn)
+    {
+        import = std::min(import, ImportSeconds(text));
+        inserts = std::min(inserts, InsertSeconds());
+    }
+    return import / inserts;
+}
+
+} // namespace Tamrivo::Bench

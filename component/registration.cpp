@@ -50,20 +50,19 @@ void Rewrite(IsOwn isOwn, const Lines& entries)
     if (path.empty())
         throw std::runtime_error("The environment names no directory for the user's data");
     Lines lines = ReadLines(path);
-    std::erase_if(lines,
-                  [&](const std::string& line)
-                  {
-                      const auto entry = Registry::Parse(line);
-                      return entry && isOwn(*entry);
-                  });
+    std::erase_if(lines, [&](const std::string& line) {
+        const auto entry = Registry::Parse(line);
+        return entry && isOwn(*entry);
+    });
     lines.insert(lines.end(), entries.begin(), entries.end());
     WriteLines(path, lines);
 }
 
 bool HasOurName(const Registry::Entry& entry)
 {
-    return std::ranges::any_of(CreatableClasses(), [&](const CreatableClass& created)
-                               { return created.Name == entry.Name; });
+    return std::ranges::any_of(CreatableClasses(), [&](const CreatableClass& created) {
+        return created.Name == entry.Name;
+    });
 }
 
 } // namespace
@@ -83,9 +82,9 @@ void RegisterClasses()
 void UnregisterClasses()
 {
     const std::string path = ModulePath().string();
-    Rewrite([&](const Registry::Entry& entry)
-            { return HasOurName(entry) && entry.ModulePath == path; },
-            {});
+    Rewrite(
+        [&](const Registry::Entry& entry) { return HasOurName(entry) && entry.ModulePath == path; },
+        {});
 }
 
 } // namespace Tamrivo

@@ -24,8 +24,7 @@ struct Entry
 /// `LOCALAPPDATA`. Empty when the environment names no such directory.
 inline std::filesystem::path Path()
 {
-    const auto variable = [](const char* name)
-    {
+    const auto variable = [](const char* name) {
         const char* const value = std::getenv(name);
         return std::filesystem::path(value ? value : "");
     };

@@ -13,7 +13,7 @@ class SaveAsLocusForm : public UserControl
 {
 protected:
     SaveAsLocusForm() : UserControl("SaveAsLocusPage", 4710, 4980) {}
-    ~SaveAsLocusForm() = default;
+    ~SaveAsLocusForm() override = default;
 
 public:
     TextField txtLocusName{

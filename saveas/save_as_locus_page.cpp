@@ -41,41 +41,31 @@ void SaveAsLocusPage::UserControl_Initialize()
 
 void SaveAsLocusPage::m_oPageBase_Initialize()
 {
-    Reporting("m_oPageBase_Initialize",
-              [&](Guard& run)
-              {
-                  run(
-                      [&]
-                      {
-                          ParameterCollection& parameters = *m_oPageBase->Parameters();
-                          if (m_host.SharedUtility().KeyExists(parameters, ParameterKey::LocusName))
-                              parameters.Remove(ParameterKey::LocusName);
-                      });
-                  run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
-                  run(
-                      [&]
-                      {
-                          m_oSaveLocus = ParameterItem<std::shared_ptr<Locus>>(
-                              *m_oPageBase->Parameters(), ParameterKey::SaveLocusAs);
-                      });
-                  run([&] { LoadLocusNameList(); });
-                  run([&] { txtLocusName.SetText(""); });
-              });
+    Reporting("m_oPageBase_Initialize", [&](Guard& run) {
+        run([&] {
+            ParameterCollection& parameters = *m_oPageBase->Parameters();
+            if (m_host.SharedUtility().KeyExists(parameters, ParameterKey::LocusName))
+                parameters.Remove(ParameterKey::LocusName);
+        });
+        run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
+        run([&] {
+            m_oSaveLocus = ParameterItem<std::shared_ptr<Locus>>(*m_oPageBase->Parameters(),
+                                                                 ParameterKey::SaveLocusAs);
+        });
+        run([&] { LoadLocusNameList(); });
+        run([&] { txtLocusName.SetText(""); });
+    });
 }
 
 void SaveAsLocusPage::LoadLocusNameList()
 {
-    Reporting(
-        "LoadLocusNameList",
-        [&](Guard& run)
+    Reporting("LoadLocusNameList", [&](Guard& run) {
+        const auto count = run([&] { return m_oCurrentLoci->Count(); });
+        for (std::int32_t index = 1; index <= count; ++index)
         {
-            const auto count = run([&] { return m_oCurrentLoci->Count(); });
-            for (std::int32_t index = 1; index <= count; ++index)
-            {
-                run([&]
-                    { lstLocusNameList.AddItem(TrimRight(m_oCurrentLoci->Item(index)->Name())); });
-            }
-        });
+            run([&] { lstLocusNameList.AddItem(TrimRight(m_oCurrentLoci->Item(index)->Name())); });
+        }
+    });
 }
 
 void SaveAsLocusPage::txtLocusName_Change()
@@ -85,48 +75,39 @@ void SaveAsLocusPage::txtLocusName_Change()
 
 void SaveAsLocusPage::lstLocusNameList_Click()
 {
-    Reporting(
-        "lstLocusNameList_Click",
-        [&](Guard& run) {
-            run([&] { txtLocusName.SetText(lstLocusNameList.List(lstLocusNameList.ListIndex())); });
-        });
+    Reporting("lstLocusNameList_Click", [&](Guard& run) {
+        run([&] { txtLocusName.SetText(lstLocusNameList.List(lstLocusNameList.ListIndex())); });
+    });
 }
 
 void SaveAsLocusPage::m_oPageBase_Validate(bool& bIsValid)
 {
-    Propagating("m_oPageBase_Validate",
-                [&](Guard& run)
-                {
-                    bIsValid = true;
-                    const std::string tag = TrimRight(txtLocusName.Text());
-                    const Utility& utility = m_host.SharedUtility();
-                    if (tag.empty() || run([&] { return utility.KeyExists(*m_oCurrentLoci, tag); }))
-                        bIsValid = false;
-                });
+    Propagating("m_oPageBase_Validate", [&](Guard& run) {
+        bIsValid = true;
+        const std::string tag = TrimRight(txtLocusName.Text());
+        const Utility& utility = m_host.SharedUtility();
+        if (tag.empty() || run([&] { return utility.KeyExists(*m_oCurrentLoci, tag); }))
+            bIsValid = false;
+    });
 }
 
 void SaveAsLocusPage::m_oPageBase_Save()
 {
-    Reporting("m_oPageBase_Save",
-              [&](Guard& run)
-              {
-                  const std::string& tag = txtLocusName.Text();
-                  if (run([&] { return !EqualNoCase(tag, m_oSaveLocus->LocusTag()); }))
-                  {
-                      run([&] { m_oSaveLocus->SetLocusTag(tag); });
-                      run([&] { Objects().Save(*m_oSaveLocus, true); });
-                      return;
-                  }
-                  const MessageAnswer answer = run(
-                      [&]
-                      {
-                          return m_host.ShowMessage("Do you want to save over existing Locus?",
-                                                    MessageKind::ExclamationYesNo,
-                                                    "Save Over Existing Locus");
-                      });
-                  if (answer != MessageAnswer::No)
-                      run([&] { m_oSaveLocus->SetLocusTag(tag); });
-              });
+    Reporting("m_oPageBase_Save", [&](Guard& run) {
+        const std::string& tag = txtLocusName.Text();
+        if (run([&] { return !EqualNoCase(tag, m_oSaveLocus->LocusTag()); }))
+        {
+            run([&] { m_oSaveLocus->SetLocusTag(tag); });
+            run([&] { Objects().Save(*m_oSaveLocus, true); });
+            return;
+        }
+        const MessageAnswer answer = run([&] {
+            return m_host.ShowMessage("Do you want to save over existing Locus?",
+                                      MessageKind::ExclamationYesNo, "Save Over Existing Locus");
+        });
+        if (answer != MessageAnswer::No)
+            run([&] { m_oSaveLocus->SetLocusTag(tag); });
+    });
 }
 
 } // namespace Tamrivo

@@ -6,11 +6,13 @@ namespace Tamrivo
 Service::Service(Host& host) : Guarded(host.SharedUtility(), "Service"), m_host(host)
 {
     Class_Initialize();
-    m_oServiceBase->GetReportContextTypes = [this](ReportContextTypes& colReportContextTypes)
-    { m_oServiceBase_GetReportContextTypes(colReportContextTypes); };
-    m_oServiceBase->GetReportContexts =
-        [this](std::int32_t lReportContextTypeID, ReportContexts& dctReportContexts)
-    { m_oServiceBase_GetReportContexts(lReportContextTypeID, dctReportContexts); };
+    m_oServiceBase->GetReportContextTypes = [this](ReportContextTypes& colReportContextTypes) {
+        m_oServiceBase_GetReportContextTypes(colReportContextTypes);
+    };
+    m_oServiceBase->GetReportContexts = [this](std::int32_t lReportContextTypeID,
+                                               ReportContexts& dctReportContexts) {
+        m_oServiceBase_GetReportContexts(lReportContextTypeID, dctReportContexts);
+    };
 }
 
 Service::~Service()

@@ -2,6 +2,7 @@
 
 #include "selector/grid_helper.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,7 @@ class MemoryGrid : public Tamrivo::Gridocx
 public:
     struct Row
     {
-        std::string Cells[2];
+        std::array<std::string, 2> Cells;
         bool IsHighlighted = false;
     };
 

@@ -23,7 +23,7 @@ AlleleRows RowsOf(Locus& locus)
     for (const auto& member : locus.Alleles().Members())
         rows.push_back(As<Allele>(member));
     std::ranges::stable_sort(
-        rows, [](double left, double right) { return std::weak_order(left, right) < 0; },
+        rows, [](double left, double right) { return std::is_lt(std::weak_order(left, right)); },
         [](const std::shared_ptr<Allele>& allele) { return allele->AlleleReal1; });
     return rows;
 }

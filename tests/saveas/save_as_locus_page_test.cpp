@@ -48,6 +48,7 @@ TEST_F(SaveAsTest, OpensOnTheExistingTagsWithNothingTyped)
     EXPECT_EQ(Page.Page(), Host.Base);
     Open();
     std::vector<std::string> entries;
+    entries.reserve(3);
     for (std::int32_t i = 0; i < Page.lstLocusNameList.ListCount(); ++i)
         entries.push_back(Page.lstLocusNameList.List(i));
     EXPECT_EQ(entries, (std::vector<std::string>{"fes", "FGA", "TPOX"}));

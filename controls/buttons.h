@@ -57,8 +57,7 @@ public:
 
     OptionButton(const Declaration& declaration, const Settings& settings)
         : Control(declaration), m_caption(settings.Caption)
-    {
-    }
+    {}
 
     const std::string& Caption() const { return m_caption; }
     bool Value() const { return m_value; }

@@ -43,9 +43,9 @@ Control* UserControl::Find(std::string_view name) const
 std::vector<Control*> UserControl::InTabOrder() const
 {
     std::vector<Control*> ordered = m_controls;
-    std::ranges::stable_sort(ordered, {},
-                             [](const Control* control)
-                             { return static_cast<unsigned>(control->TabIndex()); });
+    std::ranges::stable_sort(ordered, {}, [](const Control* control) {
+        return static_cast<unsigned>(control->TabIndex());
+    });
     return ordered;
 }
 

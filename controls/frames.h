@@ -14,8 +14,7 @@ class ContainerControl : public Control, public Container
 public:
     explicit ContainerControl(const Declaration& declaration)
         : Control(declaration), m_form(declaration.In.Form())
-    {
-    }
+    {}
 
     UserControl& Form() override { return m_form; }
     const Control* AsControl() const override { return this; }
@@ -36,8 +35,7 @@ public:
 
     Frame(const Declaration& declaration, const Settings& settings)
         : ContainerControl(declaration), m_caption(settings.Caption), m_tab(settings.Tab)
-    {
-    }
+    {}
 
     const std::string& Caption() const { return m_caption; }
     int Tab() const { return m_tab; }
@@ -60,8 +58,7 @@ public:
 
     TabStrip(const Declaration& declaration, const Settings& settings)
         : ContainerControl(declaration), m_captions(settings.Captions)
-    {
-    }
+    {}
 
     const std::vector<std::string>& Captions() const { return m_captions; }
     /// 0-based number of the tab on show; only a person changes it.

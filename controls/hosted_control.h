@@ -20,8 +20,7 @@ public:
 
     HostedControl(const Declaration& declaration, const Settings& settings)
         : Control(declaration), m_object(settings.Object), m_tabStop(settings.TabStop)
-    {
-    }
+    {}
 
     T& Object() const { return *m_object; }
     T* operator->() const { return m_object.get(); }

@@ -20,8 +20,7 @@ public:
 
     Label(const Declaration& declaration, const Settings& settings)
         : Control(declaration), m_caption(settings.Caption), m_font(settings.Font)
-    {
-    }
+    {}
 
     const std::string& Caption() const { return m_caption; }
     void SetCaption(const std::string& caption) { Assign(m_caption, caption); }

@@ -42,8 +42,7 @@ public:
 
     MenuItem(const Declaration& declaration, const Settings& settings)
         : Control(declaration), m_caption(settings.Caption), m_separator(settings.Separator)
-    {
-    }
+    {}
 
     const std::string& Caption() const { return m_caption; }
     bool IsSeparator() const { return m_separator; }

@@ -32,8 +32,7 @@ public:
           m_increment(settings.Increment),
           m_value(settings.Value),
           m_tabStop(settings.TabStop)
-    {
-    }
+    {}
 
     const TextField* Linked() const { return m_linked; }
     std::int32_t Min() const { return m_min; }

@@ -38,8 +38,7 @@ public:
           m_text(settings.Text),
           m_maxLength(settings.MaxLength),
           m_alignment(settings.Alignment)
-    {
-    }
+    {}
 
     const std::string& Text() const { return m_text; }
     /// Replaces the whole content, not cut at `MaxLength`, and raises `Change` if it differs.

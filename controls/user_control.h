@@ -20,8 +20,7 @@ public:
     /// @param width, height client area in twips
     UserControl(std::string_view name, int width, int height)
         : m_name(name), m_width(width), m_height(height)
-    {
-    }
+    {}
 
     std::string_view Name() const { return m_name; }
     int ClientWidth() const { return m_width; }

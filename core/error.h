@@ -39,8 +39,7 @@ public:
     explicit Failure(ErrorRecord record) : m_record(std::move(record)) {}
     Failure(std::int32_t number, std::string source, std::string description)
         : m_record{number, std::move(source), std::move(description), {}, 0}
-    {
-    }
+    {}
 
     const ErrorRecord& Record() const { return m_record; }
     const char* what() const noexcept override { return m_record.Description.c_str(); }

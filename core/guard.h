@@ -58,8 +58,7 @@ public:
     Guard(Form form, FailureReporter& reporter, std::string_view className,
           std::string_view procedureName)
         : m_form(form), m_reporter(reporter), m_className(className), m_procedureName(procedureName)
-    {
-    }
+    {}
 
     Guard(const Guard&) = delete;
     Guard& operator=(const Guard&) = delete;
@@ -128,8 +127,7 @@ class Guarded
 protected:
     Guarded(FailureReporter& reporter, std::string_view className)
         : m_reporter(reporter), m_className(className)
-    {
-    }
+    {}
     ~Guarded() = default;
 
     /// Runs a procedure that passes its failures on; gives the body's result.

@@ -49,9 +49,9 @@ private:
     }
     std::vector<std::shared_ptr<BusinessObject>>::const_iterator Find(const std::string& key) const
     {
-        return std::ranges::find_if(
-            Objects, [&](const auto& object)
-            { return EqualNoCase(TrimRight(object->Name()), TrimRight(key)); });
+        return std::ranges::find_if(Objects, [&](const auto& object) {
+            return EqualNoCase(TrimRight(object->Name()), TrimRight(key));
+        });
     }
 };
 

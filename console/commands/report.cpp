@@ -57,7 +57,7 @@ private:
     std::ostream& m_err;
 };
 
-Report LociOfParameter(HostApplication& host, const std::string& name)
+DescribedReport LociOfParameter(HostApplication& host, const std::string& name)
 {
     ParameterPage page(host, host.Parameters().Open(name));
     Report report{"Analysis parameter " + page.Name(), {}, {}};
@@ -66,13 +66,13 @@ Report LociOfParameter(HostApplication& host, const std::string& name)
         report.Keys.push_back(locus->LocusTag());
         report.Items.push_back(locus);
     }
-    return report;
+    return {{{"Parameter", page.Name()}}, std::move(report)};
 }
 
 std::vector<DescribedReport> Reports(HostApplication& host, const Options& options)
 {
     if (!options.Parameter.empty())
-        return {{{{"Parameter", options.Parameter}}, LociOfParameter(host, options.Parameter)}};
+        return {LociOfParameter(host, options.Parameter)};
     std::vector<DescribedReport> reports;
     for (const auto& member : host.ContextTypes())
     {

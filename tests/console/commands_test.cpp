@@ -1,0 +1,180 @@
+#include "console/commands/aligned_table.h"
+#include "console/commands/text_width.h"
+#include "console/program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+const std::string table = "Panel\tMarker\tAllele\tSize\tSize.Min\tSize.Max\tColor\tRepeat"
+                          "\tMarker.Min\tMarker.Max\n"
+                          "P\tD3S1358\t8\t94.05\t93.55\t94.55\tblue\t4\t92.01\t148.2\n"
+                          "P\tTH01\t9.3\t175.5\t175\t175.9\tblue\t4\t148.21\t195\n"
+                          "Q\tTH01\t9.3\t184.5\t184\t185\tgreen\t4\t159\t205\n";
+const std::string purple = "Q\tSE33\t18\t232\t231.5\t232.5\tpurple\t4\t211\t270\n";
+
+class Commands : public testing::Test
+{
+protected:
+    Commands() { std::filesystem::create_directories(m_directory); }
+    ~Commands() override { std::filesystem::remove_all(m_directory); }
+
+    std::string Path(const std::string& name) const { return m_directory / name; }
+
+    std::string Write(const std::string& name, const std::string& content) const
+    {
+        std::ofstream(Path(name)) << content;
+        return Path(name);
+    }
+
+    int Run(std::vector<std::string> arguments, const std::string& input = {})
+    {
+        arguments.insert(arguments.end(), {"--store", Path("loci.sqlite")});
+        std::istringstream in(input);
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = RunProgram(arguments, in, out, err);
+        m_out = out.str();
+        m_err = err.str();
+        return status;
+    }
+
+    nlohmann::json Json(std::vector<std::string> arguments)
+    {
+        arguments.insert(arguments.end(), {"--format", "json"});
+        EXPECT_EQ(Run(arguments), 0) << m_err;
+        return nlohmann::json::parse(m_out);
+    }
+
+    std::filesystem::path m_directory = std::filesystem::path(testing::TempDir()) /
+                                        ("tamrivo_commands_" + std::to_string(getpid()));
+    std::string m_out;
+    std::string m_err;
+};
+
+TEST_F(Commands, ShowWhatWasImported)
+{
+    EXPECT_TRUE(Json({"list"}).empty());
+    EXPECT_EQ(Run({"import", Write("panels.tsv", table)}), 0);
+    EXPECT_THAT(m_out, AllOf(HasSubstr("line 4: TH01 of Q is stored under the tag \"TH01 (Q)\"."),
+                             HasSubstr("Imported 3 loci with 3 alleles.\n")));
+    EXPECT_EQ(Run({"import", Path("panels.tsv")}), 0);
+    EXPECT_THAT(m_out, StartsWith("Nothing to import: the store has 3 loci"));
+
+    EXPECT_EQ(Json({"list"})[0]["LocusTag"], "D3S1358");
+    EXPECT_EQ(Json({"show", "d3s1358"})["Alleles"][0]["Size"], 94.05);
+    EXPECT_EQ(Run({"show", "TH01 (q)"}), 0);
+    EXPECT_THAT(m_out, AllOf(HasSubstr("Fragment range        159 to 205 nt\n"),
+                             HasSubstr("9.3         184.5            184          185      9.3")));
+}
+
+TEST_F(Commands, NameWhatIsWrongWithATableAndImportNothing)
+{
+    const std::string mixed = Write("mixed.tsv", table + purple);
+    EXPECT_EQ(Run({"import", mixed}), 1);
+    EXPECT_THAT(m_err, AllOf(HasSubstr("mixed.tsv, line 5: SE33 of Q: The colour purple"),
+                             HasSubstr("Nothing was imported: 1 locus can't come in")));
+    EXPECT_TRUE(Json({"list"}).empty());
+    EXPECT_EQ(Run({"import", Write("bad.tsv", table + "P\tA\t8\tx\n"), "--partial"}), 1);
+    EXPECT_THAT(m_err, AllOf(HasSubstr("bad.tsv, line 5, column Size: \"x\""),
+                             HasSubstr("bad.tsv, line 5, column Repeat: nothing")));
+    EXPECT_EQ(Run({"import", mixed, "--panel", "R"}), 1);
+    EXPECT_EQ(Run({"import", Path("none.tsv")}), 1);
+    EXPECT_TRUE(Json({"list"}).empty());
+
+    EXPECT_EQ(Run({"import", mixed, "--partial", "--panel", "q", "--panel", "P", "--project", "X"}),
+              0);
+    EXPECT_THAT(m_out, HasSubstr("Left out 1 locus.\n"));
+    EXPECT_EQ(Json({"list"})[2]["ProjectName"], "X");
+}
+
+TEST_F(Commands, SuggestTagsForOneThatIsNotThere)
+{
+    Run({"import", Write("panels.tsv", table)});
+    for (const char* command : {"show", "delete"})
+    {
+        EXPECT_EQ(Run({command, "D3S135"}), 1);
+        EXPECT_THAT(m_err, HasSubstr("\"D3S135\" in the store; did you mean D3S1358?"));
+        EXPECT_EQ(Run({command, "x"}), 1);
+        EXPECT_THAT(m_err, Not(HasSubstr("did you mean")));
+    }
+    EXPECT_EQ(Json({"list"}).size(), 3U);
+}
+
+TEST_F(Commands, BringADeletedLocusBack)
+{
+    Run({"import", Write("panels.tsv", table)});
+    Run({"export"});
+    const std::string before = m_out;
+    Run({"show", "TH01 (P)", "--format", "tsv"});
+    const std::string copy = Write("copy.tsv", m_out);
+    EXPECT_EQ(Run({"delete", "th01 (P)"}), 0);
+    EXPECT_EQ(m_out, "Deleted TH01 (P) with 1 allele.\n");
+    EXPECT_EQ(Run({"import", copy}), 0);
+    EXPECT_EQ(Run({"export", Path("after.tsv")}), 0);
+    Run({"delete", "D3S1358"});
+    EXPECT_EQ(Run({"import", Path("after.tsv")}), 0);
+    EXPECT_THAT(m_out, HasSubstr("Imported 1 locus"));
+    Run({"export"});
+    EXPECT_EQ(m_out.size(), before.size());
+}
+
+TEST_F(Commands, ReportContextsAndTheLociOfAParameter)
+{
+    EXPECT_TRUE(Json({"report"})[0]["Contexts"].empty());
+    Run({"import", Write("panels.tsv", table)});
+    const auto report = Json({"report"});
+    EXPECT_EQ(report[0]["Identifier"], 1010);
+    EXPECT_EQ(report[0]["Contexts"].size(), 3U);
+    EXPECT_EQ(report[0]["Contexts"][0]["Context"], "D3S1358");
+
+    EXPECT_EQ(Run({"report", "--parameter", "Casework"}), 1);
+    EXPECT_THAT(m_err, HasSubstr("Casework"));
+    ASSERT_EQ(Run({"shell"}, "parameter Casework\ncell gridAvailable double 2\nsave\n"), 0);
+    const auto selected = Json({"report", "--parameter", "casework"})[0];
+    EXPECT_EQ(selected["Parameter"], "Casework");
+    ASSERT_EQ(selected["Contexts"].size(), 1U);
+    EXPECT_EQ(selected["Contexts"][0]["LocusTag"], "TH01 (P)");
+
+    EXPECT_EQ(Run({"report", "--format", "html"}), 0);
+    EXPECT_THAT(m_out, AllOf(StartsWith("<!DOCTYPE html>"), HasSubstr("<td>TH01 (Q)</td>")));
+    EXPECT_EQ(Run({"report", "--format", "tsv"}), 0);
+    EXPECT_THAT(m_out, StartsWith("Context\tLocusName\t"));
+
+    EXPECT_EQ(Run({"delete", "TH01 (P)"}), 0);
+    EXPECT_THAT(m_out, HasSubstr("The analysis parameter Casework still refers to it.\n"));
+    EXPECT_TRUE(Json({"report", "--parameter", "Casework"})[0]["Contexts"].empty());
+}
+
+TEST(AlignedTable, CountsColumnsOfTheTerminal)
+{
+    EXPECT_EQ(TextWidth("\xE4\xBD\x8D e\xCC\x81"), 4U);
+    std::ostringstream out;
+    PrintAligned(out, {{{"Tag"}, {"Size", Table::Number}},
+                       {{"\xE4\xBD\x8D\xE7\xBD\xAE", "9"}, {"a\x1B[1m", "100"}}});
+    EXPECT_EQ(out.str(), "Tag    Size\n"
+                         "-----  ----\n"
+                         "\xE4\xBD\x8D\xE7\xBD\xAE      9\n"
+                         "a\xEF\xBF\xBD[1m   100\n");
+}
+
+} // namespace
+
+} // namespace Tamrivo

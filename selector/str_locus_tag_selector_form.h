@@ -18,7 +18,7 @@ protected:
     explicit STRLocusTagSelectorForm(Host& host)
         : UserControl("STRLocusTagSelector", 7920, 4395), m_host(host)
     {}
-    ~STRLocusTagSelectorForm() = default;
+    ~STRLocusTagSelectorForm() override = default;
 
     Host& m_host;
 

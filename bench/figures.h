@@ -38,6 +38,8 @@ double KeyInTagByLoci();
 double GenerationClick();
 double GenerationByRows();
 
+double FirstPaint();
+
 /// All figures, in the order in which they are printed.
 inline constexpr Figure Figures[] = {
     {"query", "CurrentLoci of 100,000 loci / bare scan of the same columns", 2, "", QueryOfLoci},
@@ -62,6 +64,7 @@ inline constexpr Figure Figures[] = {
     {"editor_generate", "Generating the widest list in the editor", 2, "ms", GenerationClick},
     {"editor_generate_by_rows", "A row of 1,000 generated / a row of 250", 1.5, "",
      GenerationByRows},
+    {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},
 };
 
 } // namespace Tamrivo::Bench

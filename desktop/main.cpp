@@ -35,19 +35,16 @@ std::string StoreAddress(const QCoreApplication& application)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(application);
-    return parser.isSet(store) ? parser.value(store).toStdString()
-                               : Tamrivo::DefaultStoreAddress();
+    return parser.isSet(store) ? parser.value(store).toStdString() : Tamrivo::DefaultStoreAddress();
 }
 
 /// Whether the program is only asked about itself, which it answers without a display.
 bool IsOnlyAsked(int count, char** arguments)
 {
-    return std::any_of(arguments + 1, arguments + count,
-                       [](std::string_view argument)
-                       {
-                           return argument == "--help" || argument == "-h" ||
-                                  argument == "--version" || argument == "-v";
-                       });
+    return std::any_of(arguments + 1, arguments + count, [](std::string_view argument) {
+        return argument == "--help" || argument == "-h" || argument == "--version" ||
+               argument == "-v";
+    });
 }
 
 } // namespace
@@ -63,7 +60,7 @@ int main(int count, char** arguments)
     const QApplication application(count, arguments);
     QApplication::setApplicationDisplayName("Tamrivo");
     QApplication::setDesktopFileName("tamrivo");
-    QApplication::setWindowIcon(QIcon::fromTheme("tamrivo"));
+    QApplication::setWindowIcon(QIcon::fromTheme("tamrivo", QIcon(":/tamrivo.svg")));
     Tamrivo::UseEnvironmentLocale();
     const std::string address = StoreAddress(application);
 

@@ -1,15 +1,13 @@
 #include "console/shell/stage.h"
 
-#include <ranges>
-
 namespace Tamrivo
 {
 
 WizardSession* Stage::Wizard() const
 {
-    for (const Layer& layer : m_layers | std::views::reverse)
+    for (auto layer = m_layers.rbegin(); layer != m_layers.rend(); ++layer)
     {
-        if (auto* const* wizard = std::get_if<WizardSession*>(&layer))
+        if (auto* const* wizard = std::get_if<WizardSession*>(&*layer))
             return *wizard;
     }
     return nullptr;

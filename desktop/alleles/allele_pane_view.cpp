@@ -10,11 +10,14 @@
 #include "desktop/text.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
+#include <QTimer>
 #include <QToolButton>
 
 #include <set>
@@ -40,6 +43,7 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
     m_table->setAlternatingRowColors(true);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setAccessibleName("State of the allele list");
 
@@ -56,11 +60,15 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
     layout->addWidget(splitter, 1);
     MakeActions();
 
-    m_model->onMoved = [this](int row) { SelectRow(row); };
+    // The editor of the cell is still to be closed.
+    m_model->onMoved = [this](int row) {
+        QTimer::singleShot(0, this, [=, this] { SelectRow(row); });
+    };
     m_picture->onClicked = [this](std::int32_t row) { SelectRow(row - 1); };
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { MarkSelected(); });
     m_pane.Changed = [this] { ShowRows(); };
+    FitTable();
     ShowRows();
 }
 
@@ -71,15 +79,16 @@ AllelePaneView::~AllelePaneView()
 
 void AllelePaneView::MakeActions()
 {
-    AddAction("Add allele", "list-add", Qt::Key_Insert, [this] { AddRow(); });
-    m_remove = AddAction("Remove alleles", "list-remove", QKeySequence::Delete,
+    using Keys = QKeySequence;
+    AddAction("Add allele", "list-add", {Qt::Key_Insert}, [this] { AddRow(); });
+    m_remove = AddAction("Remove alleles", "list-remove", Keys::keyBindings(Keys::Delete),
                          [this] { RemoveRows(); });
-    m_undo = AddAction("Undo", "edit-undo", QKeySequence::Undo,
+    m_undo = AddAction("Undo", "edit-undo", Keys::keyBindings(Keys::Undo),
                        [this] { User::UndoAlleles(m_control); });
-    m_redo = AddAction("Redo", "edit-redo", QKeySequence::Redo,
+    m_redo = AddAction("Redo", "edit-redo", Keys::keyBindings(Keys::Redo),
                        [this] { User::RedoAlleles(m_control); });
-    AddAction("Copy cells", "edit-copy", QKeySequence::Copy, [this] { Copy(); });
-    AddAction("Paste cells", "edit-paste", QKeySequence::Paste, [this] { Paste(); });
+    AddAction("Copy cells", "edit-copy", Keys::keyBindings(Keys::Copy), [this] { Copy(); });
+    AddAction("Paste cells", "edit-paste", Keys::keyBindings(Keys::Paste), [this] { Paste(); });
     auto* tools = static_cast<QHBoxLayout*>(layout()->itemAt(0)->layout());
     tools->addSpacing(fontMetrics().averageCharWidth());
     tools->addWidget(m_state, 1);
@@ -87,13 +96,13 @@ void AllelePaneView::MakeActions()
 }
 
 QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
-                                   const QKeySequence& shortcut,
+                                   const QList<QKeySequence>& shortcuts,
                                    const std::function<void()>& action)
 {
     auto* added = new QAction(ThemeIcon(icon), text, this);
-    added->setShortcut(shortcut);
+    added->setShortcuts(shortcuts);
     added->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    added->setToolTip(text + " (" + shortcut.toString(QKeySequence::NativeText) + ")");
+    added->setToolTip(text + " (" + added->shortcut().toString(QKeySequence::NativeText) + ")");
     connect(added, &QAction::triggered, this, [this, action] { m_actions.Run(action); });
     m_table->addAction(added);
 
@@ -104,6 +113,27 @@ QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
     button->setAccessibleName(text);
     static_cast<QHBoxLayout*>(layout()->itemAt(0)->layout())->addWidget(button);
     return added;
+}
+
+void AllelePaneView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        FitTable();
+}
+
+void AllelePaneView::FitTable()
+{
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
+    // Every heading can be read, whatever the splitter leaves to the table.
+    int widest = 0;
+    for (const AlleleColumn& column : AlleleColumns)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQString(column.Title)));
+    const int section = widest + 2 * fontMetrics().averageCharWidth();
+    m_table->horizontalHeader()->setMinimumSectionSize(section);
+    m_table->setMinimumWidth(
+        section * m_model->columnCount() + m_table->verticalHeader()->sizeHint().width() +
+        m_table->verticalScrollBar()->sizeHint().width() + 2 * m_table->frameWidth());
 }
 
 void AllelePaneView::Refresh()
@@ -123,7 +153,6 @@ QWidget& AllelePaneView::FocusWidget()
 
 void AllelePaneView::ShowRows()
 {
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     m_model->Refresh();
     m_picture->Show(m_pane.Rows(), m_pane.ShownLocus().get());
     ShowState();
@@ -135,8 +164,8 @@ void AllelePaneView::ShowState()
     m_undo->setEnabled(m_pane.CanUndo());
     m_redo->setEnabled(m_pane.CanRedo());
     const auto& problems = m_pane.Problems();
-    QString text = QString(m_pane.Rows().size() == 1 ? "%1 allele" : "%1 alleles")
-                       .arg(m_pane.Rows().size());
+    QString text =
+        QString(m_pane.Rows().size() == 1 ? "%1 allele" : "%1 alleles").arg(m_pane.Rows().size());
     if (!problems.empty())
         text = QString("Row %1: %2").arg(problems[0].Row).arg(ToQString(problems[0].Reason));
     if (problems.size() > 1)

@@ -28,9 +28,13 @@ public:
     bool CanGrow() const override { return true; }
     QWidget& FocusWidget() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void MakeActions();
-    QAction* AddAction(const QString& text, const char* icon, const QKeySequence& shortcut,
+    void FitTable();
+    QAction* AddAction(const QString& text, const char* icon, const QList<QKeySequence>& shortcuts,
                        const std::function<void()>& action);
     void ShowRows();
     void ShowState();

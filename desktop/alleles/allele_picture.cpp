@@ -9,7 +9,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <ranges>
 
 namespace Tamrivo
 {
@@ -17,7 +16,7 @@ namespace Tamrivo
 namespace
 {
 
-constexpr int margin = 8;
+constexpr double margin = 8;
 
 /// How a state is shown, and what the legend says of it.
 struct StateLook
@@ -107,7 +106,7 @@ double AllelePicture::BaseLine() const
 
 LengthAxis AllelePicture::Axis() const
 {
-    return {m_low, m_high, margin, static_cast<double>(width() - margin)};
+    return {m_low, m_high, margin, width() - margin};
 }
 
 QRectF AllelePicture::RectOf(const BinShape& shape) const
@@ -123,12 +122,10 @@ QRectF AllelePicture::RectOf(const BinShape& shape) const
 const BinShape* AllelePicture::ShapeAt(QPointF place) const
 {
     // The one drawn last lies on top.
-    for (const BinShape& shape : m_shapes | std::views::reverse)
-    {
-        if (RectOf(shape).adjusted(-1, 0, 1, 0).contains(place))
-            return &shape;
-    }
-    return nullptr;
+    const auto found = std::find_if(m_shapes.rbegin(), m_shapes.rend(), [&](const BinShape& shape) {
+        return RectOf(shape).adjusted(-1, 0, 1, 0).contains(place);
+    });
+    return found == m_shapes.rend() ? nullptr : &*found;
 }
 
 void AllelePicture::paintEvent(QPaintEvent* /*event*/)
@@ -200,7 +197,7 @@ void AllelePicture::DrawNames(QPainter& painter) const
             continue;
         free = x + half;
         painter.save();
-        painter.translate(x, rect.top() - 5);
+        painter.translate(x, rect.top() - 7);
         if (isTurned)
         {
             painter.rotate(-90);

@@ -67,7 +67,7 @@ QVariant AlleleTableModel::data(const QModelIndex& index, int role) const
         return ToQString(CellText(*m_pane.Rows()[static_cast<std::size_t>(index.row())], column));
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignVCenter | (index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight));
-    case Qt::ToolTipRole: return ProblemsOf(index.row());
+    case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole: return ProblemsOf(index.row());
     case Qt::DecorationRole:
         if (index.column() == 0 && !ProblemsOf(index.row()).isEmpty())
@@ -97,12 +97,10 @@ bool AlleleTableModel::setData(const QModelIndex& index, const QVariant& value, 
     if (role != Qt::EditRole)
         return false;
     std::int32_t row = index.row() + 1;
-    const bool isDone = m_actions.Run(
-        [&]
-        {
-            row = User::EditAllele(m_control, row, AlleleColumns[index.column()],
-                                   FromQString(value.toString()));
-        });
+    const bool isDone = m_actions.Run([&] {
+        row = User::EditAllele(m_control, row, AlleleColumns[index.column()],
+                               FromQString(value.toString()));
+    });
     if (isDone && row != index.row() + 1 && onMoved)
         onMoved(row - 1);
     return isDone;

@@ -17,8 +17,7 @@ std::vector<BinShape> ShapesOf(const AlleleRows& rows, const Locus& locus)
         const auto [from, to] = std::minmax(allele->AlleleReal2, allele->AlleleReal3);
         const bool isInside = locus.FragStart <= from && to <= locus.FragEnd;
         shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to,
-                          allele->AlleleReal1,
-                          isInside ? BinState::InOrder : BinState::OutOfRange,
+                          allele->AlleleReal1, isInside ? BinState::InOrder : BinState::OutOfRange,
                           ToQString(allele->AlleleText1)});
     }
     for (const auto& [row, other] : OverlappingBins(rows))

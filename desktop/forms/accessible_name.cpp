@@ -34,8 +34,7 @@ const Control* NextLeft(const Control& control, const Control& row)
     const Control* nearest = nullptr;
     for (const Control* other : control.Parent().Children())
     {
-        const bool isNearer =
-            nearest == nullptr || other->Place().Left > nearest->Place().Left;
+        const bool isNearer = nearest == nullptr || other->Place().Left > nearest->Place().Left;
         if (other != &control && other->Place().Left < control.Place().Left &&
             IsLeftInRow(*other, row) && isNearer)
             nearest = other;

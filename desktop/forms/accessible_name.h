@@ -8,8 +8,8 @@ namespace Tamrivo
 class Control;
 class Label;
 
-/// The label that stands for a control without a caption of its own: the one on its left in the same
-/// row, else the one above it. Null when there is none.
+/// The label that stands for a control without a caption of its own: the one on its left in the
+/// same row, else the one above it. Null when there is none.
 const Label* LabelOf(const Control& control);
 
 /// What a screen reader calls a control without a caption: the captions on its left in its row,

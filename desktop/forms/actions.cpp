@@ -4,6 +4,7 @@
 #include "desktop/text.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <QToolTip>
 #include <QWidget>
 
@@ -30,9 +31,11 @@ bool Actions::Run(const std::function<void()>& action) const
 
 void ShowReason(const std::string& reason)
 {
-    if (QWidget* focus = QApplication::focusWidget())
-        QToolTip::showText(focus->mapToGlobal(QPoint(0, focus->height())), ToQString(reason),
-                           focus);
+    // Once the focus has settled: a change of focus would take the tip away.
+    QTimer::singleShot(0, qApp, [text = ToQString(reason)] {
+        if (QWidget* focus = QApplication::focusWidget())
+            QToolTip::showText(focus->mapToGlobal(focus->rect().bottomLeft()), text, focus);
+    });
 }
 
 } // namespace Tamrivo

@@ -16,8 +16,7 @@ namespace Tamrivo
 
 CheckBoxView::CheckBoxView(CheckBox& box, QWidget& parent, const Actions& actions)
     : QCheckBox(ToQString(box.Caption()), &parent), m_box(box), m_actions(actions)
-{
-}
+{}
 
 void CheckBoxView::Refresh()
 {

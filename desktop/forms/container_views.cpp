@@ -14,8 +14,7 @@ namespace Tamrivo
 
 FrameView::FrameView(Frame& frame, QWidget& parent, const Actions& /*actions*/)
     : QGroupBox(ToQString(frame.Caption()), &parent), m_frame(frame)
-{
-}
+{}
 
 void FrameView::Refresh()
 {
@@ -55,13 +54,11 @@ TabStripView::TabStripView(TabStrip& strip, QWidget& parent, const Actions& acti
 {
     for (const std::string& caption : strip.Captions())
         addTab(new QWidget(this), ToQString(caption));
-    connect(this, &QTabWidget::currentChanged, this,
-            [this, &actions](int tab)
-            {
-                if (tab != m_strip.Tab())
-                    actions.Run([&] { User::Turn(m_strip, tab); });
-                Refresh();
-            });
+    connect(this, &QTabWidget::currentChanged, this, [this, &actions](int tab) {
+        if (tab != m_strip.Tab())
+            actions.Run([&] { User::Turn(m_strip, tab); });
+        Refresh();
+    });
 }
 
 void TabStripView::Refresh()

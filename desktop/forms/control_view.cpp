@@ -21,11 +21,11 @@ ControlView* NewOf(Control& control, QWidget& parent, const Actions& actions)
 }
 
 constexpr ControlView* (*kinds[])(Control&, QWidget&, const Actions&) = {
-    NewOf<TextFieldView, TextField>,   NewOf<LabelView, Label>,
-    NewOf<CheckBoxView, CheckBox>,     NewOf<OptionView, OptionButton>,
-    NewOf<ComboView, ComboBox>,        NewOf<ListView, ListBox>,
-    NewOf<SpinView, SpinButton>,       NewOf<ButtonView, CommandButton>,
-    NewOf<FrameView, Frame>,           NewOf<TabStripView, TabStrip>,
+    NewOf<TextFieldView, TextField>, NewOf<LabelView, Label>,
+    NewOf<CheckBoxView, CheckBox>,   NewOf<OptionView, OptionButton>,
+    NewOf<ComboView, ComboBox>,      NewOf<ListView, ListBox>,
+    NewOf<SpinView, SpinButton>,     NewOf<ButtonView, CommandButton>,
+    NewOf<FrameView, Frame>,         NewOf<TabStripView, TabStrip>,
 };
 
 } // namespace

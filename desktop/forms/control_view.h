@@ -43,7 +43,8 @@ public:
     virtual QWidget& FocusWidget() { return Widget(); }
 };
 
-/// Makes the view of a control that the host brought along; gives null for one that it doesn't know.
+/// Makes the view of a control that the host brought along; gives null for one that it doesn't
+/// know.
 using HostedViewFactory =
     std::function<ControlView*(Control& control, QWidget& parent, const Actions& actions)>;
 

@@ -93,8 +93,7 @@ void FormLayout::FitControl(const Control& control, const ControlView& view)
 void FormLayout::FitChildren(const Container& container, const ControlView& view)
 {
     for (const Control* child : container.Children())
-        m_scaleDown =
-            std::max(m_scaleDown, (view.HeaderHeight() + 1.0) / m_places.at(child).Top);
+        m_scaleDown = std::max(m_scaleDown, (view.HeaderHeight() + 1.0) / m_places.at(child).Top);
 }
 
 int FormLayout::RoomAcross(const Control& control) const
@@ -106,21 +105,19 @@ int FormLayout::RoomAcross(const Control& control) const
     {
         const Place& beside = m_places.at(other);
         if (beside.Left >= Right(place) && OverlapDown(place, beside))
-            limit = std::min(limit, beside.Left - margin / 2);
+            limit = std::min(limit, beside.Left - margin);
     }
     return std::max(limit - place.Left, place.Width);
 }
 
 void FormLayout::AddStretch(Stretches& stretches, Stretch added)
 {
-    std::erase_if(stretches,
-                  [&](const Stretch& old)
-                  {
-                      const bool overlaps = old.From < added.To && added.From < old.To;
-                      if (overlaps)
-                          added = {std::min(old.From, added.From), std::max(old.To, added.To)};
-                      return overlaps;
-                  });
+    std::erase_if(stretches, [&](const Stretch& old) {
+        const bool overlaps = old.From < added.To && added.From < old.To;
+        if (overlaps)
+            added = {std::min(old.From, added.From), std::max(old.To, added.To)};
+        return overlaps;
+    });
     stretches.push_back(added);
 }
 
@@ -160,8 +157,8 @@ QRect FormLayout::Rect(const Control& control, const ControlView& view, QSize fo
             const Stretch& stretch = m_across[i];
             // What doesn't divide goes to the last one.
             const int count = static_cast<int>(m_across.size());
-            const int share = extra.width() / count +
-                              (i + 1 == m_across.size() ? extra.width() % count : 0);
+            const int share =
+                extra.width() / count + (i + 1 == m_across.size() ? extra.width() % count : 0);
             const bool covers = (view.CanGrow() || CanFollow(control)) &&
                                 place.Left <= stretch.From + sameEdge &&
                                 Right(place) >= stretch.To - sameEdge;

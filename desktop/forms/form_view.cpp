@@ -36,8 +36,7 @@ FormView::FormView(UserControl& form, const Actions& actions, const HostedViewFa
     }
     SetTabOrder();
     Fit();
-    m_form.ControlChanged = [this](Control& control)
-    {
+    m_form.ControlChanged = [this](Control& control) {
         if (ControlView* view = ViewOf(control))
             view->Refresh();
     };
@@ -63,8 +62,7 @@ void FormView::NameControl(const Control& control, ControlView& view) const
     if (widget.accessibleName().isEmpty())
         view.FocusWidget().setAccessibleName(ToQString(AccessibleName(control)));
     const Label* label = LabelOf(control);
-    if (label != nullptr && control.IsTabStop() &&
-        label->Caption().find('&') != std::string::npos)
+    if (label != nullptr && control.IsTabStop() && label->Caption().find('&') != std::string::npos)
         dynamic_cast<QLabel&>(ViewOf(*label)->Widget()).setBuddy(&view.FocusWidget());
 }
 
@@ -99,8 +97,8 @@ void FormView::BringToView(const Control& control)
     {
         const auto* frame = dynamic_cast<const Frame*>(inner);
         const Control* outer = inner->Parent().AsControl();
-        auto* strip = outer != nullptr ? dynamic_cast<TabStrip*>(m_form.Find(outer->Name()))
-                                       : nullptr;
+        auto* strip =
+            outer != nullptr ? dynamic_cast<TabStrip*>(m_form.Find(outer->Name())) : nullptr;
         if (frame != nullptr && strip != nullptr)
             m_actions.Run([&] { User::Turn(*strip, frame->Tab()); });
     }
@@ -183,8 +181,8 @@ void FormView::FocusNextHosted()
             first = view;
         if (isPast)
             return view->FocusWidget().setFocus(Qt::ShortcutFocusReason);
-        isPast = focus != nullptr &&
-                 (&view->Widget() == focus || view->Widget().isAncestorOf(focus));
+        isPast =
+            focus != nullptr && (&view->Widget() == focus || view->Widget().isAncestorOf(focus));
     }
     if (first != nullptr)
         first->FocusWidget().setFocus(Qt::ShortcutFocusReason);

@@ -16,13 +16,11 @@ ComboView::ComboView(ComboBox& combo, QWidget& parent, const Actions& actions)
     : QComboBox(&parent), m_combo(combo)
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    connect(this, &QComboBox::activated, this,
-            [this, &actions](int position)
-            {
-                if (position != m_combo.ListIndex())
-                    actions.Run([&] { User::Choose(m_combo, position); });
-                Refresh();
-            });
+    connect(this, &QComboBox::activated, this, [this, &actions](int position) {
+        if (position != m_combo.ListIndex())
+            actions.Run([&] { User::Choose(m_combo, position); });
+        Refresh();
+    });
 }
 
 bool ComboView::ShowsEntries() const
@@ -101,8 +99,7 @@ ListView::ListView(ListBox& list, QWidget& parent, const Actions& actions)
     connect(this, &QListView::clicked, this,
             [this](const QModelIndex& index) { Choose(index.row()); });
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& index)
-            {
+            [this](const QModelIndex& index) {
                 // A press of the mouse becomes a click with its release.
                 if (hasFocus() && index.isValid() && state() != DragSelectingState)
                     Choose(index.row());

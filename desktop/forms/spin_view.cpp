@@ -30,12 +30,10 @@ void SpinView::Refresh()
 
 void SpinView::stepBy(int steps)
 {
-    m_actions.Run(
-        [&]
-        {
-            for (int i = 0; i < std::abs(steps); ++i)
-                steps > 0 ? User::Up(m_spin) : User::Down(m_spin);
-        });
+    m_actions.Run([&] {
+        for (int i = 0; i < std::abs(steps); ++i)
+            steps > 0 ? User::Up(m_spin) : User::Down(m_spin);
+    });
     if (m_spin.Linked() != nullptr)
         lineEdit()->setText(ToQString(m_spin.Linked()->Text()));
 }

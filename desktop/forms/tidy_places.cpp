@@ -1,6 +1,7 @@
 #include "desktop/forms/tidy_places.h"
 
 #include "controls/frames.h"
+#include "controls/label.h"
 #include "controls/lists.h"
 #include "controls/spin_button.h"
 #include "controls/text_field.h"
@@ -14,7 +15,7 @@ namespace Tamrivo
 namespace
 {
 
-constexpr int offCentre = 120;  ///< Most by which a control in a row misses the row's middle, twips.
+constexpr int offCentre = 120; ///< Most by which a control in a row misses the row's middle, twips.
 constexpr int hairOverlap = 60; ///< twips
 
 int DoubleMiddle(const Place& place)
@@ -28,25 +29,41 @@ bool IsField(const Control& control)
            dynamic_cast<const ComboBox*>(&control) != nullptr;
 }
 
-/// The first field of the row that the control stands in; null when it stands in none.
-const Control* FieldOfRow(const Control& control, const Places& places)
+bool IsLabel(const Control& control)
 {
-    for (const Control* field : control.Parent().Children())
-    {
-        const int distance = DoubleMiddle(places.at(field)) - DoubleMiddle(places.at(&control));
-        if (IsField(*field) && std::abs(distance) <= 2 * offCentre)
-            return field;
-    }
-    return nullptr;
+    return dynamic_cast<const Label*>(&control) != nullptr;
+}
+
+/// What the row of a control is centred on: its first field, in a row of labels the first label.
+/// Null when the control stands in no row.
+const Control* LeaderOfRow(const Control& control, const Places& places)
+{
+    const auto first = [&](bool (*isLeader)(const Control&)) -> const Control* {
+        for (const Control* leader : control.Parent().Children())
+        {
+            const int distance =
+                DoubleMiddle(places.at(leader)) - DoubleMiddle(places.at(&control));
+            if (isLeader(*leader) && std::abs(distance) <= 2 * offCentre)
+                return leader;
+        }
+        return nullptr;
+    };
+    const Control* field = first(IsField);
+    return field == nullptr && IsLabel(control) ? first(IsLabel) : field;
 }
 
 void CentreRows(Places& places)
 {
     for (auto& [control, place] : places)
     {
-        const Control* field = FieldOfRow(*control, places);
-        if (field != nullptr && dynamic_cast<const Container*>(control) == nullptr)
-            place.Top = (DoubleMiddle(places.at(field)) - place.Height) / 2;
+        if (dynamic_cast<const Container*>(control) != nullptr)
+            continue;
+        const Control* leader = LeaderOfRow(*control, places);
+        if (leader == nullptr)
+            continue;
+        if (IsLabel(*control) && IsLabel(*leader))
+            place.Height = places.at(leader).Height;
+        place.Top = (DoubleMiddle(places.at(leader)) - place.Height) / 2;
     }
 }
 

@@ -24,16 +24,13 @@ QWidget* WindowOnTop()
 } // namespace
 
 DesktopFrontEnd::DesktopFrontEnd()
-    : m_actions(
-          [this](const ErrorRecord& error)
-          {
-              if (m_host != nullptr)
-                  m_host->ShowFailure(error);
-              else
-                  ShowFailure(error);
-          })
-{
-}
+    : m_actions([this](const ErrorRecord& error) {
+          if (m_host != nullptr)
+              m_host->ShowFailure(error);
+          else
+              ShowFailure(error);
+      })
+{}
 
 void DesktopFrontEnd::SetHost(HostApplication* host)
 {

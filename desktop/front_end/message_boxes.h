@@ -11,8 +11,8 @@ class QWidget;
 namespace Tamrivo
 {
 
-/// Shows a message box. `kind` is a `MessageKind`, which fixes icon and buttons; the first button is
-/// the default one, and Escape answers No.
+/// Shows a message box. `kind` is a `MessageKind`, which fixes icon and buttons; the first button
+/// is the default one, and Escape answers No.
 MessageAnswer ShowMessageBox(QWidget* parent, const std::string& text, std::int32_t kind,
                              const std::string& title);
 

@@ -140,14 +140,12 @@ void WizardDialog::accept()
 {
     // The field is left first, so that its repair runs before the page is judged.
     m_page->LeaveFocus(*m_finish);
-    m_actions.Run(
-        [this]
-        {
-            if (m_wizard.Finish())
-                QDialog::accept();
-            else
-                FocusFault();
-        });
+    m_actions.Run([this] {
+        if (m_wizard.Finish())
+            QDialog::accept();
+        else
+            FocusFault();
+    });
 }
 
 void WizardDialog::reject()

@@ -12,8 +12,8 @@ class Actions;
 class FormView;
 class WizardSession;
 
-/// A wizard with its page. Finish is refused while the page is not valid, and the reasons then stand
-/// above the buttons. Whatever ends the dialog ends the wizard.
+/// A wizard with its page. Finish is refused while the page is not valid, and the reasons then
+/// stand above the buttons. Whatever ends the dialog ends the wizard.
 class WizardDialog : public QDialog
 {
 public:

@@ -55,7 +55,10 @@ GridView::GridView(User::GridControl& grid, QWidget& parent, const Actions& acti
     ConnectHeader();
     m_table->onHighlightChanged = [this] { ShowHighlight(); };
     m_table->onLookChanged = [this] { ShowLook(); };
-    connect(m_table, &QAbstractItemModel::modelReset, this, [this] { ShowHighlight(); });
+    connect(m_table, &QAbstractItemModel::modelReset, this, [this] {
+        ShowHighlight();
+        ShowOrder();
+    });
     ShowLook();
 }
 
@@ -67,19 +70,17 @@ void GridView::ConnectHeader()
     header.setStretchLastSection(true);
     header.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&header, &QHeaderView::sectionClicked, this,
-            [this](int column) { Act([&] { User::Click(m_control, 0, column + 1); }); });
+            [this](int column) { m_actions.Run([&] { User::Click(m_control, 0, column + 1); }); });
     connect(&header, &QWidget::customContextMenuRequested, this,
-            [this, &header](const QPoint& place)
-            {
+            [this, &header](const QPoint& place) {
                 const int column = header.logicalIndexAt(place);
                 if (column >= 0)
-                    Act([&] { User::RightClick(m_control, 0, column + 1); });
+                    m_actions.Run([&] { User::RightClick(m_control, 0, column + 1); });
             });
 }
 
-void GridView::Act(const std::function<void()>& action)
+void GridView::ShowOrder()
 {
-    m_actions.Run(action);
     const auto& sorted = m_grid.Sorted();
     horizontalHeader()->setSortIndicatorShown(sorted.has_value());
     if (sorted)
@@ -91,6 +92,7 @@ void GridView::Refresh()
 {
     ApplyReach(*this, m_control);
     ShowHighlight();
+    ShowOrder();
 }
 
 QSize GridView::LeastSize() const
@@ -106,8 +108,8 @@ void GridView::ShowHighlight()
                              QItemSelectionModel::ClearAndSelect);
     // The keys go on from what the logic has highlighted.
     const int anchor = m_grid.Anchor();
-    const bool isCurrent = CurrentRow() > 0 && CurrentRow() <= m_grid.Rows() &&
-                           m_grid.IsHighlighted(CurrentRow());
+    const bool isCurrent =
+        CurrentRow() > 0 && CurrentRow() <= m_grid.Rows() && m_grid.IsHighlighted(CurrentRow());
     if (anchor > 0 && !isCurrent)
         GoTo(anchor);
 }
@@ -139,16 +141,14 @@ void GridView::mousePressEvent(QMouseEvent* event)
         return;
     const int row = cell.row() + 1;
     selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
-    Act(
-        [&]
-        {
-            if (event->modifiers() & Qt::ControlModifier)
-                User::Toggle(m_control, row);
-            else if (event->modifiers() & Qt::ShiftModifier)
-                User::ExtendTo(m_control, row);
-            else
-                User::Click(m_control, row, cell.column() + 1);
-        });
+    m_actions.Run([&] {
+        if (event->modifiers() & Qt::ControlModifier)
+            User::Toggle(m_control, row);
+        else if (event->modifiers() & Qt::ShiftModifier)
+            User::ExtendTo(m_control, row);
+        else
+            User::Click(m_control, row, cell.column() + 1);
+    });
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* event)
@@ -157,7 +157,7 @@ void GridView::mouseMoveEvent(QMouseEvent* event)
     const bool isDrag = event->buttons() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
     if (isDrag && cell.isValid() && cell.row() + 1 != CurrentRow())
     {
-        Act([&] { User::ExtendTo(m_control, cell.row() + 1); });
+        m_actions.Run([&] { User::ExtendTo(m_control, cell.row() + 1); });
         GoTo(cell.row() + 1);
     }
 }
@@ -166,27 +166,28 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const QModelIndex cell = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && cell.isValid())
-        Act([&] { User::DoubleClick(m_control, cell.row() + 1, cell.column() + 1); });
+        m_actions.Run([&] { User::DoubleClick(m_control, cell.row() + 1, cell.column() + 1); });
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const QModelIndex cell = event->reason() == QContextMenuEvent::Keyboard
-                                 ? currentIndex()
-                                 : indexAt(event->pos());
+    const QModelIndex cell =
+        event->reason() == QContextMenuEvent::Keyboard ? currentIndex() : indexAt(event->pos());
     if (cell.isValid())
-        Act([&] { User::RightClick(m_control, cell.row() + 1, cell.column() + 1); });
+        m_actions.Run([&] { User::RightClick(m_control, cell.row() + 1, cell.column() + 1); });
 }
 
 int GridView::RowOfKey(const QKeyEvent& event) const
 {
     const int page = std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize() - 1);
     const int current = CurrentRow();
+    // The first step into a grid without a highlight stays where the focus stands.
+    const int step = m_grid.HighlightedCount() == 0 && current > 0 ? 0 : 1;
     int row = 0;
     switch (event.key())
     {
-    case Qt::Key_Up: row = current - 1; break;
-    case Qt::Key_Down: row = current + 1; break;
+    case Qt::Key_Up: row = current - step; break;
+    case Qt::Key_Down: row = current + step; break;
     case Qt::Key_PageUp: row = current - page; break;
     case Qt::Key_PageDown: row = current + page; break;
     case Qt::Key_Home: row = 1; break;
@@ -202,22 +203,20 @@ void GridView::keyPressEvent(QKeyEvent* event)
     if (const int row = RowOfKey(*event))
     {
         if (event->modifiers() & Qt::ShiftModifier)
-            Act([&] { User::ExtendTo(m_control, row); });
+            m_actions.Run([&] { User::ExtendTo(m_control, row); });
         else if (!(event->modifiers() & Qt::ControlModifier))
-            Act([&] { User::Click(m_control, row); });
+            m_actions.Run([&] { User::Click(m_control, row); });
         GoTo(row);
     }
     else if (event->matches(QKeySequence::SelectAll) && m_grid.Rows() > 0)
-        Act(
-            [&]
-            {
-                User::Click(m_control, 1);
-                User::ExtendTo(m_control, m_grid.Rows());
-            });
+        m_actions.Run([&] {
+            User::Click(m_control, 1);
+            User::ExtendTo(m_control, m_grid.Rows());
+        });
     else if (event->key() == Qt::Key_Space && current > 0)
-        Act([&] { User::Toggle(m_control, current); });
+        m_actions.Run([&] { User::Toggle(m_control, current); });
     else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && current > 0)
-        Act([&] { User::DoubleClick(m_control, current); });
+        m_actions.Run([&] { User::DoubleClick(m_control, current); });
     else if (!event->text().isEmpty() && event->text()[0].isPrint() &&
              !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
         keyboardSearch(event->text());
@@ -229,7 +228,7 @@ void GridView::keyboardSearch(const QString& search)
 {
     QTableView::keyboardSearch(search);
     if (CurrentRow() > 0)
-        Act([&] { User::Click(m_control, CurrentRow()); });
+        m_actions.Run([&] { User::Click(m_control, CurrentRow()); });
 }
 
 void GridView::focusInEvent(QFocusEvent* event)
@@ -238,7 +237,7 @@ void GridView::focusInEvent(QFocusEvent* event)
     const auto reason = event->reason();
     const bool comesBack = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
     if (reason != Qt::MouseFocusReason && !comesBack && !User::Obstacle(m_control))
-        Act([this] { User::GotFocus(m_control); });
+        m_actions.Run([this] { User::GotFocus(m_control); });
 }
 
 void GridView::changeEvent(QEvent* event)

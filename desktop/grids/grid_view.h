@@ -14,9 +14,9 @@ class GridTableModel;
 /// A grid on a form. The highlight is the grid's own: clicks and keys are handed on, and the view
 /// shows what the grid then has.
 ///
-/// Keys: arrows, Home, End and the page keys go to a row, with Shift they extend the highlight, with
-/// Ctrl they leave it alone; Space takes the current row into the highlight or out of it; Return is
-/// a double click; Ctrl+A highlights all; typing goes to the next row that begins so.
+/// Keys: arrows, Home, End and the page keys go to a row, with Shift they extend the highlight,
+/// with Ctrl they leave it alone; Space takes the current row into the highlight or out of it;
+/// Return is a double click; Ctrl+A highlights all; typing goes to the next row that begins so.
 class GridView : public QTableView, public ControlView
 {
 public:
@@ -42,13 +42,13 @@ protected:
 private:
     void ConnectHeader();
     void ShowHighlight();
+    void ShowOrder();
     void ShowLook();
     void FitColumns();
     /// The row that a key leads to, counted from 1; 0 when it leads nowhere.
     int RowOfKey(const QKeyEvent& event) const;
     int CurrentRow() const { return currentIndex().row() + 1; }
     void GoTo(int row);
-    void Act(const std::function<void()>& action);
 
     User::GridControl& m_control;
     const Actions& m_actions;

@@ -15,8 +15,7 @@ public:
     /// @param low, high lengths at the ends, nt; `low < high`
     LengthAxis(double low, double high, double left, double right)
         : m_low(low), m_high(high), m_left(left), m_right(right)
-    {
-    }
+    {}
 
     double X(double length) const
     {

@@ -45,8 +45,7 @@ public:
         filter->installEventFilter(this);
         auto* label = new QLabel("&Locus tag:", this);
         label->setBuddy(filter);
-        auto* buttons =
-            new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
         m_ok = buttons->button(QDialogButtonBox::Ok);
 
         auto* layout = new QVBoxLayout(this);
@@ -60,12 +59,10 @@ public:
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
         connect(m_list, &QListView::doubleClicked, this, &QDialog::accept);
-        connect(filter, &QLineEdit::textChanged, this,
-                [this](const QString& text)
-                {
-                    m_narrowed.setFilterFixedString(text);
-                    PickFirst();
-                });
+        connect(filter, &QLineEdit::textChanged, this, [this](const QString& text) {
+            m_narrowed.setFilterFixedString(text);
+            PickFirst();
+        });
         PickFirst();
     }
 
@@ -109,7 +106,8 @@ private:
 std::optional<std::string> PickLocus(Store& store, const QString& title, QWidget* parent)
 {
     QStringList tags;
-    for (const auto& member : CurrentLoci(store.Manager(), "Name")->Members())
+    const auto loci = CurrentLoci(store.Manager(), "Name");
+    for (const auto& member : loci->Members())
         tags += ToQString(TrimRight(As<Locus>(member)->LocusTag()));
     LocusPicker picker(tags, title, parent);
     if (picker.exec() != QDialog::Accepted)

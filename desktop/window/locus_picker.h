@@ -11,8 +11,8 @@ namespace Tamrivo
 
 class Store;
 
-/// Lets the person pick one of the store's current loci, from a list that a typed text narrows down.
-/// None when the person picks none. Raises failures of the store.
+/// Lets the person pick one of the store's current loci, from a list that a typed text narrows
+/// down. None when the person picks none. Raises failures of the store.
 std::optional<std::string> PickLocus(Store& store, const QString& title, QWidget* parent);
 
 } // namespace Tamrivo

@@ -34,15 +34,13 @@ QString StoreName(const std::string& address)
 } // namespace
 
 MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
-    : m_frontEnd(frontEnd),
-      m_splitter(new QSplitter(this)),
-      m_pages(new QStackedWidget(this))
+    : m_frontEnd(frontEnd), m_splitter(new QSplitter(this)), m_pages(new QStackedWidget(this))
 {
     setObjectName("main");
     MakeMenus();
     MakeParameterList();
-    m_pages->addWidget(new StartPage("No store is open.",
-                                     {CommandNamed("open"), CommandNamed("create")}, this));
+    m_pages->addWidget(
+        new StartPage("No store is open.", {CommandNamed("open"), CommandNamed("create")}, this));
     m_pages->addWidget(new StartPage(
         "Choose an analysis parameter at the left, or begin here.\n"
         "A locus is defined once; each analysis parameter chooses the loci that it uses.",
@@ -65,10 +63,10 @@ MainWindow::~MainWindow()
 
 void MainWindow::MakeParameterList()
 {
-    m_list = new ParameterList({CommandNamed("newParameter"), CommandNamed("renameParameter"),
-                                CommandNamed("duplicateParameter"),
-                                CommandNamed("deleteParameter")},
-                               this);
+    m_list =
+        new ParameterList({CommandNamed("newParameter"), CommandNamed("renameParameter"),
+                           CommandNamed("duplicateParameter"), CommandNamed("deleteParameter")},
+                          this);
     m_list->onChosen = [this](const std::string& name) { ChooseParameter(name); };
 }
 
@@ -87,8 +85,7 @@ bool MainWindow::OpenStore(const std::string& address)
     if (!MayLeave())
         return false;
     std::unique_ptr<StoreSession> opened;
-    const bool isOpen =
-        Run([&] { opened = std::make_unique<StoreSession>(address, m_frontEnd); });
+    const bool isOpen = Run([&] { opened = std::make_unique<StoreSession>(address, m_frontEnd); });
     if (!isOpen)
         return false;
     CloseParameter();

@@ -50,8 +50,7 @@ void MainWindow::MakeMenus()
         {"&File", "export", "&Export Loci...", "document-export", "Ctrl+E",
          "Write the current loci as a panel table", "store", &W::ExportTable},
         {"&File", "", "", "", "", "", "", nullptr},
-        {"&File", "quit", "&Quit", "application-exit", "Ctrl+Q", "Close the program", "",
-         &W::Quit},
+        {"&File", "quit", "&Quit", "application-exit", "Ctrl+Q", "Close the program", "", &W::Quit},
         {"&Parameter", "newParameter", "&New Analysis Parameter...", "list-add", "Ctrl+Shift+N",
          "Make a new analysis parameter", "store writing", &W::NewParameter},
         {"&Parameter", "renameParameter", "&Rename...", "edit-rename", "F2",
@@ -60,8 +59,7 @@ void MainWindow::MakeMenus()
          "Make a copy of the analysis parameter under another name", "parameter writing",
          &W::DuplicateParameter},
         {"&Parameter", "deleteParameter", "&Delete...", "edit-delete", "",
-         "Remove the analysis parameter from the store", "parameter writing",
-         &W::DeleteParameter},
+         "Remove the analysis parameter from the store", "parameter writing", &W::DeleteParameter},
         {"&Locus", "newLocus", "&New Locus...", "document-new", "Ctrl+N", "Define a new locus",
          "store writing", &W::NewLocus},
         {"&Locus", "editLocus", "&Edit Locus...", "document-edit", "Ctrl+L",
@@ -102,7 +100,8 @@ void MainWindow::MakeMenus()
         {
             QMenu* stores = menu->addMenu(command.Text);
             stores->menuAction()->setStatusTip(command.Tip);
-            connect(stores, &QMenu::aboutToShow, this, [this, stores] { FillRecentStores(*stores); });
+            connect(stores, &QMenu::aboutToShow, this,
+                    [this, stores] { FillRecentStores(*stores); });
         }
         else
             menu->addAction(AddCommand(command));
@@ -138,12 +137,10 @@ void MainWindow::FillRecentStores(QMenu& menu)
 {
     menu.clear();
     for (const QString& address : RecentStores())
-        menu.addAction(address, this,
-                       [this, address]
-                       {
-                           if (!OpenStore(address.toStdString()))
-                               ForgetStore(address);
-                       });
+        menu.addAction(address, this, [this, address] {
+            if (!OpenStore(address.toStdString()))
+                ForgetStore(address);
+        });
     menu.setEnabled(true);
     if (menu.isEmpty())
         menu.addAction("No store yet")->setEnabled(false);

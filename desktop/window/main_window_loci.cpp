@@ -56,8 +56,8 @@ void MainWindow::DeleteLocus()
     if (!tag)
         return;
     const auto locus = Host().Store().FindLocus(*tag);
-    const auto users = locus ? Host().Parameters().NamesUsing(locus->LocusTagID())
-                             : std::vector<std::string>();
+    const auto users =
+        locus ? Host().Parameters().NamesUsing(locus->LocusTagID()) : std::vector<std::string>();
     QMessageBox box(QMessageBox::Warning, "Delete Locus",
                     "Delete the locus \"" + ToQString(TrimRight(*tag)) +
                         "\" with all its alleles? This can't be undone.",

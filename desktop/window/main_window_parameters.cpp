@@ -31,9 +31,8 @@ void MainWindow::ShowParameter(const std::string& name)
     // Reading a store with very many loci takes its time.
     QApplication::setOverrideCursor(Qt::WaitCursor);
     ParameterView* view = nullptr;
-    const bool isOpen = Run(
-        [&]
-        { view = new ParameterView(Host(), m_frontEnd.UserActions(), name, m_pages); });
+    const bool isOpen =
+        Run([&] { view = new ParameterView(Host(), m_frontEnd.UserActions(), name, m_pages); });
     QApplication::restoreOverrideCursor();
     if (!isOpen)
         return;
@@ -80,8 +79,8 @@ void MainWindow::AskName(const QString& title, const std::string& proposed,
     bool isGiven = true;
     do
     {
-        name = QInputDialog::getText(this, title, "Name of the analysis parameter:",
-                                     QLineEdit::Normal, name, &isGiven);
+        name = QInputDialog::getText(
+            this, title, "Name of the analysis parameter:", QLineEdit::Normal, name, &isGiven);
     } while (isGiven && !Run([&] { use(FromQString(name)); }));
 }
 
@@ -89,13 +88,11 @@ void MainWindow::NewParameter()
 {
     if (!MayLeave())
         return;
-    AskName("New Analysis Parameter", {},
-            [this](const std::string& name)
-            {
-                Host().Parameters().Create(name, TagLists::OneEmpty);
-                ShowNames();
-                ShowParameter(name);
-            });
+    AskName("New Analysis Parameter", {}, [this](const std::string& name) {
+        Host().Parameters().Create(name, TagLists::OneEmpty);
+        ShowNames();
+        ShowParameter(name);
+    });
 }
 
 void MainWindow::RenameParameter()
@@ -103,14 +100,12 @@ void MainWindow::RenameParameter()
     if (!MayLeave())
         return;
     const std::string before = m_view->Name();
-    AskName("Rename Analysis Parameter", before,
-            [&](const std::string& name)
-            {
-                Host().Parameters().Rename(before, name);
-                CloseParameter();
-                ShowNames();
-                ShowParameter(name);
-            });
+    AskName("Rename Analysis Parameter", before, [&](const std::string& name) {
+        Host().Parameters().Rename(before, name);
+        CloseParameter();
+        ShowNames();
+        ShowParameter(name);
+    });
 }
 
 void MainWindow::DuplicateParameter()
@@ -118,13 +113,11 @@ void MainWindow::DuplicateParameter()
     if (!MayLeave())
         return;
     const std::string original = m_view->Name();
-    AskName("Duplicate Analysis Parameter", original + " copy",
-            [&](const std::string& name)
-            {
-                Host().Parameters().Duplicate(original, name);
-                ShowNames();
-                ShowParameter(name);
-            });
+    AskName("Duplicate Analysis Parameter", original + " copy", [&](const std::string& name) {
+        Host().Parameters().Duplicate(original, name);
+        ShowNames();
+        ShowParameter(name);
+    });
 }
 
 void MainWindow::DeleteParameter()

@@ -65,8 +65,7 @@ void MainWindow::ImportTable()
 
 void MainWindow::ExportTable()
 {
-    statusBar()->showMessage(
-        ExportPanelTable(Host().Store(), m_frontEnd.UserActions(), this));
+    statusBar()->showMessage(ExportPanelTable(Host().Store(), m_frontEnd.UserActions(), this));
 }
 
 } // namespace Tamrivo

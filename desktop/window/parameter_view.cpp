@@ -26,22 +26,33 @@ namespace
 
 constexpr std::int32_t tagColumn = 1;
 
-/// Moves every row whose tag `moves` takes to the other grid, as a double click does.
-void MoveRows(User::GridControl& grid, const std::function<bool(const std::string&)>& moves)
+/// Moves every row whose tag `moves` takes to the other grid, by the button that moves the
+/// highlight.
+void MoveRows(User::GridControl& grid, CommandButton& button,
+              const std::function<bool(const std::string&)>& moves)
 {
-    const GridModel& rows = ModelOf(grid.Object());
-    // From the end, since a moved row takes those behind it along.
-    for (std::int32_t row = rows.Rows(); row > 0; --row)
+    GridModel& rows = ModelOf(grid.Object());
+    std::vector<std::int32_t> moved;
+    for (std::int32_t row = 1; row <= rows.Rows(); ++row)
     {
         if (moves(rows.Cell(row, tagColumn)))
-            User::DoubleClick(grid, row);
+            moved.push_back(row);
     }
+    if (moved.empty())
+        return;
+    // Only the last row is highlighted as a person does it: with very many rows each one would
+    // take its time.
+    const std::int32_t last = moved.back();
+    moved.pop_back();
+    rows.SetHighlight(moved, last);
+    User::Toggle(grid, last);
+    User::Click(button);
 }
 
 } // namespace
 
-ParameterView::ParameterView(HostApplication& host, const Actions& actions,
-                             const std::string& name, QWidget* parent)
+ParameterView::ParameterView(HostApplication& host, const Actions& actions, const std::string& name,
+                             QWidget* parent)
     : QWidget(parent),
       m_host(host),
       m_actions(actions),
@@ -158,8 +169,10 @@ void ParameterView::Reload()
 void ParameterView::Select(const std::set<std::string>& tags)
 {
     STRLocusTagSelector& selector = m_page->Selector();
-    MoveRows(selector.gridSelected, [&](const std::string& tag) { return !tags.contains(tag); });
-    MoveRows(selector.gridAvailable, [&](const std::string& tag) { return tags.contains(tag); });
+    MoveRows(selector.gridSelected, selector.cmdRemoveSingle,
+             [&](const std::string& tag) { return !tags.contains(tag); });
+    MoveRows(selector.gridAvailable, selector.cmdAddSingle,
+             [&](const std::string& tag) { return tags.contains(tag); });
 }
 
 std::vector<std::string> ParameterView::SelectedTags() const
@@ -174,8 +187,7 @@ std::vector<std::string> ParameterView::SelectedTags() const
 std::optional<std::string> ParameterView::HighlightedTag() const
 {
     std::optional<std::string> tag;
-    for (const auto* grid :
-         {&m_page->Selector().gridAvailable, &m_page->Selector().gridSelected})
+    for (const auto* grid : {&m_page->Selector().gridAvailable, &m_page->Selector().gridSelected})
     {
         const GridModel& rows = ModelOf(grid->Object());
         const auto highlighted = rows.HighlightedRows();

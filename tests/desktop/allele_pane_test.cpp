@@ -107,10 +107,11 @@ TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
 
         EditCell(2, 1, "never");
         EXPECT_EQ(Cell(2, 1), "88") << "refused";
-        EXPECT_TRUE(QToolTip::text().contains("Row 3"));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().contains("Row 3"); }, 1000));
 
         EditCell(0, 1, "137");
         EXPECT_EQ(Cell(14, 1), "137") << "rows stand by size";
+        QTest::qWait(20);
         EXPECT_EQ(m_table->currentIndex().row(), 14) << "and the person stays with the row";
     });
 }

@@ -152,14 +152,12 @@ TEST_F(SelectorViewTest, TheKeyboardDoesAllThatTheMouseDoes)
 TEST_F(SelectorViewTest, HeadersSortAndMenusOpenAtThePointer)
 {
     QHeaderView& header = *Available().horizontalHeader();
-    const auto clickHeader = [&] {
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(header.sectionPosition(0) + 20, header.height() / 2));
-    };
-    clickHeader();
-    clickHeader();
-    EXPECT_EQ(Tags(Available()), "TH01 FGA D3S1358");
     EXPECT_TRUE(header.isSortIndicatorShown());
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::AscendingOrder);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(header.sectionPosition(0) + 20, header.height() / 2));
+    EXPECT_EQ(Tags(Available()), "TH01 FGA D3S1358");
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::DescendingOrder);
 
     OnMenu("Sort Ascending");
     emit header.customContextMenuRequested(QPoint(20, 5));

@@ -23,8 +23,6 @@ namespace Tamrivo
 namespace
 {
 
-using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::SizeIs;
 

@@ -201,8 +201,8 @@ TEST_F(GroupsTest, EveryGuardTellsItsOwnName)
     for (const auto& [victim, act, expected] : cases)
     {
         Reports().clear();
-        Page.ControlChanged = [&](Control& control) {
-            if (&control == &victim)
+        Page.ControlChanged = [&failing = victim](Control& control) {
+            if (&control == &failing)
                 throw Failure(1, "test", "no drawing");
         };
         act(Page);

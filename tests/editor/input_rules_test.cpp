@@ -35,7 +35,7 @@ TEST_F(InputRulesTest, EachFilterLetsItsKeysThrough)
         std::string passed;
         for (const char key : std::string("/09:.,@AZ[`az{- \r\x03\x16\b\x7F"))
         {
-            std::int16_t code = key;
+            std::int16_t code = static_cast<unsigned char>(key);
             (Page.*field).KeyPress(code);
             if (code != 0)
                 passed += static_cast<char>(code);

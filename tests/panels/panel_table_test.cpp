@@ -10,7 +10,6 @@ namespace Tamrivo
 namespace
 {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;

@@ -6,10 +6,10 @@ namespace Tamrivo
 struct LocusEditorPage::Generation : Steps
 {
     static constexpr StoreStep DefinitionSteps[] = {
-        Store<&Locus::FragStart, &Page::txtFragStart, ToInteger>,
-        Store<&Locus::FragEnd, &Page::txtFragEnd, ToInteger>,
-        Store<&Locus::ShortestAlleleSize, &Page::txtShortestAlleleSize, ToInteger>,
-        Store<&Locus::RepeatLength, &Page::txtRepeat, ToInteger>,
+        StoreInteger<&Locus::FragStart, &Page::txtFragStart>,
+        StoreInteger<&Locus::FragEnd, &Page::txtFragEnd>,
+        StoreInteger<&Locus::ShortestAlleleSize, &Page::txtShortestAlleleSize>,
+        StoreInteger<&Locus::RepeatLength, &Page::txtRepeat>,
         Store<&Locus::RepeatsInShortestAllele, &Page::txtRepeatsInShortestAllele, AsIs>,
         StoreNaming,
     };

@@ -36,7 +36,7 @@ struct LocusEditorPage::Binning : Steps
     static void StoreNumericStartAtNumeric(Page& page, Locus& oLocus)
     {
         if (IsNumeric(page.txtStartAtNumeric.Text()))
-            oLocus.StartAtNumeric = ToInteger(page.txtStartAtNumeric.Text());
+            oLocus.StartAtNumeric = IntegerIn(page.txtStartAtNumeric);
     }
 
     static constexpr Step ActivateSteps[] = {
@@ -61,10 +61,10 @@ struct LocusEditorPage::Binning : Steps
     static constexpr StoreStep DeactivateSteps[] = {
         StoreUsersConfInt,
         StoreDye,
-        Store<&Locus::FragStart, &Page::txtFragStart, ToInteger>,
-        Store<&Locus::FragEnd, &Page::txtFragEnd, ToInteger>,
+        StoreInteger<&Locus::FragStart, &Page::txtFragStart>,
+        StoreInteger<&Locus::FragEnd, &Page::txtFragEnd>,
         Store<&Locus::RepeatUnitSequence, &Page::txtRepeatUnitSequence, Trim>,
-        Store<&Locus::RepeatLength, &Page::txtRepeat, ToInteger>,
+        StoreInteger<&Locus::RepeatLength, &Page::txtRepeat>,
         StoreNamingConvention,
         Store<&Locus::StartAtAlphanumeric, &Page::txtStartAtAlphanumeric, AsIs>,
         StoreNumericStartAtNumeric,

@@ -23,7 +23,7 @@ struct LocusEditorPage::Naming : Steps
         {AlleleNamingConvention::Alphabetic, true, false,
          Store<&Locus::StartAtAlphanumeric, &Page::txtStartAtAlphanumeric, AsIs>},
         {AlleleNamingConvention::Numeric, false, true,
-         Store<&Locus::StartAtNumeric, &Page::txtStartAtNumeric, ToInteger>},
+         StoreInteger<&Locus::StartAtNumeric, &Page::txtStartAtNumeric>},
     };
 
     /// The option that is chosen, or null.

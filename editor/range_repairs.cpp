@@ -1,4 +1,5 @@
 #include "core/numbers.h"
+#include "editor/field_number.h"
 #include "editor/locus_editor_page.h"
 
 #include <cmath>
@@ -39,9 +40,9 @@ void Repair(Guard& run, Form& form, const RangeRepair& row)
     TextField& field = form.*row.Field;
     if (!IsNumeric(field.Text()))
         run([&] { field.SetText(row.NotNumeric); });
-    else if (run([&] { return ToInteger(field.Text()) > row.Upper; }))
+    else if (run([&] { return IntegerIn(field) > row.Upper; }))
         run([&] { field.SetText(row.Over); });
-    else if (run([&] { return ToInteger(field.Text()) < row.Lower; }))
+    else if (run([&] { return IntegerIn(field) < row.Lower; }))
         run([&] { field.SetText(row.Under); });
 }
 
@@ -59,7 +60,7 @@ void LocusEditorPage::txtFragStart_LostFocus()
 {
     Terminal("txtFragStart_LostFocus", [&](Guard& run) {
         Repair(run, *this, FragStart);
-        run([&] { udShortestAlleleSize.SetMin(ToInteger(txtFragStart.Text())); });
+        run([&] { udShortestAlleleSize.SetMin(IntegerIn(txtFragStart)); });
         run([&] { RaiseShortestAlleleSize(); });
         run([&] { m_oPageBase->PageChanged(); });
     });
@@ -69,7 +70,7 @@ void LocusEditorPage::txtFragEnd_LostFocus()
 {
     Terminal("txtFragEnd_LostFocus", [&](Guard& run) {
         Repair(run, *this, FragEnd);
-        run([&] { udShortestAlleleSize.SetMax(ToInteger(txtFragEnd.Text())); });
+        run([&] { udShortestAlleleSize.SetMax(IntegerIn(txtFragEnd)); });
         run([&] { LowerShortestAlleleSize(); });
         run([&] { m_oPageBase->PageChanged(); });
     });
@@ -77,25 +78,26 @@ void LocusEditorPage::txtFragEnd_LostFocus()
 
 void LocusEditorPage::RaiseShortestAlleleSize()
 {
-    if (ToInteger(txtShortestAlleleSize.Text()) < ToInteger(txtFragStart.Text()))
+    if (IntegerIn(txtShortestAlleleSize) < IntegerIn(txtFragStart))
         txtShortestAlleleSize.SetText(txtFragStart.Text());
 }
 
 void LocusEditorPage::LowerShortestAlleleSize()
 {
-    if (ToInteger(txtShortestAlleleSize.Text()) > ToInteger(txtFragEnd.Text()))
+    if (IntegerIn(txtShortestAlleleSize) > IntegerIn(txtFragEnd))
         txtShortestAlleleSize.SetText(txtFragEnd.Text());
 }
 
-// The one repair that no guard stands above, so nothing in it fails: a size that is no number
-// becomes the start of the range, and a bound that is none doesn't bind.
+// The one repair that no guard stands above, so nothing in it fails: a bound that is no number
+// doesn't bind, and a size that is none becomes the first bound that there is.
 void LocusEditorPage::txtShortestAlleleSize_LostFocus()
 {
     const auto start = WholeNumber(txtFragStart);
     if (start && WholeNumber(txtShortestAlleleSize) < start)
         txtShortestAlleleSize.SetText(txtFragStart.Text());
     const auto end = WholeNumber(txtFragEnd);
-    if (end && WholeNumber(txtShortestAlleleSize) > end)
+    const auto size = WholeNumber(txtShortestAlleleSize);
+    if (end && (!size || size > end))
         txtShortestAlleleSize.SetText(txtFragEnd.Text());
 }
 

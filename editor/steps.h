@@ -2,6 +2,7 @@
 
 #include "core/numbers.h"
 #include "core/text.h"
+#include "editor/field_number.h"
 #include "editor/locus_editor_page.h"
 
 #include <functional>
@@ -63,6 +64,13 @@ struct LocusEditorPage::Steps
             (oLocus.*Property)(Conversion((page.*Source).Text()));
         else
             oLocus.*Property = Conversion((page.*Source).Text());
+    }
+
+    /// A field's text becomes a whole number.
+    template <auto Property, auto Source>
+    static void StoreInteger(Page& page, Locus& oLocus)
+    {
+        oLocus.*Property = IntegerIn(page.*Source);
     }
 
     /// The state of a check box becomes a truth value.

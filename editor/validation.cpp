@@ -1,5 +1,6 @@
 #include "core/numbers.h"
 #include "core/text.h"
+#include "editor/field_number.h"
 #include "editor/locus_editor_page.h"
 
 namespace Tamrivo
@@ -60,7 +61,7 @@ void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
         if (IsNumeric(txtFragStart.Text()) && IsNumeric(txtFragEnd.Text()))
         {
             const bool bReversed =
-                run([&] { return ToInteger(txtFragStart.Text()) > ToInteger(txtFragEnd.Text()); });
+                run([&] { return IntegerIn(txtFragStart) > IntegerIn(txtFragEnd); });
             for (TextField* field : {&txtFragStart, &txtFragEnd})
                 run([&] { bReversed ? fail(*field, RangeReversed) : ClearMark(*field); });
         }

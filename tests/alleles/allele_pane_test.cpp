@@ -138,6 +138,15 @@ TEST_F(AllelePaneTest, AddsAndRemovesRows)
     EXPECT_EQ(TakeEvents(), (List{"edited 11", "valid", "list"}));
     EXPECT_EQ(Names(), (List{"8", "10", "11"}));
     EXPECT_FALSE(Locus->AlleleList.KeyExists("9"));
+
+    Locus->UserSpecifiedConfInt = 1;
+    Locus->ConfInt = 0.25;
+    Locus->RepeatsInShortestAllele = "7";
+    User::RemoveAlleles(Form.Alleles, {1, 2, 3});
+    User::AddAllele(Form.Alleles);
+    User::AddAllele(Form.Alleles);
+    EXPECT_EQ(Pane->Rows()[0]->AlleleReal1 + Pane->Rows()[0]->AlleleReal3, 60 + 60.25);
+    EXPECT_EQ(Pane->Rows()[1]->AlleleReal4, 8);
 }
 
 TEST_F(AllelePaneTest, ABlockOfCellsOrRowsIsOneStep)

@@ -1,4 +1,3 @@
-#include "core/text.h"
 #include "tests/editor/editor_test.h"
 
 #include <map>
@@ -18,6 +17,12 @@ constexpr const char* FocusOrder =
     "chkDetLongStutter chkUserSpecified txtConfInt chkDetectSpuriousPeaks txtMaxSpurHeight "
     "UpDown3 chkApparentSizeIncludesA chkDetectA chkUseA udPloidy UpDown4 UpDown5 "
     "cmdGenAlleleList txtShortestAlleleSize ";
+
+constexpr const char* Limits =
+    "txtLocusTag 128 txtLocusName 128 txtFragStart 3 txtFragEnd 3 txtRepeat 3 "
+    "txtRepeatsInShortestAllele 4 txtStartAtAlphanumeric 1 txtStartAtNumeric 3 txtPrimerSet 50 "
+    "txtGenBank 50 txtRepeatUnitSequence 10 txtPloidy 2 txtFwd 50 txtRev 50 txtStutterWidth 2 "
+    "txtRelStutter 3 txtConfInt 5 txtMaxSpurHeight 3 txtShortestAlleleSize 3 ";
 
 TEST(LocusEditorForm, HoldsWhatAPersonCountsOn)
 {
@@ -50,22 +55,13 @@ TEST(LocusEditorForm, HoldsWhatAPersonCountsOn)
         order += control->Name() + " ";
     EXPECT_EQ(order, FocusOrder);
 
-    const std::pair<const TextField*, int> limits[] = {
-        {&form.txtLocusTag, 128},
-        {&form.txtLocusName, 128},
-        {&form.txtPrimerSet, 50},
-        {&form.txtGenBank, 50},
-        {&form.txtFwd, 50},
-        {&form.txtRev, 50},
-        {&form.txtConfInt, 5},
-        {&form.txtRepeatUnitSequence, 10},
-        {&form.txtPloidy, 2},
-        {&form.txtFragEnd, 3},
-        {&form.txtRepeatsInShortestAllele, 4},
-        {&form.txtStartAtAlphanumeric, 1},
-    };
-    for (const auto& [field, limit] : limits)
-        EXPECT_EQ(field->MaxLength(), limit) << field->Name();
+    std::string limits;
+    for (const Control* control : form.InTabOrder())
+    {
+        if (const auto* field = dynamic_cast<const TextField*>(control))
+            limits += field->Name() + " " + std::to_string(field->MaxLength()) + " ";
+    }
+    EXPECT_EQ(limits, Limits);
 
     EXPECT_EQ(form.chkDetShortStutter.Caption(), "Detect stutter shorter than alelle");
     EXPECT_EQ(form.chkDetLongStutter.Caption(), "Detect stutter longer than allele");

@@ -63,9 +63,9 @@ TEST_F(InputRulesTest, LeavingAFieldRepairsIt)
 {
     const RepairCase cases[] = {
         {&Form::txtFragStart, "", "0"},
-        {&Form::txtFragStart, "0", "0"},
+        {&Form::txtFragStart, "0.4", "0"},
         {&Form::txtFragStart, "1", "1"},
-        {&Form::txtFragStart, "-5", "0"},
+        {&Form::txtFragEnd, "0.4", "0"},
         {&Form::txtFragStart, "1000", "999"},
         {&Form::txtFragEnd, "x", "0"},
         {&Form::txtFragEnd, "999.5", "999"},

@@ -43,6 +43,7 @@ TEST_P(EditorModes, ShowTheControlsOfTheMode)
     EXPECT_EQ(Page.cmdGenAlleleList.Enabled(), row.Generates);
 
     const int changes = Host.Base->Changes;
+    Host.Pane->Shown = nullptr;
     Host.Base->Activate();
     EXPECT_EQ(Page.cmdGenAlleleList.Visible(), row.GeneratesOnceActive);
     EXPECT_EQ(Page.fraAlleleNamingConvention.Visible(), row.GeneratesOnceActive);

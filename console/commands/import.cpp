@@ -29,24 +29,37 @@ class ProgressLine
 {
 public:
     explicit ProgressLine(std::ostream& err) : m_err(err) {}
+    ~ProgressLine() { Clear(); }
 
-    void Show(std::size_t done, std::size_t total)
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    /// Shows "WHAT: 3 of 7 loci".
+    ImportProgress Counting(const char* what)
+    {
+        return [this, what](std::size_t done, std::size_t total) { Show(what, done, total); };
+    }
+
+    void Clear()
+    {
+        if (m_isShown)
+            m_err << eraseLine << std::flush;
+        m_isShown = false;
+    }
+
+private:
+    static constexpr const char* eraseLine = "\r\x1B[K";
+
+    void Show(const char* what, std::size_t done, std::size_t total)
     {
         const auto now = std::chrono::steady_clock::now();
         if (!m_isTerminal || now < m_next)
             return;
         m_next = now + std::chrono::milliseconds(200);
         m_isShown = true;
-        m_err << "\rImporting: " << done << " of " << total << " loci" << std::flush;
+        m_err << eraseLine << what << ": " << done << " of " << total << " loci" << std::flush;
     }
 
-    ~ProgressLine()
-    {
-        if (m_isShown)
-            m_err << "\r\x1B[K" << std::flush;
-    }
-
-private:
     std::ostream& m_err;
     bool m_isTerminal = isatty(STDERR_FILENO) == 1;
     bool m_isShown = false;
@@ -87,16 +100,15 @@ void Import(Context& context, const Options& options)
         RefuseImport(options.File + " has lines that can't be read");
 
     Store store(context.StoreLocation);
-    const ImportPlan plan = PlanImport(reading.Markers, options.Choice, store);
+    ProgressLine progress(context.Err);
+    const ImportPlan plan = PlanImport(reading.Markers, options.Choice, store,
+                                       progress.Counting("Comparing with the store"));
+    progress.Clear();
     const std::size_t leftOut = ReportObstacles(context, options.File, plan);
     if (leftOut > 0 && !options.Partial)
         RefuseImport(CountOfLoci(leftOut) + " can't come in; --partial imports the rest");
-    {
-        ProgressLine progress(context.Err);
-        CarryOutImport(plan, store, [&progress](std::size_t done, std::size_t total) {
-            progress.Show(done, total);
-        });
-    }
+    CarryOutImport(plan, store, progress.Counting("Importing"));
+    progress.Clear();
     for (const std::string& sentence : ResultOf(plan, options.File))
         context.Out << sentence << '\n';
 }

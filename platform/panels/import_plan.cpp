@@ -99,7 +99,7 @@ public:
         : m_choice(choice), m_store(store), m_storedKeys(store.TagKeys())
     {}
 
-    ImportPlan Plan(const std::vector<PanelMarker>& markers)
+    ImportPlan Plan(const std::vector<PanelMarker>& markers, const ImportProgress& progress)
     {
         RequirePanels(markers);
         std::vector<const PanelMarker*> chosen;
@@ -113,7 +113,11 @@ public:
         }
         ImportPlan plan;
         for (const PanelMarker* marker : chosen)
+        {
             plan.Loci.push_back(PlanMarker(*marker));
+            if (progress)
+                progress(plan.Loci.size(), chosen.size());
+        }
         return plan;
     }
 
@@ -262,9 +266,9 @@ std::size_t ImportPlan::NewAlleles() const
 }
 
 ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
-                      Store& store)
+                      Store& store, const ImportProgress& progress)
 {
-    return Planner(choice, store).Plan(markers);
+    return Planner(choice, store).Plan(markers, progress);
 }
 
 } // namespace Tamrivo

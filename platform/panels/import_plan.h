@@ -2,6 +2,8 @@
 
 #include "platform/panels/panel_table.h"
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,9 @@ namespace Tamrivo
 {
 
 class Store;
+
+/// Told how many of the loci are done, and how many there are.
+using ImportProgress = std::function<void(std::size_t done, std::size_t total)>;
 
 /// What of a table comes in, and where to.
 struct ImportChoice
@@ -65,6 +70,6 @@ struct ImportPlan
 /// Raises `ErrorNumber::InvalidArgument` for a chosen panel that isn't among the markers, and
 /// failures of the store.
 ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
-                      Store& store);
+                      Store& store, const ImportProgress& progress = {});
 
 } // namespace Tamrivo

@@ -154,13 +154,13 @@ void LocusEditorPage::LoadProjects()
         for (std::int32_t i = 1; i <= lCount; ++i)
         {
             const auto oProject = run([&] { return As<Project>(oProjects->Item(i)); });
-            const std::string sName = TrimRight(oProject->Name());
+            const std::string sName = run([&] { return TrimRight(oProject->Name()); });
             run([&] { cmbProjects.AddItem(sName); });
             run([&] { cmbProjects.SetItemData(cmbProjects.NewIndex(), oProject->ProjectID()); });
             if (EqualNoCase(sName, DefaultProject))
                 lDefault = i - 1;
         }
-        run([&] { cmbProjects.SetText(cmbProjects.List(lDefault)); });
+        run([&] { cmbProjects.SetListIndex(lDefault); });
         run([&] { lblProject.SetCaption(cmbProjects.Text()); });
     });
 }

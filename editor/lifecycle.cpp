@@ -127,7 +127,7 @@ void LocusEditorPage::m_oPageBase_Initialize(const std::shared_ptr<PanePositions
         {
             if (cmbProjects.ItemData(i) != m_oLocus->ProjectID)
                 continue;
-            run([&] { cmbProjects.SetText(cmbProjects.List(i)); });
+            run([&] { cmbProjects.SetListIndex(i); });
             run([&] { lblProject.SetCaption(cmbProjects.Text()); });
         }
 

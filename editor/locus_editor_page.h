@@ -115,7 +115,7 @@ private:
 
     // Save As
     void cmdSaveAs_Click();
-    void CountNewTag();
+    void CountNewTag(Guard& run);
 
     Utility& SharedUtility() const { return m_host.SharedUtility(); }
     ObjectManager& Objects() const { return m_host.SharedObjectManagerGlobal().Manager(); }

@@ -47,10 +47,10 @@ void LocusEditorPage::cmdSaveAs_Click()
 
         const auto oResult =
             run([&] { return StartWizard(m_host.SharedLauncher(), SaveAsWizard, oParameters); });
-        if (oResult->Cancelled())
+        if (run([&] { return oResult->Cancelled(); }))
             return;
 
-        if (EqualNoCase(m_oLocus->LocusTag(), oNewLocus->LocusTag()))
+        if (run([&] { return EqualNoCase(m_oLocus->LocusTag(), oNewLocus->LocusTag()); }))
         {
             m_bSavedAs = false;
             run([&] { m_oPageBase_Save(); });
@@ -60,22 +60,23 @@ void LocusEditorPage::cmdSaveAs_Click()
             run([&] { HoldLocus(oNewLocus); });
             m_bSavedAs = true;
             run([&] { txtLocusTag.SetText(m_oLocus->LocusTag()); });
-            run([&] { CountNewTag(); });
+            CountNewTag(run);
         }
         run([&] { txtLocusTag.SetVisible(false); });
         run([&] { lblLocusTag.SetCaption(txtLocusTag.Text()); });
     });
 }
 
-void LocusEditorPage::CountNewTag()
+void LocusEditorPage::CountNewTag(Guard& run)
 {
     int saveTimes = 1;
-    if (SharedUtility().KeyExists(Parameters(), ParameterKey::SaveTimes))
+    if (run([&] { return SharedUtility().KeyExists(Parameters(), ParameterKey::SaveTimes); }))
     {
-        saveTimes += ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes);
-        Parameters().Remove(ParameterKey::SaveTimes);
+        saveTimes +=
+            run([&] { return ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes); });
+        run([&] { Parameters().Remove(ParameterKey::SaveTimes); });
     }
-    Parameters().Add(static_cast<std::int16_t>(saveTimes), ParameterKey::SaveTimes);
+    run([&] { Parameters().Add(static_cast<std::int16_t>(saveTimes), ParameterKey::SaveTimes); });
 }
 
 } // namespace Tamrivo

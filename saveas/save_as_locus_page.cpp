@@ -85,8 +85,8 @@ void SaveAsLocusPage::m_oPageBase_Validate(bool& bIsValid)
     Propagating("m_oPageBase_Validate", [&](Guard& run) {
         bIsValid = true;
         const std::string tag = TrimRight(txtLocusName.Text());
-        const Utility& utility = m_host.SharedUtility();
-        if (tag.empty() || run([&] { return utility.KeyExists(*m_oCurrentLoci, tag); }))
+        if (tag.empty() ||
+            run([&] { return m_host.SharedUtility().KeyExists(*m_oCurrentLoci, tag); }))
             bIsValid = false;
     });
 }

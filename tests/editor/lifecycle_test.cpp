@@ -97,6 +97,13 @@ TEST_F(LifecycleTest, ChoosesTheProjectOfTheLocusAndElseTheDefaultOne)
     Open(Mode::New);
     EXPECT_EQ(Page.cmbProjects.Text() + "|" + Page.lblProject.Caption(), "default|default");
 
+    Host.Objects.AddProject("default", 10);
+    Open(Mode::New);
+    EXPECT_EQ(Page.cmbProjects.ListIndex(), 3);
+    Locus->ProjectID = 8;
+    Open(Mode::New);
+    EXPECT_EQ(Page.cmbProjects.ListIndex(), 1);
+
     Host.Objects.Lists["Projects"].Objects.clear();
     Open(Mode::New);
     EXPECT_EQ(Page.cmbProjects.ListCount(), 0);
@@ -106,10 +113,12 @@ TEST_F(LifecycleTest, ChoosesTheProjectOfTheLocusAndElseTheDefaultOne)
 
 TEST_F(LifecycleTest, AFailureOnTheWayStopsTheOpening)
 {
-    Host.Objects.Before = [](const std::string& request) {
-        if (request == "Query Projects ")
-            throw Failure(1, "store", "gone");
+    struct Nameless : Fakes::FakeProject
+    {
+        Nameless() : FakeProject("", 0) {}
+        std::string Name() const override { throw Failure(1, "store", "gone"); }
     };
+    Host.Objects.Lists["Projects"].Add(std::make_shared<Nameless>());
     EXPECT_EQ(FailureOf([&] { Open(Mode::Edit); }), 1);
     EXPECT_EQ(Reports(),
               (Tamrivo::Reports{{"LoadProjects", false}, {"m_oPageBase_Initialize", false}}));

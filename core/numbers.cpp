@@ -170,8 +170,12 @@ std::string IntegerText(std::int32_t value)
 
 std::string DoubleText(double value)
 {
+    // As a person writes it: an exponent only where the zeros would hide the number.
+    const double magnitude = std::abs(value);
+    const bool isPlain = magnitude == 0 || (magnitude >= 1e-4 && magnitude < 1e15);
+    const auto format = isPlain ? std::chars_format::fixed : std::chars_format::scientific;
     char buffer[32];
-    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), value).ptr;
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), value, format).ptr;
     std::string text(buffer, end);
     if (const auto mark = text.find('.'); mark != std::string::npos)
         text.replace(mark, 1, TextNotation().DecimalMark);

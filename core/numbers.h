@@ -25,7 +25,8 @@ double ToDouble(std::string_view text);
 /// The decimal text of an integer, digits not grouped.
 std::string IntegerText(std::int32_t value);
 
-/// The shortest text that reads back as the same value.
+/// The shortest text that reads back as the same value, with an exponent only below 0.0001 and from
+/// 10^15 on.
 std::string DoubleText(double value);
 
 /// The value with 2 digits after the decimal mark; sign and grouping as the locale has them.

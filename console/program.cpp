@@ -44,6 +44,7 @@ int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostrea
     program.set_version_flag("--version", "tamrivo " TAMRIVO_VERSION);
     program.require_subcommand(0, 1);
     AddStoreOption(program, context);
+    program.footer("Each command explains itself with examples: tamrivo COMMAND --help");
     for (const auto add : commands)
         add(program, context);
 

@@ -73,8 +73,8 @@ void AddShellCommand(CLI::App& program, Context& context)
         "  tamrivo shell --keep-going tour.txt    go on after a command that is refused\n"
         "  echo 'locus D3S1358' | tamrivo shell   one command\n");
     const auto options = std::make_shared<Options>();
-    command.add_option("script", options->Script, "The script; without one, standard input")
-        ->type_name("SCRIPT");
+    command.add_option("SCRIPT", options->Script, "The script; without one, standard input")
+        ->type_name("");
     command.add_flag("--keep-going", options->KeepGoing, "Go on after a command that is refused");
     command.callback([&context, options] { RunShell(context, *options); });
 }

@@ -1,7 +1,10 @@
 #include "platform/store/address.h"
 
+#include "core/error.h"
+
 #include <cstdlib>
 #include <filesystem>
+#include <regex>
 
 namespace Tamrivo
 {
@@ -37,9 +40,24 @@ bool IsPostgresqlAddress(std::string_view address)
 std::string SqlitePath(std::string_view address)
 {
     constexpr std::string_view scheme = "sqlite://";
-    if (address.starts_with(scheme))
-        address.remove_prefix(scheme.size());
-    return std::string(address);
+    std::string_view path = address;
+    if (path.starts_with(scheme))
+        path.remove_prefix(scheme.size());
+    const std::size_t mark = path.find("://");
+    if (path.empty() || (mark != std::string_view::npos && mark == path.find_first_of(":/")))
+        throw Failure(ErrorNumber::InvalidArgument, "Store",
+                      "\"" + AddressWithoutPassword(std::string(address)) +
+                          "\" is no address of a store. Name a file, or a PostgreSQL database as "
+                          "postgresql://USER@SERVER/DATABASE");
+    return std::string(path);
+}
+
+std::string AddressWithoutPassword(const std::string& address)
+{
+    static const std::regex afterUser("^([a-z]+://[^:/@]*):.*@");
+    static const std::regex asParameter("([?&][a-z]*password=)[^&]*");
+    return std::regex_replace(std::regex_replace(address, afterUser, "$1:***@"), asParameter,
+                              "$1***");
 }
 
 } // namespace Tamrivo

@@ -23,10 +23,13 @@ public:
 
     virtual void Connect(soci::session& session) = 0;
     virtual bool IsReadOnly(soci::session& session) = 0;
+    /// Connects anew if the connection was found lost and the server answers again. Gives whether
+    /// it has.
+    virtual bool Reconnect(soci::session&) { return false; }
     /// Whether the connection still leads to the store that stands at its address.
     virtual bool IsReachable(soci::session& session) = 0;
-    /// The statement that begins a transaction and reserves it for writing.
-    virtual std::string_view BeginStatement() const = 0;
+    /// Begins a transaction and reserves the store for its writes.
+    virtual void Begin(soci::session& session) = 0;
     /// The `StoreError` that a failed statement amounts to.
     virtual std::int32_t ErrorNumberOf(const soci::soci_error& error) const = 0;
 

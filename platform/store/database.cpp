@@ -1,6 +1,11 @@
 #include "platform/store/database.h"
 
+#include "platform/store/address.h"
 #include "platform/store/schema.h"
+
+#include <algorithm>
+#include <iterator>
+#include <regex>
 
 namespace Tamrivo
 {
@@ -8,38 +13,48 @@ namespace Tamrivo
 namespace
 {
 
-/// Why a statement failed, in words that follow the store's address.
+/// Why a statement failed, in words that follow the store's address, and what to do about it.
 struct Reason
 {
     std::int32_t Number;
     std::string_view Text;
+    bool IsExplained; ///< The database's own words tell more.
+    std::string_view Advice;
 };
 
 constexpr Reason Reasons[] = {
-    {StoreError::Unreachable, "can't be reached"},
-    {StoreError::Locked, "has been locked by another program for more than five seconds. Try "
-                         "again when that has finished"},
-    {StoreError::ReadOnly, "is read-only"},
-    {StoreError::DiskFull, "has no room left on its disk. Make room and try again"},
-    {StoreError::NotAStore, "is no store of this program, or is damaged"},
-    {StoreError::NameTaken, "already has another one of that name, apart from case and trailing "
-                            "blanks. Choose another name"},
-    {StoreError::Database, "refused a statement"},
+    {StoreError::Unreachable, "can't be reached", true,
+     "Check that it is there and that you may open it"},
+    {StoreError::Locked, "has been locked by another program for more than five seconds", false,
+     "Try again when that has finished"},
+    {StoreError::ReadOnly, "is read-only", false, "Make it writable, or work on a copy"},
+    {StoreError::DiskFull, "has no room left on its disk", false, "Make room and try again"},
+    {StoreError::NotAStore, "is no store of this program, or is damaged", false,
+     "Choose another one, or take it from a copy"},
+    {StoreError::NameTaken,
+     "already has another one of that name, apart from case and trailing blanks", false,
+     "Choose another name"},
+    {StoreError::Database, "refused a statement", true, "What was stored before is unharmed"},
 };
 
-std::string_view ReasonText(std::int32_t number)
+const Reason& ReasonOf(std::int32_t number)
 {
-    for (const Reason& reason : Reasons)
-    {
-        if (reason.Number == number)
-            return reason.Text;
-    }
-    return Reasons[std::size(Reasons) - 1].Text;
+    const auto* found = std::ranges::find(Reasons, number, &Reason::Number);
+    return found == std::end(Reasons) ? *std::prev(found) : *found;
+}
+
+/// What the database says, on one line and without the words that SOCI puts in front.
+std::string OwnWords(const std::string& message)
+{
+    static const std::regex noise("^(Cannot establish connection to the database\\.)?\\s+|\\s+$");
+    static const std::regex breaks("\\s+");
+    return std::regex_replace(std::regex_replace(message, noise, ""), breaks, " ");
 }
 
 } // namespace
 
-Database::Database(const std::string& address) : m_address(address), m_backend(BackendFor(address))
+Database::Database(const std::string& address)
+    : m_address(address), m_name(AddressWithoutPassword(address)), m_backend(BackendFor(address))
 {
     const std::string consequence = "Nothing was opened";
     try
@@ -68,7 +83,7 @@ void Database::Begin()
 {
     if (m_depth == 0)
     {
-        m_session << m_backend->BeginStatement();
+        m_backend->Begin(m_session);
         m_undone = false;
     }
     else if (m_undone)
@@ -119,7 +134,11 @@ void Database::RollBack() noexcept
 
 void Database::RequireReachable(const std::string& consequence)
 {
-    if (m_depth == 0 && !m_backend->IsReachable(m_session))
+    if (m_depth > 0)
+        return;
+    if (m_backend->Reconnect(m_session))
+        ++m_connectionNumber;
+    if (!m_backend->IsReachable(m_session))
         RaiseFailure(consequence, StoreError::Unreachable,
                      "its file was removed or replaced since it was opened");
 }
@@ -132,11 +151,12 @@ void Database::RaiseFailure(const std::string& consequence, const soci::soci_err
 void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
                             const std::string& message) const
 {
-    std::string description = consequence + ": the store \"" + m_address + "\" ";
-    description += ReasonText(number);
-    if (number == StoreError::Unreachable || number == StoreError::Database)
-        description += " (" + message + ")";
-    throw Failure(number, "Store", description);
+    const Reason& reason = ReasonOf(number);
+    std::string description = consequence + ": the store \"" + m_name + "\" ";
+    description += reason.Text;
+    if (reason.IsExplained)
+        description += " (" + OwnWords(message) + ")";
+    throw Failure(number, "Store", description.append(". ").append(reason.Advice));
 }
 
 } // namespace Tamrivo

@@ -21,6 +21,10 @@ public:
     explicit Database(const std::string& address);
 
     const std::string& Address() const { return m_address; }
+    /// The address as messages show it.
+    const std::string& Name() const { return m_name; }
+    /// Goes up when a lost connection was made anew, whose prepared statements are gone.
+    int ConnectionNumber() const { return m_connectionNumber; }
     bool IsReadOnly() const { return m_readOnly; }
 
     /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
@@ -62,8 +66,10 @@ private:
                                    const std::string& message) const;
 
     std::string m_address;
+    std::string m_name;
     std::unique_ptr<Backend> m_backend;
     soci::session m_session;
+    int m_connectionNumber = 0;
     bool m_readOnly = false;
     int m_depth = 0;       ///< Open transactions, one inside the other.
     bool m_undone = false; ///< The outermost one was taken back while inner ones were open.

@@ -122,7 +122,8 @@ void RequireUnchanged(soci::session& session, const StoredLocus& locus,
 
 struct LocusWriter::Statements
 {
-    explicit Statements(soci::session& session) : Insert(session), Update(session)
+    Statements(Database& database, soci::session& session)
+        : Insert(session), Update(session), Alleles(database)
     {
         BindUse(Insert, Row);
         Prepare(Insert, InsertStatement("Locus", Row));
@@ -137,21 +138,21 @@ struct LocusWriter::Statements
     std::int32_t ReadRevision = 0;
     soci::statement Insert;
     soci::statement Update;
+    AlleleWriter Alleles;
 };
 
-LocusWriter::LocusWriter(Database& database)
-    : m_database(database),
-      m_statements(database.Run(
-          "Nothing was stored",
-          [](soci::session& session) { return std::make_unique<Statements>(session); })),
-      m_alleleWriter(database)
-{}
+LocusWriter::LocusWriter(Database& database) : m_database(database) {}
 
 LocusWriter::~LocusWriter() = default;
 
 void LocusWriter::Save(StoredLocus& locus)
 {
     m_database.Run(NotStored(locus), [&](soci::session& session) {
+        if (!m_statements || m_preparedOn != m_database.ConnectionNumber())
+        {
+            m_statements = std::make_unique<Statements>(m_database, session);
+            m_preparedOn = m_database.ConnectionNumber();
+        }
         Transaction transaction(m_database);
         LocusIdentity identity = locus.Identity();
         if (identity.LocusID == 0)
@@ -194,8 +195,8 @@ void LocusWriter::Write(soci::session& session, const StoredLocus& locus,
     if (const ObjectList* alleles = locus.LoadedAlleles())
     {
         if (stored)
-            m_alleleWriter.Remove(identity.LocusID);
-        m_alleleWriter.Insert(identity.LocusID, *alleles);
+            m_statements->Alleles.Remove(identity.LocusID);
+        m_statements->Alleles.Insert(identity.LocusID, *alleles);
     }
 }
 

@@ -41,7 +41,7 @@ void RemoveLocus(Database& database, const std::string& tag);
 void RequireUnchanged(soci::session& session, const StoredLocus& locus,
                       const std::string& consequence);
 
-/// Writes loci with statements that are prepared once.
+/// Writes loci with statements that are prepared once a connection.
 class LocusWriter
 {
 public:
@@ -59,7 +59,7 @@ private:
 
     Database& m_database;
     std::unique_ptr<Statements> m_statements;
-    AlleleWriter m_alleleWriter;
+    int m_preparedOn = 0; ///< `Database::ConnectionNumber`.
 };
 
 } // namespace Tamrivo

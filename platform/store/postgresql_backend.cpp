@@ -1,3 +1,4 @@
+#include "platform/store/address.h"
 #include "platform/store/backend.h"
 #include "platform/store/store_failure.h"
 
@@ -28,14 +29,15 @@ constexpr ErrorState ErrorStates[] = {
 /// The address as the "keyword='value'" pairs that SOCI asks for.
 std::string ConnectionText(const std::string& address)
 {
-    char* error = nullptr;
+    // What the parser complains of may be the password.
     const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
-        PQconninfoParse(address.c_str(), &error), &PQconninfoFree);
-    const std::unique_ptr<char, decltype(&PQfreemem)> errorOwner(error, &PQfreemem);
+        PQconninfoParse(address.c_str(), nullptr), &PQconninfoFree);
     if (!options)
         throw Failure(ErrorNumber::InvalidArgument, "Store",
-                      "\"" + address + "\" is no address of a PostgreSQL database: " +
-                          (error ? error : "out of memory"));
+                      "\"" + AddressWithoutPassword(address) +
+                          "\" is no address of a PostgreSQL database, which is "
+                          "postgresql://USER@SERVER/DATABASE with other characters than letters "
+                          "and digits as %XX");
 
     std::string text;
     for (const PQconninfoOption* option = options.get(); option->keyword; ++option)
@@ -62,7 +64,10 @@ public:
     void Connect(soci::session& session) override
     {
         session.open(*soci::factory_postgresql(), ConnectionText(m_address));
-        session << "SET lock_timeout = '" << LockTimeoutSeconds << "s'";
+        // What the server remarks by the way would stand between what the program prints.
+        PQsetNoticeProcessor(
+            Handle(session), [](void*, const char*) {}, nullptr);
+        SetUp(session);
     }
 
     bool IsReadOnly(soci::session& session) override
@@ -72,8 +77,35 @@ public:
         return readOnly == "on";
     }
 
+    bool Reconnect(soci::session& session) override
+    {
+        if (PQstatus(Handle(session)) == CONNECTION_OK)
+            return false;
+        PQreset(Handle(session));
+        if (PQstatus(Handle(session)) != CONNECTION_OK)
+            return false;
+        SetUp(session);
+        return true;
+    }
+
     bool IsReachable(soci::session&) override { return true; }
-    std::string_view BeginStatement() const override { return "BEGIN"; }
+
+    void Begin(soci::session& session) override
+    {
+        // One writer at a time, as on SQLite: two that lock rows in different orders, or both make
+        // the tables of a new store, would make each other fail.
+        constexpr int lockOfTheStore = 0x7A3;
+        session << "BEGIN";
+        try
+        {
+            session << "SELECT pg_advisory_xact_lock(" << lockOfTheStore << ")";
+        }
+        catch (const soci::soci_error&)
+        {
+            session << "ROLLBACK";
+            throw;
+        }
+    }
 
     std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
     {
@@ -92,6 +124,16 @@ public:
     }
 
 private:
+    static PGconn* Handle(soci::session& session)
+    {
+        return static_cast<soci::postgresql_session_backend*>(session.get_backend())->conn_;
+    }
+
+    static void SetUp(soci::session& session)
+    {
+        session << "SET lock_timeout = '" << LockTimeoutSeconds << "s'";
+    }
+
     std::string m_address;
 };
 

@@ -121,7 +121,7 @@ std::size_t StoredVersion(const Database& database, soci::session& session)
     if (!versioned)
         throw Failure(
             StoreError::NotAStore, "Store",
-            "Nothing was opened: \"" + database.Address() +
+            "Nothing was opened: \"" + database.Name() +
                 "\" is a database of another program. Choose another place for the store");
     int version = 0;
     session << "SELECT Version FROM SchemaVersion", soci::into(version);
@@ -137,7 +137,7 @@ void MigrateSchema(Database& database, soci::session& session, std::span<const S
     const std::size_t version = StoredVersion(database, session);
     if (version > steps.size())
         throw Failure(StoreError::NewerVersion, "Store",
-                      "Nothing was opened: the store \"" + database.Address() +
+                      "Nothing was opened: the store \"" + database.Name() +
                           "\" was written by a newer version of this program (its tables are of "
                           "version " +
                           std::to_string(version) + ", this program knows them up to " +
@@ -146,7 +146,7 @@ void MigrateSchema(Database& database, soci::session& session, std::span<const S
         return;
     if (database.IsReadOnly())
         throw Failure(StoreError::ReadOnly, "Store",
-                      "Nothing was opened: the store \"" + database.Address() +
+                      "Nothing was opened: the store \"" + database.Name() +
                           "\" has tables of version " + std::to_string(version) +
                           " and is read-only. Make it writable, so that they can be brought to "
                           "version " +

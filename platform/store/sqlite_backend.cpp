@@ -40,6 +40,10 @@ public:
     void Connect(soci::session& session) override
     {
         MakeDirectoryOf(m_file);
+        if (std::filesystem::is_directory(m_file))
+            throw Failure(StoreError::Unreachable, "Store",
+                          "The store \"" + m_file.string() +
+                              "\" can't be opened: it is a directory. Name a file in it");
         session.open(*soci::factory_sqlite3(), "db=\"" + m_file.string() + "\"");
         sqlite_api::sqlite3_busy_timeout(Handle(session), LockTimeoutSeconds * 1000);
         sqlite_api::sqlite3_extended_result_codes(Handle(session), 1);
@@ -63,7 +67,7 @@ public:
         return moved == 0;
     }
 
-    std::string_view BeginStatement() const override { return "BEGIN IMMEDIATE"; }
+    void Begin(soci::session& session) override { session << "BEGIN IMMEDIATE"; }
 
     std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
     {

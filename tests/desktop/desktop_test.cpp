@@ -9,7 +9,7 @@ namespace Tamrivo::Testing
 
 void OnModal(std::function<void(QDialog&)> act)
 {
-    auto* timer = new QTimer;
+    auto* timer = new QTimer(qApp);
     const QWidget* before = QApplication::activeModalWidget();
     QObject::connect(timer, &QTimer::timeout, timer, [timer, before, act = std::move(act)] {
         auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());

@@ -1,3 +1,4 @@
+#include "core/collection.h"
 #include "core/dates.h"
 #include "core/error.h"
 #include "core/numbers.h"
@@ -106,7 +107,11 @@ TEST(Numbers, DoublesComeBackFromTheirText)
         const Fakes::LocaleGuard guard(L',', L'.');
         EXPECT_EQ(ToDouble(DoubleText(value)), value);
     }
-    EXPECT_EQ(DoubleText(0.5), "0.5");
+    const std::pair<double, const char*> texts[] = {
+        {0.5, "0.5"}, {-0.0001, "-0.0001"}, {0.00001, "1e-05"}, {100000, "100000"}, {1e15, "1e+15"},
+    };
+    for (const auto& [value, text] : texts)
+        EXPECT_EQ(DoubleText(value), text);
     EXPECT_EQ(TwoDecimals(0.5), "0.50");
 }
 
@@ -139,6 +144,21 @@ TEST(Text, CaseDoesNotCount)
     EXPECT_FALSE(EqualNoCase("\xFF", "\xFE"));
     EXPECT_LT(CompareNoCase("a", "B"), 0);
     EXPECT_LT(CompareNoCase("A", "ab"), 0);
+}
+
+TEST(Collection, FindsItemsByKeyAndKeepsTheirOrder)
+{
+    Collection<int> items;
+    const std::pair<const char*, int> entries[] = {{"É", 1}, {"b", 2}, {"", 3}, {"A", 4}, {"", 5}};
+    for (const auto& [key, item] : entries)
+        items.Add(item, key);
+    EXPECT_THROW(items.Add(6, "B"), Failure);
+    items.Remove("B");
+    EXPECT_EQ(items.Item("é") * 10 + items.Item("a"), 14);
+    EXPECT_EQ(std::vector<int>(items.begin(), items.end()), (std::vector<int>{1, 3, 4, 5}));
+    EXPECT_EQ(items.Keys(), (std::vector<std::string>{"A", "É"}));
+    EXPECT_FALSE(items.KeyExists("b"));
+    EXPECT_THROW(items.Item("b"), Failure);
 }
 
 TEST(Text, CharactersAreCodePointsAndBadBytesSurvive)

@@ -55,7 +55,10 @@ void Rewrite(IsOwn isOwn, const Lines& entries)
         return entry && isOwn(*entry);
     });
     lines.insert(lines.end(), entries.begin(), entries.end());
-    WriteLines(path, lines);
+    if (lines.empty())
+        std::filesystem::remove(path);
+    else
+        WriteLines(path, lines);
 }
 
 bool HasOurName(const Registry::Entry& entry)

@@ -9,7 +9,8 @@ namespace Tamrivo
 /// Enters the module's classes, in place of what stood under their names.
 void RegisterClasses();
 
-/// Removes the module's classes where they lead to this very module.
+/// Removes the module's classes where they lead to this very module, and the file when nothing else
+/// stands in it.
 void UnregisterClasses();
 
 } // namespace Tamrivo

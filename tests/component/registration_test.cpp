@@ -49,6 +49,11 @@ TEST_F(Registration, LeadsFromANameToTheClass)
         EXPECT_EQ(module.GetClassObject(*classId, IID_IClassFactory, factory.Out()), S_OK);
     }
     EXPECT_FALSE(Registry::Find("Tamrivo.Else"));
+    for (int times = 0; times < 2; ++times)
+    {
+        ASSERT_EQ(module.Call("DllUnregisterServer"), S_OK);
+        EXPECT_FALSE(std::filesystem::exists(Registry::Path())) << "nothing is registered any more";
+    }
 }
 
 TEST_F(Registration, KeepsWhatBelongsToOthers)

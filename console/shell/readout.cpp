@@ -4,8 +4,9 @@
 #include "controls/hosted_control.h"
 #include "core/numbers.h"
 #include "platform/alleles/allele_pane.h"
-#include "selector/gridocx.h"
 
+#include <algorithm>
+#include <iterator>
 #include <type_traits>
 
 namespace Tamrivo
@@ -31,11 +32,6 @@ template <class Value>
 void PrintProperty(std::ostream& out, std::string_view name, const Value& value)
 {
     out << name << '=' << Text(value) << '\n';
-}
-
-void Append(Properties& properties, const Properties& more)
-{
-    properties.insert(properties.end(), more.begin(), more.end());
 }
 
 Properties PaneProperties(const AllelePane& pane)
@@ -70,12 +66,10 @@ void PrintRow(std::ostream& out, const std::vector<std::string>& cells)
 Properties ReadableProperties(const Control& control)
 {
     Properties properties = control.Properties();
-    if (const auto* grid = dynamic_cast<const HostedControl<Gridocx>*>(&control))
-        Append(properties, grid->Object().Properties());
-    else if (const auto* hosted = dynamic_cast<const HostedControl<PaneAlleleList>*>(&control))
+    if (const auto* hosted = dynamic_cast<const HostedControl<PaneAlleleList>*>(&control))
     {
         if (const auto* pane = dynamic_cast<const AllelePane*>(&hosted->Object()))
-            Append(properties, PaneProperties(*pane));
+            std::ranges::copy(PaneProperties(*pane), std::back_inserter(properties));
     }
     return properties;
 }

@@ -8,6 +8,7 @@
 #include "platform/framework/wizard_session.h"
 
 #include <memory>
+#include <optional>
 
 namespace Tamrivo
 {
@@ -17,7 +18,7 @@ namespace
 
 struct Options
 {
-    std::string Parameter;
+    std::optional<std::string> Parameter;
     OutputFormat Format = OutputFormat::Table;
 };
 
@@ -71,8 +72,8 @@ DescribedReport LociOfParameter(HostApplication& host, const std::string& name)
 
 std::vector<DescribedReport> Reports(HostApplication& host, const Options& options)
 {
-    if (!options.Parameter.empty())
-        return {LociOfParameter(host, options.Parameter)};
+    if (options.Parameter)
+        return {LociOfParameter(host, *options.Parameter)};
     std::vector<DescribedReport> reports;
     for (const auto& member : host.ContextTypes())
     {

@@ -23,6 +23,14 @@ void RequireNoWizard(Shell& shell)
         throw User::Refusal("the wizard " + wizard->Name() + " is open; finish or cancel it first");
 }
 
+void RequireNoParameterPage(Shell& shell)
+{
+    RequireNoWizard(shell);
+    if (const auto& open = shell.Stage().Parameter)
+        throw User::Refusal("the page of parameter \"" + open->Name() +
+                            "\" is open; close it first");
+}
+
 ParameterPage& ParameterPageOnTop(Shell& shell)
 {
     RequireNoWizard(shell);
@@ -72,11 +80,7 @@ void Cancel(Shell& shell, const Words&)
 
 void OpenParameter(Shell& shell, const Words& arguments)
 {
-    RequireNoWizard(shell);
-    if (const auto& open = shell.Stage().Parameter)
-        throw User::Refusal("the page of parameter \"" + open->Name() +
-                            "\" is open; close it first");
-
+    RequireNoParameterPage(shell);
     const bool noList = HasOption(arguments, 1, "--no-list");
     auto& parameters = shell.Host().Parameters();
     auto parameter = parameters.Find(arguments[0]);
@@ -94,6 +98,24 @@ void Close(Shell& shell, const Words&)
 {
     ParameterPageOnTop(shell);
     shell.Stage().Parameter.reset();
+}
+
+void RenameParameter(Shell& shell, const Words& arguments)
+{
+    RequireNoParameterPage(shell);
+    shell.Host().Parameters().Rename(arguments[0], arguments[1]);
+}
+
+void DuplicateParameter(Shell& shell, const Words& arguments)
+{
+    RequireNoParameterPage(shell);
+    shell.Host().Parameters().Duplicate(arguments[0], arguments[1]);
+}
+
+void DeleteParameter(Shell& shell, const Words& arguments)
+{
+    RequireNoParameterPage(shell);
+    shell.Host().Parameters().Delete(arguments[0]);
 }
 
 void Enable(Shell& shell, const Words& arguments)
@@ -124,6 +146,9 @@ constexpr ShellCommand commands[] = {
     {"parameter", "NAME [--no-list]", 1, 2, Otherwise, "open an analysis parameter", OpenParameter},
     {"save", "", 0, 0, Otherwise, "save the parameter", Save},
     {"close", "", 0, 0, Otherwise, "close the parameter's page", Close},
+    {"rename-parameter", "NAME NEW-NAME", 2, 2, Otherwise, "rename a parameter", RenameParameter},
+    {"duplicate-parameter", "NAME NEW-NAME", 2, 2, Otherwise, "store a copy", DuplicateParameter},
+    {"delete-parameter", "NAME", 1, 1, Otherwise, "remove a parameter", DeleteParameter},
     {"enable", "true|false", 1, 1, Otherwise, "switch the selector on or off", Enable},
     {"delete", "TAG", 1, 1, Otherwise, "remove a locus from the store", Delete},
     {"quit", "", 0, 0, Otherwise, "close everything and end", Quit},

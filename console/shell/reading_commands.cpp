@@ -104,6 +104,12 @@ void ListParameters(Shell& shell, const Words&)
         PrintRow(shell.Out(), {key});
 }
 
+void ParameterNames(Shell& shell, const Words&)
+{
+    for (const std::string& name : shell.Host().Parameters().Names())
+        PrintRow(shell.Out(), {name});
+}
+
 void Loci(Shell& shell, const Words&)
 {
     const auto loci = CurrentLoci(shell.Host().Store().Manager(), "Name");
@@ -172,6 +178,7 @@ constexpr ShellCommand commands[] = {
     {"selected", "", 0, 0, Always, "the tags of the selected loci", Selected},
     {"count", "", 0, 0, Always, "the number of selected loci", Count},
     {"parameters", "", 0, 0, Always, "the keys in the wizard's collection", ListParameters},
+    {"parameter-names", "", 0, 0, Always, "the names of the stored parameters", ParameterNames},
     {"loci", "", 0, 0, Always, "the tags of the stored current loci", Loci},
     {"locus", "TAG", 1, 1, Always, "the properties of a stored locus", ShowLocus},
     {"alleles", "TAG", 1, 1, Always, "name, size and bin of the stored alleles", Alleles},

@@ -60,8 +60,10 @@ void ParameterPage::RequireWholeSelection()
         if (listed.contains(locus->LocusTagID()))
             continue;
         // A tag that was deleted and made anew has another number.
-        const auto stored = m_host.Store().FindLocus(locus->LocusTag());
-        if (stored && !listed.contains(stored->LocusTagID()))
+        const auto entry = m_host.NewLocusTagEntry();
+        entry->SetTagName(locus->LocusTag());
+        const std::int32_t result = entry->Load();
+        if (result != LoadResult::NoSuchTag && !listed.contains(entry->TagID(0)))
             throw Failure(ErrorNumber::Unexpected, "ParameterPage",
                           "The selection of parameter \"" + Name() +
                               "\" could not be written whole; the stored one is as it was. Save "

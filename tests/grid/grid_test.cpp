@@ -1,6 +1,7 @@
 #include "core/dates.h"
 #include "platform/grid/grid_model.h"
 #include "platform/grid/grid_model_helper.h"
+#include "tests/fakes/fake_objects.h"
 
 #include <gmock/gmock.h>
 
@@ -15,15 +16,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Texts = std::vector<std::string>;
 
-class Layout : public Grid
+struct Layout : Fakes::FakeLayout
 {
-public:
-    std::string Name() const override { return {}; }
-    std::int32_t GridID() const override { return m_gridID; }
-    void SetGridID(std::int32_t gridID) override { m_gridID = gridID; }
-
-private:
-    std::int32_t m_gridID = 21;
+    explicit Layout(std::int32_t gridID = 21) { SetGridID(gridID); }
 };
 
 std::unique_ptr<GridModel> MakeGrid(const Texts& tags)
@@ -190,8 +185,6 @@ TEST(Grid, RefusesWhatIsReadOnlyOrNotThere)
     const auto grid = MakeGrid({"A"});
     GridModel other;
     GridModelHelper helper;
-    Layout unknown;
-    unknown.SetGridID(22);
     const auto write = [&] { grid->SetValueRowCol(1, 1, "B", 1); };
     grid->SetReadOnly(true);
     write();
@@ -211,7 +204,7 @@ TEST(Grid, RefusesWhatIsReadOnlyOrNotThere)
         [&] { grid->SetSetting(7, 1); },
         [&] { grid->SetSetting(29, std::int32_t{1}); },
         [&] { helper.HighlightRow(*grid, 2); },
-        [&] { helper.ApplyLayout(*grid, unknown, 0, 0, 0); },
+        [&] { helper.ApplyLayout(*grid, Layout(22), 0, 0, 0); },
         [&] { helper.MoveAllRows(*grid, other); },
         [&] { helper.MoveAllRows(*grid, *grid); },
     };

@@ -106,17 +106,5 @@ TEST_F(EditorLaunch, ANewLocusStandsAtTheEndOfTheAvailable)
     EXPECT_FALSE(selector.cmdAddAll.Enabled()) << "a new row alone enables nothing";
 }
 
-TEST_F(EditorLaunch, AWizardThatFailsLeavesTheGridsUsable)
-{
-    host.Launcher.Run = [](ParameterCollection&) -> bool {
-        throw Failure(ErrorNumber::Unexpected, "Launcher", "no wizard");
-    };
-    User::Click(available, 1);
-    EXPECT_THROW(User::Click(selector.cmdEditSTRLocus), Failure);
-    EXPECT_THAT(host.Utility.Reports, IsEmpty());
-    User::DoubleClick(available, 1);
-    EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "A"));
-}
-
 } // namespace
 } // namespace Tamrivo::Fakes

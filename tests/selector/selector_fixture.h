@@ -34,17 +34,7 @@ struct SelectorTest : testing::Test
     }
     void Open() { selector.Initialize(parameter); }
 
-    /// The buttons that are enabled, in tab order.
-    std::string Buttons() const
-    {
-        std::string buttons;
-        for (const Control* control : selector.InTabOrder())
-        {
-            if (dynamic_cast<const CommandButton*>(control) != nullptr && control->Enabled())
-                buttons += control->Name().substr(3) + " ";
-        }
-        return buttons;
-    }
+    std::string Buttons() const { return EnabledButtons(selector); }
 
     SelectorHost host;
     std::shared_ptr<FakeParameter> parameter = std::make_shared<FakeParameter>();

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/grid/grid_model.h"
 #include "platform/grid/grid_model_helper.h"
-#include "platform/grid/grid_user.h"
-#include "selector/str_locus_tag_selector.h"
 #include "tests/fakes/fake_host.h"
+#include "tests/selector/grid_readings.h"
 
 #include <map>
 
@@ -107,19 +105,5 @@ private:
     std::int32_t m_lastId = 0;
     int m_days = 0;
 };
-
-/// The tags in a grid, in the order of its rows.
-inline std::vector<std::string> TagsOf(const User::GridControl& grid)
-{
-    std::vector<std::string> tags;
-    for (double row = 1; row <= grid->RowCount(); ++row)
-        tags.push_back(grid->GetTextRowCol(row, 1));
-    return tags;
-}
-
-inline std::vector<std::int32_t> HighlightOf(const User::GridControl& grid)
-{
-    return ModelOf(grid.Object()).HighlightedRows();
-}
 
 } // namespace Tamrivo::Fakes

@@ -30,11 +30,9 @@ TEST_F(Selector, InitializeSplitsTheCurrentLociByTheStoredTags)
     EXPECT_EQ(available->RowCount(), 5);
     EXPECT_EQ(selector.SelectedLocusTags().Count(), 0U);
     EXPECT_EQ(Buttons(), "AddAll NewSTRLocus ");
-}
 
-TEST_F(Selector, ATagStoredTwiceEndsInitialize)
-{
     Select({4, 4});
+    parameter->Lists = 1;
     EXPECT_THROW(Open(), Failure);
     EXPECT_THAT(host.Utility.Reports, IsEmpty());
 }

@@ -58,7 +58,7 @@ struct OpenSelector
     NoFrontEnd Nobody;
     HostApplication Host{Store, Nobody};
     std::shared_ptr<StoredAnalysisParameter> Parameter = [this] {
-        if (const auto found = Host.Parameters().Find("Measured"))
+        if (auto found = Host.Parameters().Find("Measured"))
             return found;
         return Host.Parameters().Create("Measured", TagLists::OneEmpty);
     }();

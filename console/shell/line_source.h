@@ -27,7 +27,7 @@ public:
     /// Gives the words that could take the place of the last word of the text before the cursor.
     /// Each begins as that word does. An exception means that there are none.
     using Completer = std::function<std::vector<std::string>(std::string_view beforeCursor)>;
-    virtual void SetCompleter(Completer) {}
+    virtual void SetCompleter(const Completer&) {}
 };
 
 /// Lines of a script or of standard input.

@@ -168,9 +168,9 @@ std::optional<std::string> TerminalSource::Next(const std::string& prompt)
     return line;
 }
 
-void TerminalSource::SetCompleter(Completer completer)
+void TerminalSource::SetCompleter(const Completer& completer)
 {
-    m_editor->Complete = std::move(completer);
+    m_editor->Complete = completer;
 }
 
 } // namespace Tamrivo

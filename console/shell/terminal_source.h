@@ -20,7 +20,7 @@ public:
     std::optional<std::string> Next(const std::string& prompt) override;
     std::string Place() const override { return "terminal"; }
     bool IsInteractive() const override { return true; }
-    void SetCompleter(Completer completer) override;
+    void SetCompleter(const Completer& completer) override;
 
 private:
     struct Editor;

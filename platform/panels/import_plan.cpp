@@ -183,11 +183,11 @@ private:
     std::shared_ptr<Locus> Find(const PanelMarker& marker, std::string& tag)
     {
         tag = marker.LocusTag.empty() ? marker.Marker : marker.LocusTag;
-        const auto stored = Stored(tag);
+        auto stored = Stored(tag);
         if (!marker.LocusTag.empty() || marker.Panel.empty() || IsOf(marker.Panel, stored))
             return stored;
         const std::string tagInPanel = MarkerInPanel(marker.Marker, marker.Panel);
-        const auto storedInPanel = Stored(tagInPanel);
+        auto storedInPanel = Stored(tagInPanel);
         const bool isFree = !stored && m_markersNamed[LookupKey(marker.Marker)] == 1;
         if (isFree && !IsOf(marker.Panel, storedInPanel))
             return nullptr;

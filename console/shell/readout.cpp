@@ -39,7 +39,13 @@ Properties PaneProperties(const AllelePane& pane)
     Properties properties{{"RowCount", static_cast<std::int32_t>(pane.Rows().size())},
                           {"Valid", pane.IsValid()}};
     for (const AlleleProblem& problem : pane.Problems())
-        properties.emplace_back("Problem(" + std::to_string(problem.Row) + ")", problem.Reason);
+    {
+        const std::string name = "Problem(" + std::to_string(problem.Row) + ")";
+        if (properties.back().first == name)
+            std::get<std::string>(properties.back().second) += "; " + problem.Reason;
+        else
+            properties.emplace_back(name, problem.Reason);
+    }
     return properties;
 }
 

@@ -16,16 +16,30 @@ namespace Tamrivo
 namespace
 {
 
-/// The alleles of a locus by size; also sizes that are no numbers have their place.
+/// Also sizes that are no numbers have their place.
+void SortBySize(AlleleRows& rows)
+{
+    std::ranges::stable_sort(
+        rows, [](double left, double right) { return std::is_lt(std::weak_order(left, right)); },
+        [](const std::shared_ptr<Allele>& allele) { return allele->AlleleReal1; });
+}
+
 AlleleRows RowsOf(Locus& locus)
 {
     AlleleRows rows;
     for (const auto& member : locus.Alleles().Members())
         rows.push_back(As<Allele>(member));
-    std::ranges::stable_sort(
-        rows, [](double left, double right) { return std::is_lt(std::weak_order(left, right)); },
-        [](const std::shared_ptr<Allele>& allele) { return allele->AlleleReal1; });
+    SortBySize(rows);
     return rows;
+}
+
+/// Makes the list hold the rows, in their order.
+void Rebuild(ObjectList& list, const AlleleRows& rows)
+{
+    while (list.Count() > 0)
+        list.Remove(list.Count());
+    for (const auto& row : rows)
+        list.Add(row);
 }
 
 std::unordered_set<const BusinessObject*> SetOf(const AlleleRows& rows)
@@ -44,16 +58,6 @@ AlleleRows Without(const AlleleRows& rows, const AlleleRows& others)
                                     return others.contains(row.get());
                                 });
     return rest;
-}
-
-void RemoveFrom(ObjectList& list, const AlleleRows& rows)
-{
-    const auto removed = SetOf(rows);
-    for (std::int32_t index = removed.empty() ? 0 : list.Count(); index > 0; --index)
-    {
-        if (removed.contains(list.Item(index).get()))
-            list.Remove(index);
-    }
 }
 
 double ConfidenceInterval(const Locus& locus)
@@ -237,14 +241,14 @@ void AllelePane::Step(std::vector<Change>& from, std::vector<Change>& to)
 
 void AllelePane::Make(Change& change)
 {
-    ObjectList& alleles = m_locus->Alleles();
-    RemoveFrom(alleles, change.ToRemove);
-    for (const auto& row : change.ToAdd)
-        alleles.Add(row);
+    AlleleRows rows = Without(RowsOf(*m_locus), change.ToRemove);
+    std::ranges::copy(change.ToAdd, std::back_inserter(rows));
     std::swap(change.ToRemove, change.ToAdd);
     if (change.Edited)
         std::swap(static_cast<AlleleFields&>(*change.Edited), change.Fields);
-    Show(RowsOf(*m_locus));
+    SortBySize(rows);
+    Rebuild(m_locus->Alleles(), rows);
+    Show(std::move(rows));
 }
 
 void AllelePane::Announce(const Change& change)

@@ -15,7 +15,8 @@ namespace Tamrivo
 {
 
 /// The allele pane as a real part: the rows of a locus, what a person does to them, and whether
-/// they make a valid list. It works on `Locus::Alleles` itself and shows the rows by size; rows of
+/// they make a valid list. It works on `Locus::Alleles` itself and keeps the rows by size: a list
+/// that comes in another order is shown by size, and put in that order by the first change. Rows of
 /// one size stand in the locus's order. Rows are counted from 1.
 ///
 /// Events come once a change is complete: `Changed`, then `AlleleEdited` or `ListChanged`, then

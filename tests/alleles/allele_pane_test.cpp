@@ -168,6 +168,8 @@ TEST_F(AllelePaneTest, ABlockOfCellsOrRowsIsOneStep)
     EXPECT_EQ(Names(), (List{"8", "9", "10"}));
     User::RemoveAlleles(Form.Alleles, {});
     EXPECT_FALSE(Pane->CanUndo());
+    User::AddAllele(Form.Alleles);
+    EXPECT_FALSE(Pane->CanRedo());
 }
 
 TEST_F(AllelePaneTest, AGenerationReplacesTheRowsAndCanBeUndone)
@@ -191,6 +193,10 @@ TEST_F(AllelePaneTest, AGenerationReplacesTheRowsAndCanBeUndone)
 
     Pane->RefreshAlleles();
     EXPECT_EQ(TakeEvents(), List{}) << "nothing has come or gone";
+    EXPECT_TRUE(Pane->CanRedo());
+    Locus->GenerateAlleles();
+    Pane->RefreshAlleles();
+    EXPECT_FALSE(Pane->CanRedo());
 }
 
 TEST_F(AllelePaneTest, AnnouncesTheValidityOfEachLocusOnce)
@@ -201,6 +207,7 @@ TEST_F(AllelePaneTest, AnnouncesTheValidityOfEachLocusOnce)
     User::EditAllele(Form.Alleles, 2, NameColumn, "");
     EXPECT_EQ(TakeEvents(), (List{"edited "})) << "invalid before and after";
     Pane->SetLocus(Locus);
+    EXPECT_FALSE(Pane->CanUndo());
     EXPECT_EQ(TakeEvents(), List{});
     Pane->SetLocus(std::make_shared<Fakes::FakeLocus>());
     EXPECT_EQ(TakeEvents(), (List{"valid"}));

@@ -35,8 +35,10 @@ TEST_F(GroupsTest, TheLetterSpinStepsByTheLocus)
     EXPECT_EQ(Page.txtStartAtAlphanumeric.Text(), "A");
     Page.txtStartAtAlphanumeric.SetText("AB");
     User::Up(Page.udStartAtAlphanumeric);
+    User::Down(Page.udStartAtAlphanumeric);
     EXPECT_EQ(Page.txtStartAtAlphanumeric.Text(), "AB");
-    EXPECT_EQ(Reports(), (Tamrivo::Reports{{"udStartAtAlphanumeric_UpClick", true}}));
+    EXPECT_EQ(Reports(), (Tamrivo::Reports{{"udStartAtAlphanumeric_UpClick", true},
+                                           {"udStartAtAlphanumeric_DownClick", true}}));
 }
 
 TEST_F(GroupsTest, ATagOfBlanksTakesTheLocusOutOfUse)
@@ -107,12 +109,14 @@ TEST_F(GroupsTest, GeneratingWorksOnTheCopy)
     Page.txtFragEnd.SetText("108");
     Page.txtShortestAlleleSize.SetText("100");
     Page.txtRepeat.SetText("2");
+    Page.txtRepeatsInShortestAllele.SetText("5.2");
     Page.txtPloidy.SetText("9");
     Page.txtStartAtNumeric.SetText("any");
     const LocusFields before = *Locus;
     const int changes = Host.Base->Changes;
     User::Click(Page.cmdGenAlleleList);
     EXPECT_EQ(copy->AlleleList.Count(), 5);
+    EXPECT_EQ(copy->RepeatsInShortestAllele, "5.2");
     EXPECT_EQ(copy->Ploidy, 2);
     EXPECT_EQ(Host.Pane->Refreshes, 1);
     EXPECT_EQ(Host.Base->Changes, changes);

@@ -129,6 +129,7 @@ TEST_F(InputRulesTest, LeavingAFieldRepairsIt)
 TEST_F(InputRulesTest, TheShortestAlleleFollowsTheRange)
 {
     Open(Mode::Edit);
+    EXPECT_EQ(Page.udShortestAlleleSize.Min(), 60);
     const auto leave = [&](TextField& field, const char* text) {
         const int changes = Host.Base->Changes;
         field.SetText(text);

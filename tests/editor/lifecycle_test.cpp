@@ -47,6 +47,7 @@ TEST_P(EditorModes, ShowTheControlsOfTheMode)
     Host.Base->Activate();
     EXPECT_EQ(Page.cmdGenAlleleList.Visible(), row.GeneratesOnceActive);
     EXPECT_EQ(Page.fraAlleleNamingConvention.Visible(), row.GeneratesOnceActive);
+    EXPECT_EQ(Page.fraAlleleNamingConvention.Enabled(), row.GeneratesOnceActive);
     EXPECT_EQ(Host.Base->Changes > changes, !row.GeneratesOnceActive);
     EXPECT_EQ(Host.Pane->Shown == Locus, !row.GeneratesOnceActive);
 

@@ -22,6 +22,10 @@ bool Actions::Run(const std::function<void()>& action) const
     {
         ShowReason(refusal.what());
     }
+    catch (const Cancelled&)
+    {
+        return false;
+    }
     catch (...)
     {
         m_onFailure(CurrentError());

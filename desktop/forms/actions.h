@@ -8,6 +8,10 @@
 namespace Tamrivo
 {
 
+/// Thrown through work that the person has cancelled. Nobody needs to be told.
+struct Cancelled
+{};
+
 /// Runs what a person sets off. Nothing may leave an event handler of Qt as an exception, so what
 /// fails goes to the host and what is refused is told beside the widget.
 class Actions

@@ -3,14 +3,14 @@
 #include "core/text.h"
 #include "desktop/forms/actions.h"
 #include "desktop/import/import_preview_model.h"
+#include "desktop/long_work.h"
+#include "desktop/settings.h"
 #include "desktop/text.h"
 #include "platform/panels/counts.h"
 #include "platform/panels/import.h"
-#include "platform/panels/import_result.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -20,9 +20,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QProgressDialog>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -33,10 +31,6 @@ namespace Tamrivo
 
 namespace
 {
-
-/// The person has had enough; what was stored so far is taken back.
-struct ImportCancelled
-{};
 
 QString Sentence(const std::string& start, const QString& end)
 {
@@ -74,7 +68,13 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
 
     m_tree->setFocus();
     const int line = fontMetrics().lineSpacing();
-    resize(66 * line, 38 * line);
+    resize(76 * line, 38 * line);
+    RestorePlace(*this);
+}
+
+ImportDialog::~ImportDialog()
+{
+    RememberPlace(*this);
 }
 
 void ImportDialog::AddSourceRow(QBoxLayout& layout)
@@ -139,8 +139,6 @@ void ImportDialog::AddDecision(QBoxLayout& layout)
 
 void ImportDialog::Preview(const QString& path)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     m_path = path;
     m_reading = ReadPanelFile(FromQString(path));
     m_preview->SetMarkers(m_reading.Markers);
@@ -173,11 +171,21 @@ void ImportDialog::OfferProjects()
 void ImportDialog::Plan()
 {
     m_replan.stop();
-    m_plan = {};
+    // Nothing of the former plan may stay in view if this one fails.
+    ShowPlan({});
     const auto panels = m_preview->ChosenPanels();
     if (m_reading.Complaints.empty() && !panels.empty())
-        m_plan = PlanImport(m_reading.Markers,
-                            {panels, Trim(FromQString(m_project->currentText()))}, m_store);
+    {
+        LongWork work(m_store, "Comparing the table with the store...", this);
+        ShowPlan(PlanImport(m_reading.Markers,
+                            {panels, Trim(FromQString(m_project->currentText()))}, m_store,
+                            [&](std::size_t done, std::size_t total) { work.Show(done, total); }));
+    }
+}
+
+void ImportDialog::ShowPlan(ImportPlan plan)
+{
+    m_plan = std::move(plan);
     m_preview->SetPlan(m_plan);
     ShowState();
 }
@@ -252,6 +260,8 @@ QString ImportDialog::Obstacle() const
         return "Nothing to import: the table has no markers.";
     if (m_preview->ChosenPanels().empty())
         return "Tick a panel to import.";
+    if (m_plan.Loci.empty())
+        return "The table wasn't compared with the store. Untick and tick a panel to try again.";
     if (m_plan.Count(ImportFate::New) == 0)
         return "There is nothing new to import.";
     if (m_plan.Count(ImportFate::LeftOut) > 0 && !m_partial->isChecked())
@@ -265,22 +275,13 @@ void ImportDialog::Import()
         Plan();
     if (!Obstacle().isEmpty())
         return;
-    QProgressDialog progress("Importing...", "Cancel", 0,
-                             static_cast<int>(m_plan.Count(ImportFate::New)), this);
-    progress.setObjectName("importProgress");
-    progress.setWindowTitle("Import");
-    progress.setMinimumDuration(500);
-    progress.setWindowModality(Qt::WindowModal);
     try
     {
-        CarryOutImport(m_plan, m_store, [&progress](std::size_t done, std::size_t total) {
-            progress.setLabelText(QString("Importing: %1 of %2 loci").arg(done).arg(total));
-            progress.setValue(static_cast<int>(done));
-            if (progress.wasCanceled())
-                throw ImportCancelled();
-        });
+        LongWork work(m_store, "Importing the loci...", this);
+        CarryOutImport(m_plan, m_store,
+                       [&](std::size_t done, std::size_t total) { work.Show(done, total); });
     }
-    catch (const ImportCancelled&)
+    catch (const Cancelled&)
     {
         m_status->setText("Cancelled: nothing was imported.");
         return;
@@ -291,10 +292,11 @@ void ImportDialog::Import()
         m_replan.start();
         throw;
     }
-    QStringList sentences;
-    for (const std::string& sentence : ResultOf(m_plan, FromQString(Source())))
-        sentences.append(ToQString(sentence));
-    m_result = sentences.join(' ');
+    m_result = Sentence("Imported " + CountOfLoci(m_plan.Count(ImportFate::New)) + " with " +
+                            CountOfAlleles(m_plan.NewAlleles()),
+                        ".");
+    if (const std::size_t leftOut = m_plan.Count(ImportFate::LeftOut); leftOut > 0)
+        m_result += Sentence(" Left out " + CountOfLoci(leftOut), ".");
     accept();
 }
 

@@ -28,12 +28,13 @@ class ImportDialog : public QDialog
 public:
     /// Store and actions must outlive the dialog.
     ImportDialog(Store& store, const Actions& actions, QWidget* parent = nullptr);
+    ~ImportDialog() override;
 
     /// Reads a panel table and shows what would come in. Raises `ErrorNumber::InvalidArgument` when
     /// the file can't be read, and failures of the store.
     void Preview(const QString& path);
 
-    /// What has come in, or empty while nothing has: "Imported 17 loci with 223 alleles."
+    /// What has come in, or empty while nothing has: "Imported 17 loci with 223 alleles "
     const QString& Result() const { return m_result; }
 
 private:
@@ -43,6 +44,7 @@ private:
     void AddDecision(QBoxLayout& layout);
     /// Plans the import of what is ticked, and shows the plan.
     void Plan();
+    void ShowPlan(ImportPlan plan);
     void ShowState();
     QString Source() const;
     QStringList Reasons() const;

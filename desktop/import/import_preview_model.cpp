@@ -51,7 +51,7 @@ QString RemarksOn(const PlannedLocus& locus)
     for (const std::string& obstacle : locus.Obstacles)
         sentences.append(ToQString(obstacle) + ".");
     if (locus.Fate == ImportFate::New && locus.IsRenamed())
-        sentences.append("Gets a tag other than its name, which isn't free.");
+        sentences.append("Its name is taken, so the tag names the panel too.");
     return sentences.join(' ');
 }
 

@@ -1,15 +1,14 @@
 #include "desktop/import/panel_export.h"
 
 #include "desktop/forms/actions.h"
+#include "desktop/long_work.h"
 #include "desktop/text.h"
 #include "platform/panels/counts.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QScopeGuard>
 
 namespace Tamrivo
 {
@@ -24,11 +23,17 @@ QString ExportPanelTable(Store& store, const Actions& actions, QWidget* parent)
             return;
         if (QFileInfo(path).suffix().isEmpty())
             path += ".tsv";
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+        LongWork work(store, "Exporting the loci...", parent);
         const auto loci = CurrentLoci(store.Manager(), "");
-        WritePanelFile(FromQString(path), loci->Members());
-        result = ToQString("Exported " + CountOfLoci(loci->Members().size()) + " to ") +
+        const auto& members = loci->Members();
+        // Reading the alleles is what takes its time.
+        for (std::size_t read = 0; read < members.size(); ++read)
+        {
+            As<Locus>(members[read])->Alleles();
+            work.Show(read + 1, members.size());
+        }
+        WritePanelFile(FromQString(path), members);
+        result = ToQString("Exported " + CountOfLoci(members.size()) + " to ") +
                  QDir::toNativeSeparators(path) + ".";
     });
     return result;

@@ -1,6 +1,7 @@
 #include "desktop/window/locus_picker.h"
 
 #include "core/text.h"
+#include "desktop/long_work.h"
 #include "desktop/settings.h"
 #include "desktop/text.h"
 #include "platform/store/store.h"
@@ -32,13 +33,13 @@ public:
         setWindowTitle(title);
         m_narrowed.setSourceModel(&m_tags);
         m_narrowed.setFilterCaseSensitivity(Qt::CaseInsensitive);
+        auto* filter = new QLineEdit(this);
         m_list = new QListView(this);
         m_list->setObjectName("tags");
         m_list->setModel(&m_narrowed);
         m_list->setUniformItemSizes(true);
         m_list->setAccessibleName("Loci");
         m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        auto* filter = new QLineEdit(this);
         filter->setObjectName("filter");
         filter->setClearButtonEnabled(true);
         filter->setPlaceholderText("Part of the tag");
@@ -53,7 +54,7 @@ public:
         layout->addWidget(filter);
         layout->addWidget(m_list, 1);
         layout->addWidget(buttons);
-        resize(32 * fontMetrics().averageCharWidth() * 2, 24 * fontMetrics().lineSpacing());
+        resize(64 * fontMetrics().averageCharWidth(), 24 * fontMetrics().lineSpacing());
         RestorePlace(*this);
 
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -101,15 +102,21 @@ private:
     QPushButton* m_ok;
 };
 
-} // namespace
-
-std::optional<std::string> PickLocus(Store& store, const QString& title, QWidget* parent)
+QStringList CurrentTags(Store& store, QWidget* parent)
 {
+    const LongWork work(store, "Reading the loci...", parent);
     QStringList tags;
     const auto loci = CurrentLoci(store.Manager(), "Name");
     for (const auto& member : loci->Members())
         tags += ToQString(TrimRight(As<Locus>(member)->LocusTag()));
-    LocusPicker picker(tags, title, parent);
+    return tags;
+}
+
+} // namespace
+
+std::optional<std::string> PickLocus(Store& store, const QString& title, QWidget* parent)
+{
+    LocusPicker picker(CurrentTags(store, parent), title, parent);
     if (picker.exec() != QDialog::Accepted)
         return std::nullopt;
     return FromQString(picker.Picked());

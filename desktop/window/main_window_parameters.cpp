@@ -8,7 +8,6 @@
 #include "desktop/window/parameter_view.h"
 #include "desktop/window/store_session.h"
 
-#include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QStackedWidget>
@@ -28,12 +27,9 @@ void MainWindow::ChooseParameter(const std::string& name)
 
 void MainWindow::ShowParameter(const std::string& name)
 {
-    // Reading a store with very many loci takes its time.
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     ParameterView* view = nullptr;
     const bool isOpen =
         Run([&] { view = new ParameterView(Host(), m_frontEnd.UserActions(), name, m_pages); });
-    QApplication::restoreOverrideCursor();
     if (!isOpen)
         return;
     CloseParameter();

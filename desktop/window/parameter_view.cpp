@@ -5,6 +5,7 @@
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/icons.h"
 #include "desktop/lanes/locus_lanes.h"
+#include "desktop/long_work.h"
 #include "desktop/text.h"
 #include "platform/framework/host_application.h"
 #include "platform/framework/parameter_page.h"
@@ -72,6 +73,7 @@ ParameterView::ParameterView(HostApplication& host, const Actions& actions, cons
     auto* scroll = new QScrollArea(m_splitter);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
     m_splitter->addWidget(scroll);
     m_splitter->addWidget(m_lanes);
     m_splitter->setStretchFactor(0, 3);
@@ -107,6 +109,7 @@ ParameterView::~ParameterView()
 
 void ParameterView::Open()
 {
+    const LongWork work(m_host.Store(), "Reading the loci...", this);
     auto page = std::make_unique<ParameterPage>(m_host, m_host.Parameters().Open(m_name));
     delete m_form;
     m_page = std::move(page);
@@ -148,6 +151,7 @@ bool ParameterView::IsChanged() const
 
 void ParameterView::Save()
 {
+    const LongWork work(m_host.Store(), "Saving the selection...", this);
     m_page->Save();
     ShowSelection();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/event.h"
 #include "platform/store/backend.h"
 #include "platform/store/store_failure.h"
 
@@ -27,6 +28,10 @@ public:
     int ConnectionNumber() const { return m_connectionNumber; }
     bool IsReadOnly() const { return m_readOnly; }
 
+    /// Raised before each piece of work and, during a long one, again and again. What the handler
+    /// throws ends the work as a failure does.
+    Event<> Progress;
+
     /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
     /// the store that it amounts to, "CONSEQUENCE: REASON", where the consequence tells what is now
     /// not done or not known, such as "The locus \"A\" is not stored".
@@ -35,6 +40,7 @@ public:
     {
         try
         {
+            Progress();
             RequireReachable(consequence);
             return statements(m_session);
         }

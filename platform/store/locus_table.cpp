@@ -27,6 +27,7 @@ std::vector<std::shared_ptr<StoredLocus>> ReadLoci(const std::shared_ptr<Databas
                                " ORDER BY LocusID");
         for (statement.execute(); statement.fetch();)
         {
+            database->Progress();
             row.SwitchesToFields();
             loci.push_back(std::make_shared<StoredLocus>(database, row));
         }

@@ -23,6 +23,11 @@ bool Store::IsReadOnly() const
     return m_database->IsReadOnly();
 }
 
+void Store::OnProgress(const std::function<void()>& handler)
+{
+    m_database->Progress = handler;
+}
+
 std::shared_ptr<ObjectManager> Store::NewManager()
 {
     return std::make_shared<StoreObjectManager>(m_database);

@@ -6,6 +6,7 @@
 #include "platform/store/store_failure.h"
 #include "platform/store/transaction.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_set>
@@ -61,6 +62,10 @@ public:
     ///         store.Manager().Save(*locus, true);
     ///     transaction.Commit();
     Transaction Begin() { return Transaction(*m_database); }
+
+    /// Lets a handler know that the store is at work, again and again as long as that takes. What
+    /// it throws ends the work as a failure does, so that nothing is written by halves.
+    void OnProgress(const std::function<void()>& handler);
 
     /// The connection, for other tables in the same store.
     Tamrivo::Database& Connection() { return *m_database; }

@@ -1,6 +1,10 @@
 #include "desktop/alleles/allele_pane_view.h"
 
+#include "contracts/locus.h"
+#include "controls/text_field.h"
 #include "controls/user.h"
+#include "controls/user_control.h"
+#include "core/numbers.h"
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/alleles/allele_table_model.h"
 #include "desktop/clipboard_table.h"
@@ -24,6 +28,24 @@
 
 namespace Tamrivo
 {
+
+namespace
+{
+
+/// The fields of the editor's page in which the fragment range is edited. The locus itself gets it
+/// later.
+constexpr const char* rangeStartField = "txtFragStart";
+constexpr const char* rangeEndField = "txtFragEnd";
+
+std::optional<double> NumberIn(const UserControl& form, const char* field)
+{
+    const auto* found = dynamic_cast<const TextField*>(form.Find(field));
+    if (found == nullptr || !IsNumeric(found->Text()))
+        return std::nullopt;
+    return ToDouble(found->Text());
+}
+
+} // namespace
 
 AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
                                const Actions& actions)
@@ -64,7 +86,10 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
     m_model->onMoved = [this](int row) {
         QTimer::singleShot(0, this, [=, this] { SelectRow(row); });
     };
-    m_picture->onClicked = [this](std::int32_t row) { SelectRow(row - 1); };
+    m_picture->onClicked = [this](std::int32_t row) {
+        SelectRow(row - 1);
+        m_table->setFocus();
+    };
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { MarkSelected(); });
     m_pane.Changed = [this] { ShowRows(); };
@@ -154,9 +179,32 @@ QWidget& AllelePaneView::FocusWidget()
 void AllelePaneView::ShowRows()
 {
     m_model->Refresh();
-    m_picture->Show(m_pane.Rows(), m_pane.ShownLocus().get());
+    ShowPicture();
     ShowState();
     MarkSelected();
+}
+
+void AllelePaneView::ShowPicture()
+{
+    m_picture->Show(m_pane.Rows(), Range());
+}
+
+std::optional<LengthRange> AllelePaneView::Range() const
+{
+    const auto& locus = m_pane.ShownLocus();
+    if (!locus)
+        return std::nullopt;
+    const auto from = NumberIn(m_control.Form(), rangeStartField);
+    const auto to = NumberIn(m_control.Form(), rangeEndField);
+    if (from && to && *from <= *to)
+        return LengthRange{*from, *to};
+    return LengthRange{static_cast<double>(locus->FragStart), static_cast<double>(locus->FragEnd)};
+}
+
+void AllelePaneView::FormChanged(const Control& control)
+{
+    if (control.Name() == rangeStartField || control.Name() == rangeEndField)
+        ShowPicture();
 }
 
 void AllelePaneView::ShowState()
@@ -190,8 +238,10 @@ void AllelePaneView::MarkSelected()
 
 void AllelePaneView::SelectRow(int row)
 {
-    m_table->selectRow(row);
-    m_table->scrollTo(m_model->index(row, 0));
+    const QModelIndex cell = m_model->index(row, 0);
+    m_table->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect |
+                                                         QItemSelectionModel::Rows);
+    m_table->scrollTo(cell);
 }
 
 void AllelePaneView::AddRow()

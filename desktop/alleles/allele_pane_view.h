@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QAction;
 class QLabel;
 class QTableView;
@@ -12,6 +14,7 @@ class QTableView;
 namespace Tamrivo
 {
 
+struct LengthRange;
 class AllelePicture;
 class AlleleTableModel;
 
@@ -27,6 +30,7 @@ public:
     QSize LeastSize() const override;
     bool CanGrow() const override { return true; }
     QWidget& FocusWidget() override;
+    void FormChanged(const Control& control) override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -37,10 +41,13 @@ private:
     QAction* AddAction(const QString& text, const char* icon, const QList<QKeySequence>& shortcuts,
                        const std::function<void()>& action);
     void ShowRows();
+    void ShowPicture();
     void ShowState();
     void MarkSelected();
     void SelectRow(int row);
     std::vector<std::int32_t> SelectedRows() const;
+    /// The locus's fragment range, as the page has it; none without a locus.
+    std::optional<LengthRange> Range() const;
 
     void AddRow();
     void RemoveRows();

@@ -1,6 +1,5 @@
 #include "desktop/alleles/allele_picture.h"
 
-#include "contracts/locus.h"
 #include "desktop/pictures/colors.h"
 #include "desktop/pictures/length_axis.h"
 
@@ -47,7 +46,8 @@ void FillBin(QPainter& painter, const QRectF& rect, const StateLook& look)
         painter.fillRect(rect, ground);
     }
     painter.fillRect(rect, QBrush(look.Color, look.Pattern));
-    painter.setPen(look.Color);
+    // Bins that meet stay two.
+    painter.setPen(look.Color.darker(150));
     painter.drawRect(rect);
 }
 
@@ -59,20 +59,19 @@ AllelePicture::AllelePicture(QWidget* parent) : QWidget(parent)
     setAccessibleName("Picture of the bins along the fragment length");
 }
 
-void AllelePicture::Show(const AlleleRows& rows, const Locus* locus)
+void AllelePicture::Show(const AlleleRows& rows, const std::optional<LengthRange>& range)
 {
-    m_hasLocus = locus != nullptr;
-    m_shapes = m_hasLocus ? ShapesOf(rows, *locus) : std::vector<BinShape>();
-    m_low = m_rangeStart = m_hasLocus ? locus->FragStart : 0;
-    m_high = m_rangeEnd = m_hasLocus ? locus->FragEnd : 1;
+    m_range = range;
+    m_shapes = range ? ShapesOf(rows, *range) : std::vector<BinShape>();
+    m_shown = range.value_or(LengthRange{0, 1});
     for (const BinShape& shape : m_shapes)
     {
-        m_low = std::min(m_low, shape.From);
-        m_high = std::max(m_high, shape.To);
+        m_shown.From = std::min(m_shown.From, shape.From);
+        m_shown.To = std::max(m_shown.To, shape.To);
     }
-    const double edge = std::max(1.0, (m_high - m_low) * 0.02);
-    m_low -= edge;
-    m_high += edge;
+    const double edge = std::max(1.0, (m_shown.To - m_shown.From) * 0.02);
+    m_shown.From -= edge;
+    m_shown.To += edge;
 
     const auto faulty = std::ranges::count_if(
         m_shapes, [](const BinShape& shape) { return shape.State != BinState::InOrder; });
@@ -106,7 +105,7 @@ double AllelePicture::BaseLine() const
 
 LengthAxis AllelePicture::Axis() const
 {
-    return {m_low, m_high, margin, width() - margin};
+    return {m_shown.From, m_shown.To, margin, width() - margin};
 }
 
 QRectF AllelePicture::RectOf(const BinShape& shape) const
@@ -133,7 +132,7 @@ void AllelePicture::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().base());
-    if (!m_hasLocus)
+    if (!m_range)
         return;
     const LengthAxis axis = Axis();
     DrawRange(painter, axis);
@@ -148,8 +147,8 @@ void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
 {
     QColor ground = SafeColor::SkyBlue;
     ground.setAlphaF(0.15F);
-    const double left = axis.X(m_rangeStart);
-    const double right = axis.X(m_rangeEnd);
+    const double left = axis.X(m_range->From);
+    const double right = axis.X(m_range->To);
     painter.fillRect(QRectF(left, margin / 2, right - left, BaseLine() - margin / 2), ground);
     painter.setPen(QPen(SafeColor::SkyBlue, 1, Qt::DashLine));
     for (const double x : {left, right})
@@ -173,7 +172,7 @@ void AllelePicture::DrawBin(QPainter& painter, const BinShape& shape) const
 
 void AllelePicture::DrawNames(QPainter& painter) const
 {
-    // Upright while there is room, else turned, and then as many as fit; a marked one always.
+    // Upright while there is room, else turned, and then as many as fit, marked ones first.
     const QFontMetrics font = fontMetrics();
     double room = width();
     double longest = 0;
@@ -185,28 +184,48 @@ void AllelePicture::DrawNames(QPainter& painter) const
                                       RectOf(m_shapes[i - 1]).center().x());
     }
     const bool isTurned = longest + 4 > room;
-    double free = -1;
-    painter.setPen(palette().color(QPalette::Text));
-    for (const BinShape& shape : m_shapes)
+    const auto half = [&](const BinShape& shape) {
+        return (isTurned ? font.height() : font.horizontalAdvance(shape.Name)) / 2.0;
+    };
+    std::vector<LengthRange> taken; // Pixels.
+    for (const bool isMarked : {true, false})
     {
-        const QRectF rect = RectOf(shape);
-        const double length = font.horizontalAdvance(shape.Name);
-        const double half = (isTurned ? font.height() : length) / 2.0;
-        const double x = rect.center().x();
-        if (x - half < free && !m_marked.contains(shape.Row))
-            continue;
-        free = x + half;
-        painter.save();
-        painter.translate(x, rect.top() - 7);
-        if (isTurned)
+        double free = -1;
+        for (const BinShape& shape : m_shapes)
         {
-            painter.rotate(-90);
-            painter.drawText(QPointF(0, font.ascent() / 2.0 - 1), shape.Name);
+            if (m_marked.contains(shape.Row) != isMarked)
+                continue;
+            const double x = RectOf(shape).center().x();
+            const LengthRange name{x - half(shape), x + half(shape)};
+            const bool meetsMarked =
+                !isMarked && std::ranges::any_of(taken, [&](const LengthRange& other) {
+                    return name.From < other.To && other.From < name.To;
+                });
+            if (name.From < free || meetsMarked)
+                continue;
+            free = name.To;
+            if (isMarked)
+                taken.push_back(name);
+            DrawName(painter, shape, isTurned);
         }
-        else
-            painter.drawText(QPointF(-length / 2, 0), shape.Name);
-        painter.restore();
     }
+}
+
+void AllelePicture::DrawName(QPainter& painter, const BinShape& shape, bool isTurned) const
+{
+    const QFontMetrics font = fontMetrics();
+    const QRectF rect = RectOf(shape);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.save();
+    painter.translate(rect.center().x(), rect.top() - 7);
+    if (isTurned)
+    {
+        painter.rotate(-90);
+        painter.drawText(QPointF(0, font.ascent() / 2.0 - 1), shape.Name);
+    }
+    else
+        painter.drawText(QPointF(-font.horizontalAdvance(shape.Name) / 2.0, 0), shape.Name);
+    painter.restore();
 }
 
 void AllelePicture::DrawLegend(QPainter& painter) const

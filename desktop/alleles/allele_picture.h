@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <set>
 
 namespace Tamrivo
@@ -18,8 +19,8 @@ class AllelePicture : public QWidget
 public:
     explicit AllelePicture(QWidget* parent);
 
-    /// Shows the alleles of a locus; no locus leaves the picture empty.
-    void Show(const AlleleRows& rows, const Locus* locus);
+    /// Shows the alleles of a locus and its fragment range; no range leaves the picture empty.
+    void Show(const AlleleRows& rows, const std::optional<LengthRange>& range);
     /// Marks rows, counted from 1.
     void Mark(const std::set<std::int32_t>& rows);
 
@@ -47,15 +48,13 @@ private:
     void DrawRange(QPainter& painter, const LengthAxis& axis) const;
     void DrawBin(QPainter& painter, const BinShape& shape) const;
     void DrawNames(QPainter& painter) const;
+    void DrawName(QPainter& painter, const BinShape& shape, bool isTurned) const;
     void DrawLegend(QPainter& painter) const;
 
     std::vector<BinShape> m_shapes;
     std::set<std::int32_t> m_marked;
-    bool m_hasLocus = false;
-    double m_rangeStart = 0;
-    double m_rangeEnd = 0;
-    double m_low = 0;
-    double m_high = 1;
+    std::optional<LengthRange> m_range;
+    LengthRange m_shown{0, 1}; ///< The range, all bins, and some room beside them.
 };
 
 } // namespace Tamrivo

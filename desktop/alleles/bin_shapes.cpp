@@ -1,6 +1,5 @@
 #include "desktop/alleles/bin_shapes.h"
 
-#include "contracts/locus.h"
 #include "core/numbers.h"
 #include "desktop/text.h"
 
@@ -9,13 +8,13 @@
 namespace Tamrivo
 {
 
-std::vector<BinShape> ShapesOf(const AlleleRows& rows, const Locus& locus)
+std::vector<BinShape> ShapesOf(const AlleleRows& rows, const LengthRange& range)
 {
     std::vector<BinShape> shapes;
     for (const auto& allele : rows)
     {
         const auto [from, to] = std::minmax(allele->AlleleReal2, allele->AlleleReal3);
-        const bool isInside = locus.FragStart <= from && to <= locus.FragEnd;
+        const bool isInside = range.From <= from && to <= range.To;
         shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to,
                           allele->AlleleReal1, isInside ? BinState::InOrder : BinState::OutOfRange,
                           ToQString(allele->AlleleText1)});

@@ -9,7 +9,12 @@
 namespace Tamrivo
 {
 
-class Locus;
+/// A stretch of fragment lengths, nt.
+struct LengthRange
+{
+    double From;
+    double To;
+};
 
 /// What the picture tells of a bin by colour and pattern.
 enum class BinState
@@ -32,7 +37,8 @@ struct BinShape
 
 /// The bins of a list in the order of its rows. A bin whose ends stand the wrong way round is shown
 /// between them all the same.
-std::vector<BinShape> ShapesOf(const AlleleRows& rows, const Locus& locus);
+/// @param range the fragment range that they should lie in
+std::vector<BinShape> ShapesOf(const AlleleRows& rows, const LengthRange& range);
 
 /// What a bin's shape means, in words.
 QString Describe(const BinShape& shape);

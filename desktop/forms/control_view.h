@@ -24,6 +24,9 @@ public:
     /// Brings the widget in line with the control's state.
     virtual void Refresh() = 0;
 
+    /// Some control of the form has changed, this one or another.
+    virtual void FormChanged(const Control&) {}
+
     /// The smallest size at which all that the form declares of the control can be read.
     virtual QSize LeastSize() const = 0;
 

@@ -39,6 +39,8 @@ FormView::FormView(UserControl& form, const Actions& actions, const HostedViewFa
     m_form.ControlChanged = [this](Control& control) {
         if (ControlView* view = ViewOf(control))
             view->Refresh();
+        for (const auto& [other, view] : m_views)
+            view->FormChanged(control);
     };
 }
 

@@ -141,8 +141,9 @@ TEST_F(AllelePaneTest, CellsAreExchangedWithOtherPrograms)
 {
     OnPane([this] {
         m_table->setFocus();
-        m_table->setCurrentIndex(m_table->model()->index(0, 0));
-        m_table->selectRow(0);
+        m_table->selectionModel()->setCurrentIndex(m_table->model()->index(0, 0),
+                                                   QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
         QTest::keyClick(m_table, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QApplication::clipboard()->text(), "1\t80\t79.5\t80.5\n");
 

@@ -167,7 +167,35 @@ std::vector<LaneBar> LaneDrawing::BarsInView(QSize size, int scrolled,
     return bars;
 }
 
-void LaneDrawing::Draw(QPainter& painter, QSize size, int scrolled, const QPalette& palette) const
+std::vector<std::size_t> LaneDrawing::InReadingOrder() const
+{
+    std::vector<std::size_t> order;
+    for (const Lane& lane : m_lanes)
+    {
+        for (const auto& row : lane.Rows)
+            order.insert(order.end(), row.begin(), row.end());
+    }
+    return order;
+}
+
+int LaneDrawing::TopOf(std::size_t locus, const QFontMetrics& font) const
+{
+    int laneTop = 0;
+    for (const Lane& lane : m_lanes)
+    {
+        const auto row = std::ranges::find_if(lane.Rows, [locus](const auto& positions) {
+            return std::ranges::find(positions, locus) != positions.end();
+        });
+        if (row != lane.Rows.end())
+            return laneTop + padding +
+                   static_cast<int>(row - lane.Rows.begin()) * (RowHeight(font) + rowGap);
+        laneTop += HeightOf(lane, font);
+    }
+    return 0;
+}
+
+void LaneDrawing::Draw(QPainter& painter, QSize size, int scrolled, const QPalette& palette,
+                       std::optional<std::size_t> focus) const
 {
     const QFontMetrics font = painter.fontMetrics();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -180,7 +208,14 @@ void LaneDrawing::Draw(QPainter& painter, QSize size, int scrolled, const QPalet
     axis.Draw(painter, palette, axisTop, 0);
     painter.setClipRect(0, 0, size.width(), axisTop);
     for (const LaneBar& bar : BarsInView(size, scrolled, font))
+    {
         DrawBar(painter, bar, axis, palette);
+        if (bar.Locus == focus)
+        {
+            painter.setPen(QPen(palette.color(QPalette::Text), 2, Qt::DotLine));
+            painter.drawRect(bar.Rect.adjusted(-2, -2, 2, 2));
+        }
+    }
     painter.setClipping(false);
 }
 

@@ -8,6 +8,7 @@
 #include <QRectF>
 #include <QSize>
 
+#include <optional>
 #include <vector>
 
 class QPainter;
@@ -39,8 +40,13 @@ public:
     int LanesHeight(const QFontMetrics& font) const;
     static int RowHeight(const QFontMetrics& font);
 
-    /// Draws what is in view.
-    void Draw(QPainter& painter, QSize size, int scrolled, const QPalette& palette) const;
+    /// Draws what is in view, with a frame around the locus that has the focus, if any.
+    void Draw(QPainter& painter, QSize size, int scrolled, const QPalette& palette,
+              std::optional<std::size_t> focus = {}) const;
+    /// The loci as they stand from the top to the bottom and, in a row, from left to right.
+    std::vector<std::size_t> InReadingOrder() const;
+    /// Top of a locus's row, from the top of the lanes.
+    int TopOf(std::size_t locus, const QFontMetrics& font) const;
     /// The bars that are in view, at least in part.
     std::vector<LaneBar> BarsInView(QSize size, int scrolled, const QFontMetrics& font) const;
 

@@ -3,9 +3,11 @@
 #include "core/error.h"
 #include "desktop/text.h"
 
+#include <QAccessible>
 #include <QBuffer>
 #include <QHelpEvent>
 #include <QImage>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSvgGenerator>
@@ -51,6 +53,7 @@ LanePicture::LanePicture(QWidget* parent) : QAbstractScrollArea(parent)
 void LanePicture::Show(LaneDrawing drawing)
 {
     m_drawing = std::move(drawing);
+    m_focus.reset();
     FitScrollBar();
     viewport()->update();
 }
@@ -95,10 +98,11 @@ QByteArray LanePicture::AsSvg() const
 
 QSize LanePicture::sizeHint() const
 {
+    constexpr int leastRows = 9;
     constexpr int mostRows = 12;
     const int row = LaneDrawing::RowHeight(fontMetrics());
     const int frame = 2 * frameWidth();
-    return {32 * row, std::clamp(WholeSize().height(), 5 * row, mostRows * row) + frame};
+    return {32 * row, std::clamp(WholeSize().height(), leastRows * row, mostRows * row) + frame};
 }
 
 QSize LanePicture::minimumSizeHint() const
@@ -120,7 +124,8 @@ void LanePicture::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(viewport());
     if (!m_drawing.Loci().empty())
     {
-        m_drawing.Draw(painter, viewport()->size(), verticalScrollBar()->value(), palette());
+        m_drawing.Draw(painter, viewport()->size(), verticalScrollBar()->value(), palette(),
+                       m_focus);
         return;
     }
     painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -144,24 +149,22 @@ void LanePicture::changeEvent(QEvent* event)
     updateGeometry();
 }
 
-QString LanePicture::TipAt(QPoint place) const
+std::vector<LaneBar> LanePicture::Bars() const
 {
-    for (const LaneBar& bar :
-         m_drawing.BarsInView(viewport()->size(), verticalScrollBar()->value(), fontMetrics()))
-    {
-        if (!bar.Rect.adjusted(-2, 0, 2, 0).contains(place))
-            continue;
-        const LaneLocus& locus = m_drawing.Loci()[bar.Locus];
-        QString tip = QString("%1: %2 to %3 nt on dye %4")
-                          .arg(ToQString(locus.Tag))
-                          .arg(locus.From)
-                          .arg(locus.To)
-                          .arg(ToQString(DyeName(locus.DyeIndex)));
-        if (m_drawing.Overlaps().IsOverlapped[bar.Locus])
-            tip += "\nOverlaps another locus of this dye";
-        return tip;
-    }
-    return {};
+    return m_drawing.BarsInView(viewport()->size(), verticalScrollBar()->value(), fontMetrics());
+}
+
+QString LanePicture::TipOf(std::size_t position) const
+{
+    const LaneLocus& locus = m_drawing.Loci()[position];
+    QString tip = QString("%1: %2 to %3 nt on dye %4")
+                      .arg(ToQString(locus.Tag))
+                      .arg(locus.From)
+                      .arg(locus.To)
+                      .arg(ToQString(DyeName(locus.DyeIndex)));
+    if (m_drawing.Overlaps().IsOverlapped[position])
+        tip += "\nOverlaps another locus of this dye";
+    return tip;
 }
 
 bool LanePicture::viewportEvent(QEvent* event)
@@ -171,8 +174,60 @@ bool LanePicture::viewportEvent(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     const bool isOnLanes =
         help->pos().y() < viewport()->height() - LaneDrawing::AxisHeight(fontMetrics());
-    QToolTip::showText(help->globalPos(), isOnLanes ? TipAt(help->pos()) : QString(), viewport());
+    const auto bars = Bars();
+    const auto bar = std::ranges::find_if(bars, [&](const LaneBar& shown) {
+        return isOnLanes && shown.Rect.adjusted(-2, 0, 2, 0).contains(help->pos());
+    });
+    QToolTip::showText(help->globalPos(), bar != bars.end() ? TipOf(bar->Locus) : QString(),
+                       viewport());
     return true;
+}
+
+void LanePicture::keyPressEvent(QKeyEvent* event)
+{
+    const auto order = m_drawing.InReadingOrder();
+    if (order.empty())
+        return QAbstractScrollArea::keyPressEvent(event);
+    const auto last = std::ssize(order) - 1;
+    const auto at =
+        m_focus ? std::ranges::find(order, *m_focus) - order.begin() : std::ptrdiff_t{-1};
+    std::ptrdiff_t next = 0;
+    switch (event->key())
+    {
+    case Qt::Key_Right: next = at + 1; break;
+    case Qt::Key_Left: next = at - 1; break;
+    case Qt::Key_Home: next = 0; break;
+    case Qt::Key_End: next = last; break;
+    default: return QAbstractScrollArea::keyPressEvent(event);
+    }
+    GoTo(order[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(next, 0, last))]);
+}
+
+void LanePicture::GoTo(std::size_t locus)
+{
+    m_focus = locus;
+    const int top = m_drawing.TopOf(locus, fontMetrics());
+    const int bottom = top + LaneDrawing::RowHeight(fontMetrics());
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setValue(std::clamp(bar.value(), bottom - bar.pageStep(), top));
+    viewport()->update();
+
+    const QString tip = TipOf(locus);
+    setAccessibleDescription(tip);
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
+    const auto bars = Bars();
+    const auto shown = std::ranges::find(bars, locus, &LaneBar::Locus);
+    if (shown != bars.end())
+        QToolTip::showText(viewport()->mapToGlobal(shown->Rect.bottomLeft().toPoint()), tip,
+                           viewport());
+}
+
+void LanePicture::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    m_focus.reset();
+    viewport()->update();
 }
 
 } // namespace Tamrivo

@@ -8,6 +8,8 @@ namespace Tamrivo
 {
 
 /// Shows lanes of loci; scrolls when there are more rows than fit, with the axis in view all along.
+/// Keys: Left and Right step from bar to bar and tell what each is, Home and End go to the first
+/// and to the last; the others scroll.
 class LanePicture : public QAbstractScrollArea
 {
 public:
@@ -30,13 +32,18 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void FitScrollBar();
     QSize WholeSize() const;
-    QString TipAt(QPoint place) const;
+    QString TipOf(std::size_t locus) const;
+    std::vector<LaneBar> Bars() const;
+    void GoTo(std::size_t locus);
 
     LaneDrawing m_drawing{{}, {}};
+    std::optional<std::size_t> m_focus; ///< The locus that the keys have gone to.
 };
 
 } // namespace Tamrivo

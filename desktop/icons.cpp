@@ -34,6 +34,7 @@ constexpr OwnIcon ownIcons[] = {
     {"document-print", "M7 9V3h10v6 M5 9h14v8h-2v4H7v-4H5z M7 14h10"},
     {"document-properties", "M6 3h12v18H6z M9 8h6 M9 12h6 M9 16h4"},
     {"document-revert", "M4 12a8 8 0 1 0 3-6 M4 3v5h5"},
+    {"document-save-as", "M9 20H4V4h13l3 3v4 M8 4v5h8V4 M12 20l1-4 5-5 3 3-5 5z"},
     {"document-save", "M4 4h13l3 3v13H4z M8 4v5h8V4 M7 20v-7h10v7"},
     {"edit-copy", "M8 8h12v12H8z M16 8V4H4v12h4"},
     {"edit-delete", "M5 7h14 M9 7V4h6v3 M7 7l1 13h8l1-13 M10 11v6 M14 11v6"},
@@ -44,7 +45,13 @@ constexpr OwnIcon ownIcons[] = {
     {"help-about", "M12 3a9 9 0 1 0 .01 0z M12 11v6 M12 7v1"},
     {"list-add", "M12 5v14 M5 12h14"},
     {"list-remove", "M5 12h14"},
+    {"network-server", "M4 5h16v6H4z M4 13h16v6H4z M7 8h1 M7 16h1"},
+    {"text-x-generic", "M6 3h8l4 4v14H6z M14 3v4h4 M9 12h6 M9 16h6"},
     {"view-refresh", "M19 13a7 7 0 1 1-2-6l2 2 M19 4v5h-5"},
+    {"x-office-spreadsheet", "M4 5h16v14H4z M4 10h16 M4 14.5h16 M10 5v14"},
+    {"zoom-in", "M10 4a6 6 0 1 0 .01 0z M14.5 14.5L20 20 M10 7v6 M7 10h6"},
+    {"zoom-original", "M10 4a6 6 0 1 0 .01 0z M14.5 14.5L20 20 M9 8l1.5-1v6"},
+    {"zoom-out", "M10 4a6 6 0 1 0 .01 0z M14.5 14.5L20 20 M7 10h6"},
 };
 
 /// Draws an icon in the colour that the text of buttons has at the time.

@@ -56,6 +56,7 @@ void ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& pl
         details += "\nCaught in: " + place;
     box.setDetailedText(details);
     box.setStandardButtons(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
 
     QPushButton* log = box.addButton("Open &Log", QMessageBox::ActionRole);
     // A button of the box would close it.

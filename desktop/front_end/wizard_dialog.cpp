@@ -73,6 +73,8 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    // A click beside the controls leaves the focus where it is.
+    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(m_page);
     m_reasons->setObjectName("reasons");
     m_reasons->setAccessibleName("Why the page can't be finished");

@@ -42,6 +42,10 @@ GridView::GridView(User::GridControl& grid, QWidget& parent, const Actions& acti
       m_grid(ModelOf(grid.Object())),
       m_table(new GridTableModel(m_grid, this))
 {
+    // Before the header has as many sections as there are rows: it looks at each one.
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    FitRows();
     setModel(m_table);
     setSelectionMode(NoSelection);
     setSelectionBehavior(SelectRows);
@@ -50,8 +54,6 @@ GridView::GridView(User::GridControl& grid, QWidget& parent, const Actions& acti
     setShowGrid(false);
     setWordWrap(false);
     setVerticalScrollMode(ScrollPerItem);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ConnectHeader();
     m_table->onHighlightChanged = [this] { ShowHighlight(); };
     m_table->onLookChanged = [this] { ShowLook(); };
@@ -244,7 +246,7 @@ void GridView::changeEvent(QEvent* event)
 {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
+        FitRows();
     if (event->type() == QEvent::ApplicationPaletteChange)
         ShowLook();
 }
@@ -259,8 +261,20 @@ void GridView::resizeEvent(QResizeEvent* event)
 void GridView::FitColumns()
 {
     m_columnsFitted = true;
-    horizontalHeader()->resizeSection(0, viewport()->width() * 11 / 20);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
+    // The last column shows all it has, if that leaves the others half of the room.
+    const int last = m_grid.Columns() - 1;
+    const int room = viewport()->width();
+    const int needed = sizeHintForColumn(last) + fontMetrics().averageCharWidth();
+    const int wanted = m_grid.Rows() > 0 ? needed : room * 9 / 20;
+    for (int column = 0; column < last; ++column)
+        horizontalHeader()->resizeSection(column, (room - std::min(wanted, room / 2)) / last);
+}
+
+void GridView::FitRows()
+{
+    const int height = fontMetrics().lineSpacing() * 3 / 2;
+    if (verticalHeader()->defaultSectionSize() != height)
+        verticalHeader()->setDefaultSectionSize(height);
 }
 
 } // namespace Tamrivo

@@ -45,6 +45,7 @@ private:
     void ShowOrder();
     void ShowLook();
     void FitColumns();
+    void FitRows();
     /// The row that a key leads to, counted from 1; 0 when it leads nowhere.
     int RowOfKey(const QKeyEvent& event) const;
     int CurrentRow() const { return currentIndex().row() + 1; }

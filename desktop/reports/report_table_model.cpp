@@ -9,6 +9,17 @@
 namespace Tamrivo
 {
 
+namespace
+{
+
+QVariant AlignmentOf(const Table::Column& column)
+{
+    const bool isText = column.Kind == Table::Text;
+    return QVariant((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+}
+
+} // namespace
+
 void ReportTableModel::Show(Report report)
 {
     beginResetModel();
@@ -32,8 +43,8 @@ QVariant ReportTableModel::data(const QModelIndex& index, int role) const
     const auto column = static_cast<std::size_t>(index.column());
     if (role == Qt::DisplayRole)
         return ToQString(m_table.Rows[static_cast<std::size_t>(index.row())][column]);
-    if (role == Qt::TextAlignmentRole && m_table.Columns[column].Kind == Table::Number)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole)
+        return AlignmentOf(m_table.Columns[column]);
     return {};
 }
 
@@ -45,8 +56,7 @@ QVariant ReportTableModel::headerData(int section, Qt::Orientation orientation, 
     if (role == Qt::DisplayRole)
         return ToQString(column.Title);
     if (role == Qt::TextAlignmentRole)
-        return QVariant((column.Kind == Table::Number ? Qt::AlignRight : Qt::AlignLeft) |
-                        Qt::AlignVCenter);
+        return AlignmentOf(column);
     return {};
 }
 

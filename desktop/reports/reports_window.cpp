@@ -5,6 +5,7 @@
 #include "desktop/reports/report_table_model.h"
 #include "desktop/reports/table_printer.h"
 #include "desktop/save_file.h"
+#include "desktop/settings.h"
 #include "desktop/text.h"
 #include "platform/framework/host_application.h"
 #include "platform/panels/counts.h"
@@ -83,7 +84,6 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     m_table->setAlternatingRowColors(true);
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     // The order of the service until the person asks for another.
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -98,7 +98,13 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     connect(m_scope, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
     FitRows();
     const int line = fontMetrics().lineSpacing();
-    resize(70 * line, 32 * line);
+    resize(76 * line, 32 * line);
+    RestorePlace(*this);
+}
+
+ReportsWindow::~ReportsWindow()
+{
+    RememberPlace(*this);
 }
 
 void ReportsWindow::FitRows()

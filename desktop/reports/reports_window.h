@@ -26,6 +26,8 @@ public:
     /// Both must outlive the window.
     ReportsWindow(HostApplication& host, const Actions& actions, QWidget* parent = nullptr);
 
+    ~ReportsWindow() override;
+
     /// Shows all contexts, as the store has them now.
     void ShowAll();
     /// Shows the contexts of an analysis parameter's loci alone, in the parameter's order. The

@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -51,7 +52,8 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
     m_splitter->setChildrenCollapsible(false);
     setCentralWidget(m_splitter);
     statusBar();
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 48);
+    const QSize wanted(fontMetrics().averageCharWidth() * 190, fontMetrics().lineSpacing() * 56);
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     RestorePlace(*this);
     ShowState();
 }
@@ -96,9 +98,11 @@ bool MainWindow::OpenStore(const std::string& address)
     m_frontEnd.SetHost(&Host());
     RememberStore(ToQString(address));
     ShowNames();
-    const std::string last = FromQString(LastParameter(ToQString(Host().Store().Address())));
-    if (!last.empty() && Host().Parameters().Find(last))
-        ShowParameter(last);
+    Run([this] {
+        const std::string last = FromQString(LastParameter(ToQString(Host().Store().Address())));
+        if (!last.empty() && Host().Parameters().Find(last))
+            ShowParameter(last);
+    });
     ShowState();
     return true;
 }

@@ -13,6 +13,28 @@
 namespace Tamrivo
 {
 
+namespace
+{
+
+/// What a wizard has stored, for the status bar; empty when it has stored nothing.
+/// @param edited the tag that the wizard was started with; empty for a new locus
+QString StoredBy(const WizardOutcome& outcome, const std::string& edited)
+{
+    std::string stored = edited;
+    for (const char* key : {ParameterKey::NewLocus, ParameterKey::NewSaveAs})
+    {
+        if (outcome.Parameters->KeyExists(key))
+            stored = ParameterItem<std::shared_ptr<Locus>>(*outcome.Parameters, key)->LocusTag();
+    }
+    if (outcome.Completed)
+        return "Stored " + ToQString(TrimRight(stored)) + ".";
+    // A Save As has stored a locus even if the wizard was cancelled after it.
+    const bool isSavedAs = outcome.Parameters->KeyExists(ParameterKey::SaveTimes);
+    return isSavedAs ? "Stored the locus under its new tag." : QString();
+}
+
+} // namespace
+
 std::optional<std::string> MainWindow::ChosenLocus(const QString& title)
 {
     if (m_view != nullptr)
@@ -34,20 +56,14 @@ void MainWindow::ShowStoredLoci(const QString& news)
 
 void MainWindow::NewLocus()
 {
-    const WizardOutcome outcome = Host().NewLocus(false);
-    // A Save As may have stored a locus even if the wizard was cancelled.
-    if (outcome.Completed || outcome.Parameters->KeyExists(ParameterKey::SaveTimes))
-        ShowStoredLoci("Stored the new locus.");
+    ShowStoredLoci(StoredBy(Host().NewLocus(false), {}));
 }
 
 void MainWindow::EditLocus(bool binning)
 {
     const auto tag = ChosenLocus(binning ? "Edit for Binning" : "Edit Locus");
-    if (!tag)
-        return;
-    const WizardOutcome outcome = Host().EditLocus(*tag, binning);
-    if (outcome.Completed || outcome.Parameters->KeyExists(ParameterKey::SaveTimes))
-        ShowStoredLoci("Stored " + ToQString(TrimRight(*tag)) + ".");
+    if (tag)
+        ShowStoredLoci(StoredBy(Host().EditLocus(*tag, binning), *tag));
 }
 
 void MainWindow::DeleteLocus()

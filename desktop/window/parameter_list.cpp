@@ -55,6 +55,11 @@ void ParameterList::SetNames(const std::vector<std::string>& names)
         m_names->addItem(ToQString(name));
 }
 
+QSize ParameterList::sizeHint() const
+{
+    return {30 * fontMetrics().averageCharWidth(), QWidget::sizeHint().height()};
+}
+
 void ParameterList::ShowChosen(const std::string& name)
 {
     const QScopedValueRollback showing(m_isShowing, true);

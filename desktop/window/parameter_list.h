@@ -23,6 +23,8 @@ public:
     /// Shows which one is open, without raising `onChosen`; an empty name for none.
     void ShowChosen(const std::string& name);
 
+    QSize sizeHint() const override;
+
     /// The person has chosen a parameter.
     std::function<void(const std::string& name)> onChosen;
 

@@ -1,5 +1,6 @@
 #include "desktop/settings.h"
 
+#include <QScreen>
 #include <QSettings>
 #include <QWidget>
 
@@ -29,9 +30,10 @@ void RememberPlace(const QWidget& window)
     QSettings().setValue(PlaceKey(window), window.saveGeometry());
 }
 
-bool RestorePlace(QWidget& window)
+void RestorePlace(QWidget& window, QSize first)
 {
-    return window.restoreGeometry(QSettings().value(PlaceKey(window)).toByteArray());
+    if (!window.restoreGeometry(QSettings().value(PlaceKey(window)).toByteArray()))
+        window.resize(first.boundedTo(window.screen()->availableSize() * 0.95));
 }
 
 QStringList RecentStores()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -12,8 +13,8 @@ namespace Tamrivo
 
 /// Size and place of a window, under its object name.
 void RememberPlace(const QWidget& window);
-/// False when nothing is remembered.
-bool RestorePlace(QWidget& window);
+/// Gives the window what is remembered of it; if nothing is, a size, as far as the screen has it.
+void RestorePlace(QWidget& window, QSize first);
 
 /// Addresses of the stores that were opened last, the latest first.
 QStringList RecentStores();

@@ -2,6 +2,7 @@
 
 #include "desktop/pictures/colors.h"
 #include "desktop/pictures/length_axis.h"
+#include "desktop/pictures/picture_role.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -55,6 +56,7 @@ void FillBin(QPainter& painter, const QRectF& rect, const StateLook& look)
 
 AllelePicture::AllelePicture(QWidget* parent) : QWidget(parent)
 {
+    MarkAsPicture(*this);
     setMouseTracking(true);
     setAccessibleName("Picture of the bins along the fragment length");
 }
@@ -66,8 +68,8 @@ void AllelePicture::Show(const AlleleRows& rows, const std::optional<LengthRange
     m_shown = range.value_or(LengthRange{0, 1});
     for (const BinShape& shape : m_shapes)
     {
-        m_shown.From = std::min(m_shown.From, shape.From);
-        m_shown.To = std::max(m_shown.To, shape.To);
+        m_shown.From = std::min({m_shown.From, shape.From, shape.Size});
+        m_shown.To = std::max({m_shown.To, shape.To, shape.Size});
     }
     const double edge = std::max(1.0, (m_shown.To - m_shown.From) * 0.02);
     m_shown.From -= edge;

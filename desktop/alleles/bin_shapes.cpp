@@ -14,9 +14,10 @@ std::vector<BinShape> ShapesOf(const AlleleRows& rows, const LengthRange& range)
     for (const auto& allele : rows)
     {
         const auto [from, to] = std::minmax(allele->AlleleReal2, allele->AlleleReal3);
-        const bool isInside = range.From <= from && to <= range.To;
-        shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to,
-                          allele->AlleleReal1, isInside ? BinState::InOrder : BinState::OutOfRange,
+        const double size = allele->AlleleReal1;
+        const bool isInside = range.From <= size && size <= range.To;
+        shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to, size,
+                          isInside ? BinState::InOrder : BinState::OutOfRange,
                           ToQString(allele->AlleleText1)});
     }
     for (const auto& [row, other] : OverlappingBins(rows))
@@ -37,7 +38,7 @@ QString Describe(const BinShape& shape)
     if (shape.State == BinState::Overlapping)
         text += "\nOverlaps another bin";
     else if (shape.State == BinState::OutOfRange)
-        text += "\nReaches outside the fragment range";
+        text += "\nLies outside the fragment range";
     return text;
 }
 

@@ -21,7 +21,7 @@ enum class BinState
 {
     InOrder,
     Overlapping, ///< With another bin.
-    OutOfRange,  ///< Not wholly within the fragment range.
+    OutOfRange,  ///< The allele's size lies outside the fragment range.
 };
 
 /// A bin in the picture, lengths in nt.

@@ -38,17 +38,19 @@ void DesktopFrontEnd::SetHost(HostApplication* host)
     if (host != nullptr)
     {
         Screen& screen = host->SharedScreen();
-        screen.MousePointerChanged = [&screen] { ShowPointer(screen); };
+        screen.MousePointerChanged = [this, &screen] { ShowPointer(screen); };
     }
 }
 
 void DesktopFrontEnd::ShowPointer(const Screen& screen)
 {
     const bool isWaiting = screen.MousePointer() == Pointer::Hourglass;
-    const bool isShown = QApplication::overrideCursor() != nullptr;
-    if (isWaiting && !isShown)
+    if (isWaiting == m_isHourglass)
+        return;
+    m_isHourglass = isWaiting;
+    if (isWaiting)
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    else if (!isWaiting && isShown)
+    else
         QApplication::restoreOverrideCursor();
 }
 

@@ -33,10 +33,11 @@ public:
     void ShowFailure(const ErrorRecord& error) override;
 
 private:
-    static void ShowPointer(const Screen& screen);
+    void ShowPointer(const Screen& screen);
 
     Actions m_actions;
     HostApplication* m_host = nullptr;
+    bool m_isHourglass = false;
 };
 
 } // namespace Tamrivo

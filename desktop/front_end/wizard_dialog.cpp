@@ -13,7 +13,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShowEvent>
 #include <QTabWidget>
@@ -102,8 +101,7 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
     m_wizard.Validated = [this] { ShowReasons(); };
     ShowReasons();
     const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
-    resize(natural.expandedTo(sizeHint()).boundedTo(screen()->availableSize() * 0.95));
-    RestorePlace(*this);
+    RestorePlace(*this, natural.expandedTo(sizeHint()));
 }
 
 WizardDialog::~WizardDialog()

@@ -7,6 +7,7 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -70,7 +71,13 @@ void GridView::ConnectHeader()
     header.setSectionsClickable(true);
     header.setHighlightSections(false);
     header.setStretchLastSection(true);
+    header.setResizeContentsPrecision(0); // The rows in view are enough to fit a column.
     header.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&header, &QHeaderView::sectionResized, this, [this](int column) {
+        // The last one is resized with the grid.
+        if (!m_isFitting && column < m_grid.Columns() - 1)
+            m_hasOwnWidths = true;
+    });
     connect(&header, &QHeaderView::sectionClicked, this,
             [this](int column) { m_actions.Run([&] { User::Click(m_control, 0, column + 1); }); });
     connect(&header, &QWidget::customContextMenuRequested, this,
@@ -202,7 +209,10 @@ int GridView::RowOfKey(const QKeyEvent& event) const
 void GridView::keyPressEvent(QKeyEvent* event)
 {
     const int current = CurrentRow();
-    if (const int row = RowOfKey(*event))
+    if (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier)
+        m_actions.Run(
+            [&] { User::RightClick(m_control, 0, std::max(0, currentIndex().column()) + 1); });
+    else if (const int row = RowOfKey(*event))
     {
         if (event->modifiers() & Qt::ShiftModifier)
             m_actions.Run([&] { User::ExtendTo(m_control, row); });
@@ -254,13 +264,13 @@ void GridView::changeEvent(QEvent* event)
 void GridView::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
-    if (!m_columnsFitted && m_grid.Columns() > 0 && isVisible())
+    if (!m_hasOwnWidths && m_grid.Columns() > 0)
         FitColumns();
 }
 
 void GridView::FitColumns()
 {
-    m_columnsFitted = true;
+    const QScopedValueRollback fitting(m_isFitting, true);
     // The last column shows all it has, if that leaves the others half of the room.
     const int last = m_grid.Columns() - 1;
     const int room = viewport()->width();

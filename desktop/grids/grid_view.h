@@ -16,7 +16,8 @@ class GridTableModel;
 ///
 /// Keys: arrows, Home, End and the page keys go to a row, with Shift they extend the highlight,
 /// with Ctrl they leave it alone; Space takes the current row into the highlight or out of it;
-/// Return is a double click; Ctrl+A highlights all; typing goes to the next row that begins so.
+/// Return is a double click; Alt+Down opens the column's menu; Ctrl+A highlights all; typing goes
+/// to the next row that begins so.
 class GridView : public QTableView, public ControlView
 {
 public:
@@ -55,7 +56,8 @@ private:
     const Actions& m_actions;
     GridModel& m_grid;
     GridTableModel* m_table;
-    bool m_columnsFitted = false;
+    bool m_isFitting = false;
+    bool m_hasOwnWidths = false; ///< The person has given the columns their widths.
 };
 
 } // namespace Tamrivo

@@ -68,8 +68,7 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
 
     m_tree->setFocus();
     const int line = fontMetrics().lineSpacing();
-    resize(76 * line, 38 * line);
-    RestorePlace(*this);
+    RestorePlace(*this, {76 * line, 38 * line});
 }
 
 ImportDialog::~ImportDialog()

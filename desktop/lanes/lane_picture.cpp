@@ -1,6 +1,7 @@
 #include "desktop/lanes/lane_picture.h"
 
 #include "core/error.h"
+#include "desktop/pictures/picture_role.h"
 #include "desktop/text.h"
 
 #include <QAccessible>
@@ -45,6 +46,7 @@ QSize RequireSaveable(QSize size)
 
 LanePicture::LanePicture(QWidget* parent) : QAbstractScrollArea(parent)
 {
+    MarkAsPicture(*this);
     setAccessibleName("Picture of the selected loci along the fragment length");
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);

@@ -11,11 +11,8 @@ namespace SafeColor
 {
 inline constexpr QColor Blue{0, 114, 178};
 inline constexpr QColor SkyBlue{86, 180, 233};
-inline constexpr QColor Green{0, 158, 115};
-inline constexpr QColor Yellow{240, 228, 66};
 inline constexpr QColor Orange{230, 159, 0};
 inline constexpr QColor Vermillion{213, 94, 0};
-inline constexpr QColor Purple{204, 121, 167};
 } // namespace SafeColor
 
 } // namespace Tamrivo

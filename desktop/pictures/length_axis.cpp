@@ -26,11 +26,6 @@ double RoundStep(double span, double most)
 
 } // namespace
 
-int LengthAxis::Height(const QPainter& painter)
-{
-    return painter.fontMetrics().height() + 6;
-}
-
 void LengthAxis::Draw(QPainter& painter, const QPalette& palette, double y, double top) const
 {
     const QFontMetrics font = painter.fontMetrics();

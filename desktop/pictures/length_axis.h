@@ -25,9 +25,6 @@ public:
     /// Draws the axis with numbers below `y`, and faint lines up to `top`.
     void Draw(QPainter& painter, const QPalette& palette, double y, double top) const;
 
-    /// Height of what `Draw` puts below `y`, in the painter's font.
-    static int Height(const QPainter& painter);
-
 private:
     double m_low;
     double m_high;

@@ -98,8 +98,7 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     connect(m_scope, &QComboBox::activated, this, [this] { m_actions.Run([this] { Load(); }); });
     FitRows();
     const int line = fontMetrics().lineSpacing();
-    resize(76 * line, 32 * line);
-    RestorePlace(*this);
+    RestorePlace(*this, {76 * line, 32 * line});
 }
 
 ReportsWindow::~ReportsWindow()
@@ -201,7 +200,10 @@ void ReportsWindow::Load()
     if (type != nullptr)
         report = ContextsOf(m_host, *type);
     if (m_parameter && m_scope->currentIndex() == 1)
+    {
         report = OnlyKeys(report, m_parameter->Tags);
+        report.Subject = "Analysis parameter " + m_parameter->Name;
+    }
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_model->Show(std::move(report));
     m_table->resizeColumnsToContents();
@@ -212,8 +214,7 @@ void ReportsWindow::Load()
 
 QString ReportsWindow::Heading() const
 {
-    const QString heading = ToQString(m_model->Shown().Heading());
-    return m_scope->currentIndex() == 1 ? ToQString(m_parameter->Name) + ", " + heading : heading;
+    return ToQString(m_model->Shown().Heading());
 }
 
 void ReportsWindow::ShowStatus(const QString& done)

@@ -54,8 +54,8 @@ public:
         layout->addWidget(filter);
         layout->addWidget(m_list, 1);
         layout->addWidget(buttons);
-        resize(64 * fontMetrics().averageCharWidth(), 24 * fontMetrics().lineSpacing());
-        RestorePlace(*this);
+        RestorePlace(*this,
+                     {64 * fontMetrics().averageCharWidth(), 24 * fontMetrics().lineSpacing()});
 
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -52,9 +51,7 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
     m_splitter->setChildrenCollapsible(false);
     setCentralWidget(m_splitter);
     statusBar();
-    const QSize wanted(fontMetrics().averageCharWidth() * 190, fontMetrics().lineSpacing() * 56);
-    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
-    RestorePlace(*this);
+    RestorePlace(*this, {fontMetrics().averageCharWidth() * 190, fontMetrics().lineSpacing() * 56});
     ShowState();
 }
 

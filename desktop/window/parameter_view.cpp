@@ -99,6 +99,8 @@ ParameterView::ParameterView(HostApplication& host, const Actions& actions, cons
     connect(&m_selectionChanged, &QTimer::timeout, this,
             [this] { m_actions.Run([this] { ShowSelection(); }); });
     Open();
+    // The lists are seen before the picture of very many loci is made.
+    m_selectionChanged.start();
 }
 
 ParameterView::~ParameterView()
@@ -116,7 +118,6 @@ void ParameterView::Open()
     m_form = new FormView(m_page->Selector(), m_actions, NewHostedView);
     static_cast<QScrollArea*>(m_splitter->widget(0))->setWidget(m_form);
     WatchSelection();
-    ShowSelection();
 }
 
 void ParameterView::WatchSelection()
@@ -159,6 +160,7 @@ void ParameterView::Save()
 void ParameterView::Revert()
 {
     Open();
+    ShowSelection();
 }
 
 void ParameterView::Reload()
@@ -168,6 +170,7 @@ void ParameterView::Reload()
     Open();
     if (wasChanged)
         Select({tags.begin(), tags.end()});
+    ShowSelection();
 }
 
 void ParameterView::Select(const std::set<std::string>& tags)

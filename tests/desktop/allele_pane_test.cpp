@@ -101,7 +101,16 @@ TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
         EXPECT_EQ(StateOf(1), BinState::Overlapping);
         EXPECT_GT(Pixels(SafeColor::Vermillion), 0);
 
-        EditCell(14, 3, "140");
+        auto& rangeEnd = Named<QLineEdit>(*m_view->window(), "txtFragEnd");
+        rangeEnd.selectAll();
+        Type(rangeEnd, "130");
+        EXPECT_EQ(StateOf(13), BinState::OutOfRange) << "the range as the page shows it";
+        rangeEnd.selectAll();
+        Type(rangeEnd, "136");
+        EXPECT_EQ(StateOf(13), BinState::InOrder);
+
+        EXPECT_EQ(StateOf(14), BinState::InOrder) << "136 nt, its bin up to 136.5";
+        EditCell(14, 1, "140");
         EXPECT_EQ(StateOf(14), BinState::OutOfRange);
         EXPECT_GT(Pixels(SafeColor::Orange), 0);
 
@@ -110,9 +119,9 @@ TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
         EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().contains("Row 3"); }, 1000));
 
         EditCell(0, 1, "137");
-        EXPECT_EQ(Cell(14, 1), "137") << "rows stand by size";
+        EXPECT_EQ(Cell(13, 1), "137") << "rows stand by size";
         QTest::qWait(20);
-        EXPECT_EQ(m_table->currentIndex().row(), 14) << "and the person stays with the row";
+        EXPECT_EQ(m_table->currentIndex().row(), 13) << "and the person stays with the row";
     });
 }
 
@@ -168,6 +177,8 @@ TEST_F(AllelePaneTest, ThePictureTellsAndSelectsTheRow)
             << QToolTip::text().toStdString();
         QTest::mouseClick(m_picture, Qt::LeftButton, Qt::NoModifier, place);
         EXPECT_EQ(m_table->currentIndex().row(), 5);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+        EXPECT_EQ(m_table->model()->rowCount(), 14);
     });
 }
 

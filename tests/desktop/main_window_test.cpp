@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTableView>
 
 #include <fstream>
@@ -188,13 +189,15 @@ TEST_F(MainWindowTest, ALocusIsPickedFromAListThatTypingNarrows)
             Type(Named(editor, "txtFragEnd"), "190");
             QTest::keyClick(&Named(editor, "txtFragEnd"), Qt::Key_Return);
         });
-        Type(Named(picker, "filter"), "th");
-        QTest::keyClick(&Named(picker, "filter"), Qt::Key_Return);
+        ASSERT_TRUE(picker.focusWidget());
+        Type(*picker.focusWidget(), "th");
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
     });
     AddAll();
     Trigger("editLocus");
     EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 3U)
         << "what wasn't saved of the selection is still there";
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "Stored TH01.");
     QTest::qWait(20);
     EXPECT_TRUE(m_window->isWindowModified());
 }
@@ -203,7 +206,10 @@ TEST_F(MainWindowTest, AFileThatIsNoStoreIsRefusedInWordsAndTheOpenOneStays)
 {
     const std::string path = m_directory.filePath("letter.sqlite").toStdString();
     std::ofstream(path) << "Dear colleague, this is no store of any kind at all.";
-    Answer("OK", "letter.sqlite");
+    OnModal([](QDialog& failure) {
+        EXPECT_TRUE(dynamic_cast<QMessageBox&>(failure).text().contains("letter.sqlite"));
+        QTest::keyClick(&failure, Qt::Key_Escape);
+    });
     EXPECT_FALSE(m_window->OpenStore(path));
     EXPECT_EQ(Open(), "Casework");
     AddAll();

@@ -111,7 +111,7 @@ TEST_F(ReportsWindowTest, ShowsAParametersLociInItsOrder)
         AddLocus(tag);
     m_window.ShowParameter("Casework", {"fga ", "TH01", "gone"});
     EXPECT_THAT(ShownTags(), ElementsAre("FGA", "TH01"));
-    EXPECT_THAT(Saved("loci.html"), HasSubstr("Casework, Locus: 2 loci"));
+    EXPECT_THAT(Saved("loci.html"), HasSubstr("Analysis parameter Casework: 2 loci"));
 
     m_window.show();
     QTest::keyClick(m_window.findChild<QComboBox*>("reportScope"), Qt::Key_Up);

@@ -5,6 +5,7 @@
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/hosted_views.h"
 #include "platform/framework/host_application.h"
+#include "platform/grid/grid_user.h"
 #include "selector/str_locus_tag_selector.h"
 
 #include <QApplication>
@@ -17,38 +18,82 @@ namespace
 
 constexpr int ManyLoci = 100'000;
 
+/// The windows of a program that nobody is to see, on a store of many loci.
+class Windows
+{
+public:
+    Windows()
+    {
+        if (!m_parameter)
+            m_parameter = m_host.Parameters().Create("Painted", TagLists::OneEmpty);
+    }
+
+    std::unique_ptr<STRLocusTagSelector> Open()
+    {
+        auto selector = std::make_unique<STRLocusTagSelector>(m_host);
+        selector->Initialize(m_parameter);
+        return selector;
+    }
+
+    std::unique_ptr<FormView> Show(STRLocusTagSelector& selector)
+    {
+        auto view = std::make_unique<FormView>(selector, m_frontEnd.UserActions(), NewHostedView);
+        view->resize(view->sizeHint());
+        view->show();
+        Paint();
+        return view;
+    }
+
+    static void Paint() { QCoreApplication::processEvents(); }
+
+private:
+    int m_count = 1;
+    char m_name[14] = "tamrivo_bench";
+    char* m_arguments[1] = {m_name};
+    QApplication m_application{(qputenv("QT_QPA_PLATFORM", "offscreen"), m_count), m_arguments};
+    DesktopFrontEnd m_frontEnd;
+    HostApplication m_host{StoreOfLoci(ManyLoci).Get(), m_frontEnd};
+    std::shared_ptr<StoredAnalysisParameter> m_parameter = m_host.Parameters().Find("Painted");
+};
+
 } // namespace
 
 double FirstPaint()
 {
-    // Nobody is to see the window.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    char name[] = "tamrivo_bench";
-    char* arguments[] = {name};
-    int count = 1;
-    const QApplication application(count, arguments);
+    Windows windows;
+    return RatioOf(
+        5,
+        [&] {
+            const auto selector = windows.Open();
+            windows.Show(*selector);
+        },
+        [&] { windows.Open(); });
+}
 
-    Store& store = StoreOfLoci(ManyLoci).Get();
-    DesktopFrontEnd frontEnd;
-    HostApplication host(store, frontEnd);
-    auto parameter = host.Parameters().Find("Painted");
-    if (!parameter)
-        parameter = host.Parameters().Create("Painted", TagLists::OneEmpty);
+double WindowSort()
+{
+    Windows windows;
+    const auto shown = windows.Open();
+    const auto view = windows.Show(*shown);
+    const auto hidden = windows.Open();
+    const auto sort = [](STRLocusTagSelector& selector) {
+        User::Click(selector.mnuDescending);
+        User::Click(selector.mnuAscending);
+        Windows::Paint();
+    };
+    return RatioOf(
+        5, [&] { sort(*shown); }, [&] { sort(*hidden); });
+}
 
-    const auto initialize = [&] {
-        STRLocusTagSelector selector(host);
-        selector.Initialize(parameter);
-    };
-    const auto paint = [&] {
-        STRLocusTagSelector selector(host);
-        selector.Initialize(parameter);
-        FormView view(selector, frontEnd.UserActions(), NewHostedView);
-        view.resize(view.sizeHint());
-        view.show();
-        QCoreApplication::processEvents();
-        view.repaint();
-    };
-    return RatioOf(5, paint, initialize);
+double WindowMove()
+{
+    Windows windows;
+    const auto selector = windows.Open();
+    const auto view = windows.Show(*selector);
+    return 1000 * FastestOf(100, [&] {
+               User::DoubleClick(selector->gridAvailable, 1);
+               Windows::Paint();
+           });
 }
 
 } // namespace Tamrivo::Bench

@@ -39,6 +39,8 @@ double GenerationClick();
 double GenerationByRows();
 
 double FirstPaint();
+double WindowSort();
+double WindowMove();
 
 /// All figures, in the order in which they are printed.
 inline constexpr Figure Figures[] = {
@@ -65,6 +67,8 @@ inline constexpr Figure Figures[] = {
     {"editor_generate_by_rows", "A row of 1,000 generated / a row of 250", 1.5, "",
      GenerationByRows},
     {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},
+    {"window_sort", "Sorting 100,000 rows in the window / without one", 1.3, "", WindowSort},
+    {"window_move", "Moving one row of 100,000 in the window", 16, "ms", WindowMove},
 };
 
 } // namespace Tamrivo::Bench

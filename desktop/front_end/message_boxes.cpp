@@ -47,9 +47,12 @@ void ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& pl
     box.setWindowTitle("Tamrivo");
     box.setIcon(QMessageBox::Critical);
     box.setTextFormat(Qt::PlainText);
-    box.setText(error.Description.empty()
-                    ? QString("Something went wrong, and what failed gives no reason.")
-                    : ToQString(error.Description));
+    QString text = error.Description.empty()
+                       ? QString("Something went wrong, and what failed gives no reason")
+                       : ToQString(error.Description);
+    if (!text.endsWith('.'))
+        text += '.';
+    box.setText(text);
     QString details = "Raised by: " + ToQString(error.Source) +
                       "\nNumber of the failure: " + QString::number(error.Number);
     if (!place.isEmpty())

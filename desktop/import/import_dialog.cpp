@@ -141,7 +141,7 @@ void ImportDialog::Preview(const QString& path)
     m_path = path;
     m_reading = ReadPanelFile(FromQString(path));
     m_preview->SetMarkers(m_reading.Markers);
-    m_source->setText(QString("%1: %2 markers in %3 panels")
+    m_source->setText(QString("%1 (markers: %2, panels: %3)")
                           .arg(Source())
                           .arg(m_reading.Markers.size())
                           .arg(m_preview->PanelCount()));

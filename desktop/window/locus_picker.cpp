@@ -4,6 +4,7 @@
 #include "desktop/long_work.h"
 #include "desktop/settings.h"
 #include "desktop/text.h"
+#include "platform/grid/sort_key.h"
 #include "platform/store/store.h"
 
 #include <QDialog>
@@ -16,6 +17,10 @@
 #include <QSortFilterProxyModel>
 #include <QStringListModel>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace Tamrivo
 {
@@ -105,11 +110,18 @@ private:
 QStringList CurrentTags(Store& store, QWidget* parent)
 {
     const LongWork work(store, "Reading the loci...", parent);
-    QStringList tags;
-    const auto loci = CurrentLoci(store.Manager(), "Name");
+    std::vector<std::pair<std::string, std::string>> tags; // With what the grids sort them by.
+    const auto loci = CurrentLoci(store.Manager(), "");
     for (const auto& member : loci->Members())
-        tags += ToQString(TrimRight(As<Locus>(member)->LocusTag()));
-    return tags;
+    {
+        const std::string tag = TrimRight(As<Locus>(member)->LocusTag());
+        tags.emplace_back(SortKey(ColumnKind::Tags, tag, false), tag);
+    }
+    std::ranges::sort(tags);
+    QStringList texts;
+    for (const auto& [key, tag] : tags)
+        texts += ToQString(tag);
+    return texts;
 }
 
 } // namespace

@@ -164,7 +164,9 @@ private:
             auto* alleles =
                 editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>();
             alleles->model()->setData(alleles->model()->index(2, 3), "96.2");
-            alleles->model()->setData(alleles->model()->index(12, 3), "150");
+            alleles->model()->setData(alleles->model()->index(12, 3), "140.5");
+            alleles->model()->setData(alleles->model()->index(12, 2), "139.5");
+            alleles->model()->setData(alleles->model()->index(12, 1), "140");
             auto* end = editor.findChild<QLineEdit*>("txtFragEnd");
             end->setFocus();
             Settle();

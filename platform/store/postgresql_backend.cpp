@@ -26,6 +26,9 @@ constexpr ErrorState ErrorStates[] = {
     {"28", StoreError::Unreachable},  {"3D", StoreError::Unreachable},
 };
 
+/// How long a server that doesn't answer is waited for, unless the address says.
+constexpr const char* ConnectTimeoutSeconds = "5";
+
 /// The address as the "keyword='value'" pairs that SOCI asks for.
 std::string ConnectionText(const std::string& address)
 {
@@ -42,10 +45,12 @@ std::string ConnectionText(const std::string& address)
     std::string text;
     for (const PQconninfoOption* option = options.get(); option->keyword; ++option)
     {
-        if (!option->val)
+        const bool isTimeout = std::string_view(option->keyword) == "connect_timeout";
+        const char* value = option->val ? option->val : isTimeout ? ConnectTimeoutSeconds : nullptr;
+        if (!value)
             continue;
         text.append(option->keyword).append("='");
-        for (const char* character = option->val; *character; ++character)
+        for (const char* character = value; *character; ++character)
         {
             if (*character == '\'' || *character == '\\')
                 text += '\\';

@@ -145,12 +145,12 @@ void MigrateSchema(Database& database, soci::session& session, std::span<const S
     if (version == steps.size())
         return;
     if (database.IsReadOnly())
-        throw Failure(StoreError::ReadOnly, "Store",
-                      "Nothing was opened: the store \"" + database.Name() +
-                          "\" has tables of version " + std::to_string(version) +
-                          " and is read-only. Make it writable, so that they can be brought to "
-                          "version " +
-                          std::to_string(steps.size()));
+        throw Failure(
+            StoreError::ReadOnly, "Store",
+            "Nothing was opened: the store \"" + database.Name() + "\" has " +
+                (version == 0 ? "no tables yet" : "tables of version " + std::to_string(version)) +
+                " and is read-only. Make it writable, so that they can be " +
+                (version == 0 ? "made" : "brought to version " + std::to_string(steps.size())));
 
     Transaction transaction(database);
     // Another program may have done it while this one waited for its turn.

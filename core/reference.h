@@ -25,7 +25,8 @@ public:
     T& operator*() const
     {
         if (!m_object)
-            throw Failure(ErrorNumber::NoObject, "Reference", "There is no object");
+            throw Failure(ErrorNumber::NoObject, "Reference",
+                          "What is needed here could not be loaded before; open the page anew");
         return *m_object;
     }
     T* operator->() const { return &**this; }

@@ -23,7 +23,7 @@ namespace Tamrivo
 namespace
 {
 
-/// A store's address as a person knows it; a server's address may hold a password.
+/// The last part of a store's address, which tells stores apart well enough in a title.
 QString StoreName(const std::string& address)
 {
     const QString text = ToQString(address);
@@ -93,10 +93,12 @@ bool MainWindow::OpenStore(const std::string& address)
     m_session.reset();
     m_session = std::move(opened);
     m_frontEnd.SetHost(&Host());
-    RememberStore(ToQString(address));
+    // A password must not end up among the settings.
+    if (Host().Store().Name() == address)
+        RememberStore(ToQString(address));
     ShowNames();
     Run([this] {
-        const std::string last = FromQString(LastParameter(ToQString(Host().Store().Address())));
+        const std::string last = FromQString(LastParameter(ToQString(Host().Store().Name())));
         if (!last.empty() && Host().Parameters().Find(last))
             ShowParameter(last);
     });
@@ -119,7 +121,7 @@ void MainWindow::ShowState()
     if (m_view != nullptr)
         title += ToQString(m_view->Name()) + "[*] – ";
     if (hasStore)
-        title += StoreName(Host().Store().Address()) + (mayWrite ? "" : " (read only)") + " – ";
+        title += StoreName(Host().Store().Name()) + (mayWrite ? "" : " (read only)") + " – ";
     setWindowTitle(title + "Tamrivo");
     setWindowModified(isChanged);
 

@@ -37,7 +37,7 @@ void MainWindow::ShowParameter(const std::string& name)
     m_view->onChanged = [this] { ShowState(); };
     m_pages->addWidget(m_view);
     m_list->ShowChosen(name);
-    RememberParameter(ToQString(Host().Store().Address()), ToQString(name));
+    RememberParameter(ToQString(Host().Store().Name()), ToQString(name));
     ShowState();
 }
 

@@ -54,7 +54,7 @@ std::string OwnWords(const std::string& message)
 } // namespace
 
 Database::Database(const std::string& address)
-    : m_address(address), m_name(AddressWithoutPassword(address)), m_backend(BackendFor(address))
+    : m_name(AddressWithoutPassword(address)), m_backend(BackendFor(address))
 {
     const std::string consequence = "Nothing was opened";
     try

@@ -21,7 +21,6 @@ public:
     /// Connects, makes the tables of a new store and brings older ones up to date.
     explicit Database(const std::string& address);
 
-    const std::string& Address() const { return m_address; }
     /// The address as messages show it.
     const std::string& Name() const { return m_name; }
     /// Goes up when a lost connection was made anew, whose prepared statements are gone.
@@ -71,7 +70,6 @@ private:
     [[noreturn]] void RaiseFailure(const std::string& consequence, std::int32_t number,
                                    const std::string& message) const;
 
-    std::string m_address;
     std::string m_name;
     std::unique_ptr<Backend> m_backend;
     soci::session m_session;

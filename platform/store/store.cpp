@@ -13,9 +13,9 @@ Store::Store(const std::string& address)
       m_managerGlobal(std::make_unique<StoreObjectManagerGlobal>(m_database))
 {}
 
-const std::string& Store::Address() const
+const std::string& Store::Name() const
 {
-    return m_database->Address();
+    return m_database->Name();
 }
 
 bool Store::IsReadOnly() const

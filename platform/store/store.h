@@ -31,7 +31,8 @@ public:
     /// date. A read-only file can be opened for reading.
     explicit Store(const std::string& address);
 
-    const std::string& Address() const;
+    /// The address as people may see it, without a password.
+    const std::string& Name() const;
     bool IsReadOnly() const;
 
     /// The shared object manager.

@@ -23,10 +23,11 @@ public:
     /// Shows how much is done. Raises `Cancelled` once the person has cancelled.
     void Show(std::size_t done, std::size_t total);
 
-private:
-    /// Lets the person see that the work goes on, and cancel it.
+    /// Lets the person see that the work goes on, and cancel it: raises `Cancelled`. The store asks
+    /// for it by itself.
     void GoOn();
 
+private:
     Store& m_store;
     QProgressDialog m_dialog;
     QElapsedTimer m_sinceShown;

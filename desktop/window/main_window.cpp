@@ -97,12 +97,12 @@ bool MainWindow::OpenStore(const std::string& address)
     if (Host().Store().Name() == address)
         RememberStore(ToQString(address));
     ShowNames();
+    ShowState();
     Run([this] {
         const std::string last = FromQString(LastParameter(ToQString(Host().Store().Name())));
         if (!last.empty() && Host().Parameters().Find(last))
             ShowParameter(last);
     });
-    ShowState();
     return true;
 }
 

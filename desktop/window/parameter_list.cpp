@@ -38,11 +38,13 @@ ParameterList::ParameterList(const QList<QAction*>& commands, QWidget* parent)
     layout->addWidget(m_names, 1);
     layout->addLayout(buttons);
 
-    connect(m_names, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (m_isShowing || row < 0 || !onChosen)
+    // The focus alone makes a row the current one, and chooses nothing.
+    connect(m_names, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto chosen = m_names->selectedItems();
+        if (m_isShowing || chosen.isEmpty() || !onChosen)
             return;
         // A question may follow, which must not come in the middle of a press of the mouse.
-        const std::string name = FromQString(m_names->item(row)->text());
+        const std::string name = FromQString(chosen.front()->text());
         QTimer::singleShot(0, this, [this, name] { onChosen(name); });
     });
 }

@@ -111,8 +111,10 @@ ParameterView::~ParameterView()
 
 void ParameterView::Open()
 {
-    const LongWork work(m_host.Store(), "Reading the loci...", this);
+    LongWork work(m_host.Store(), "Reading the loci...", this);
     auto page = std::make_unique<ParameterPage>(m_host, m_host.Parameters().Open(m_name));
+    // The selector fills its lists without the store.
+    work.GoOn();
     delete m_form;
     m_page = std::move(page);
     m_form = new FormView(m_page->Selector(), m_actions, NewHostedView);

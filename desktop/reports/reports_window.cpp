@@ -208,7 +208,8 @@ void ReportsWindow::Load()
     m_model->Show(std::move(report));
     m_table->resizeColumnsToContents();
     for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, m_table->columnWidth(column) + fontMetrics().averageCharWidth());
+        m_table->setColumnWidth(column, m_table->columnWidth(column) +
+                                            2 * fontMetrics().averageCharWidth());
     ShowStatus();
 }
 

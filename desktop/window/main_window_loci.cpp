@@ -39,7 +39,7 @@ std::optional<std::string> MainWindow::ChosenLocus(const QString& title)
 {
     if (m_view != nullptr)
     {
-        if (const auto tag = m_view->HighlightedTag())
+        if (auto tag = m_view->HighlightedTag())
             return tag;
     }
     return PickLocus(Host().Store(), title, this);

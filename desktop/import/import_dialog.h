@@ -34,7 +34,7 @@ public:
     /// the file can't be read, and failures of the store.
     void Preview(const QString& path);
 
-    /// What has come in, or empty while nothing has: "Imported 17 loci with 223 alleles "
+    /// What has come in, or empty while nothing has: "Imported 17 loci with 223 alleles."
     const QString& Result() const { return m_result; }
 
 private:

@@ -167,9 +167,9 @@ void TablePrinter::PrintRow(QPainter& painter, const std::vector<QString>& cells
     {
         const double width = m_widths[column] - gap * metrics.height();
         const bool isNumber = m_table.Columns[column].Kind == Table::Number;
-        painter.drawText(QRectF(left, top, width + 1, RowHeight()),
-                         (isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter |
-                             Qt::TextSingleLine,
+        const auto flags = static_cast<int>((isNumber ? Qt::AlignRight : Qt::AlignLeft) |
+                                            Qt::AlignVCenter | Qt::TextSingleLine);
+        painter.drawText(QRectF(left, top, width + 1, RowHeight()), flags,
                          metrics.elidedText(cells[column], Qt::ElideRight, width + 1));
         left += m_widths[column];
     }

@@ -19,7 +19,7 @@ std::vector<std::string> ResultOf(const ImportPlan& plan, const std::string& sou
     if (plan.Loci.empty())
         sentences.push_back("Nothing to import: " + source + " has no markers.");
     else if (added == 0 && present == 0)
-        sentences.push_back("Nothing was imported.");
+        sentences.emplace_back("Nothing was imported.");
     else if (added == 0)
         sentences.push_back("Nothing to import: the store has " + CountOfLoci(present) +
                             " of this table already and is unchanged.");

@@ -56,7 +56,7 @@ TEST_F(WizardSessionTest, AsksAPageThatChangedWhileItWasInitializedOnceItStands)
     m_onInitialize = [this] {
         m_base->PageChanged();
         m_base->PageChanged();
-        m_events.push_back("filled");
+        m_events.emplace_back("filled");
     };
     m_isValid = false;
     m_session.Initialize();
@@ -68,7 +68,9 @@ TEST_F(WizardSessionTest, AsksAPageThatChangedWhileItWasInitializedOnceItStands)
 TEST_F(WizardSessionTest, AnswersAChangeAtOnce)
 {
     m_session.Initialize();
-    m_session.Validated = [this] { m_events.push_back(m_session.IsValid() ? "valid" : "invalid"); };
+    m_session.Validated = [this] {
+        m_events.emplace_back(m_session.IsValid() ? "valid" : "invalid");
+    };
     m_isValid = false;
     m_base->PageChanged();
     m_isValid = true;

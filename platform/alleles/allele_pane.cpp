@@ -143,11 +143,17 @@ void AllelePane::PasteCells(std::int32_t row, std::size_t column,
     RequireLocus();
     Change change;
     AlleleRows last = m_rows;
+    const std::size_t room = std::size(AlleleColumns) - column;
     for (const auto& line : cells)
     {
+        if (line.size() > room)
+            throw User::Refusal("A line of " + std::to_string(line.size()) +
+                                " cells doesn't fit from the column \"" +
+                                std::string(AlleleColumns[column].Title) +
+                                "\" on; nothing was pasted. Start further left");
         const bool isNew = row > std::ssize(m_rows);
         AlleleFields fields = isNew ? NextFields(last) : AlleleFields(*RowAt(row));
-        for (std::size_t i = 0; i < line.size() && column + i < std::size(AlleleColumns); ++i)
+        for (std::size_t i = 0; i < line.size(); ++i)
             SetCell(fields, row, AlleleColumns[column + i], line[i]);
         fields.AlleleInt1 = AlleleOrigin::Edited;
         if (!isNew)

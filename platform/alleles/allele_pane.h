@@ -54,8 +54,8 @@ public:
     /// Removes several rows in one step; a row may be named twice.
     void RemoveRows(const std::vector<std::int32_t>& rows);
     /// Enters a block of cells in one step, from a row and a column on (0-based, among
-    /// `AlleleColumns`). Rows that the list doesn't have yet are added, as by `AddRow`, and what
-    /// lies right of the last column is left out. Nothing is entered when a cell can't be.
+    /// `AlleleColumns`). Rows that the list doesn't have yet are added, as by `AddRow`. Nothing
+    /// is entered when a cell can't be, or a line reaches past the last column.
     void PasteCells(std::int32_t row, std::size_t column,
                     const std::vector<std::vector<std::string>>& cells);
     /// Gives a cell another value. Gives the number of the row, which a new size may have moved.

@@ -152,12 +152,13 @@ TEST_F(AllelePaneTest, AddsAndRemovesRows)
 TEST_F(AllelePaneTest, ABlockOfCellsOrRowsIsOneStep)
 {
     Pane->SetLocus(Locus);
-    const std::vector<List> cells{{"10.2", "70", "69", "71"}, {"11", "72", "71.5", "72.5", "over"}};
+    const std::vector<List> cells{{"10.2", "70", "69", "71"}, {"11", "72", "71.5", "72.5"}};
     User::PasteAlleles(Form.Alleles, 3, 0, cells);
     EXPECT_EQ(Names(), (List{"8", "9", "10.2", "11"}));
     EXPECT_EQ(Pane->Rows()[2]->AlleleInt1, AlleleOrigin::Edited);
     EXPECT_EQ(TakeEvents(), (List{"list"}));
     EXPECT_THROW(User::PasteAlleles(Form.Alleles, 4, 1, {{"80"}, {"x"}}), User::Refusal);
+    EXPECT_THROW(User::PasteAlleles(Form.Alleles, 4, 2, {{"80", "81", "82"}}), User::Refusal);
     EXPECT_EQ(Pane->Rows()[3]->AlleleReal1, 72) << "nothing is entered when a cell can't be";
 
     User::RemoveAlleles(Form.Alleles, {1, 4, 1});

@@ -1,7 +1,10 @@
 #include "console/commands/command.h"
+#include "console/commands/progress_line.h"
 #include "platform/panels/counts.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
+
+#include <unistd.h>
 
 namespace Tamrivo
 {
@@ -12,13 +15,18 @@ namespace
 void Export(Context& context, const std::string& file)
 {
     Store store(context.StoreLocation);
+    ProgressLine progress(context.Err);
     const auto loci = CurrentLoci(store.Manager(), "");
     if (file.empty())
     {
-        WritePanelTable(context.Out, loci->Members());
+        // On a terminal the table itself shows how far it is.
+        WritePanelTable(context.Out, loci->Members(),
+                        isatty(STDOUT_FILENO) == 1 ? LociProgress()
+                                                   : progress.Counting("Exporting"));
         return;
     }
-    WritePanelFile(file, loci->Members());
+    WritePanelFile(file, loci->Members(), progress.Counting("Exporting"));
+    progress.Clear();
     context.Out << "Exported " << CountOfLoci(loci->Members().size()) << " to " << file << ".\n";
 }
 

@@ -1,14 +1,12 @@
 #include "platform/panels/import.h"
 
 #include "console/commands/command.h"
+#include "console/commands/progress_line.h"
 #include "platform/panels/counts.h"
 #include "platform/panels/import_result.h"
 #include "platform/panels/panel_file.h"
 #include "platform/store/store.h"
 
-#include <unistd.h>
-
-#include <chrono>
 #include <memory>
 
 namespace Tamrivo
@@ -22,49 +20,6 @@ struct Options
     std::string File;
     ImportChoice Choice;
     bool Partial = false;
-};
-
-/// A line on the terminal that counts the loci of a long import.
-class ProgressLine
-{
-public:
-    explicit ProgressLine(std::ostream& err) : m_err(err) {}
-    ~ProgressLine() { Clear(); }
-
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-
-    /// Shows "WHAT: 3 of 7 loci".
-    ImportProgress Counting(const char* what)
-    {
-        return [this, what](std::size_t done, std::size_t total) { Show(what, done, total); };
-    }
-
-    void Clear()
-    {
-        if (m_isShown)
-            m_err << eraseLine << std::flush;
-        m_isShown = false;
-    }
-
-private:
-    static constexpr const char* eraseLine = "\r\x1B[K";
-
-    void Show(const char* what, std::size_t done, std::size_t total)
-    {
-        const auto now = std::chrono::steady_clock::now();
-        if (!m_isTerminal || now < m_next)
-            return;
-        m_next = now + std::chrono::milliseconds(200);
-        m_isShown = true;
-        m_err << eraseLine << what << ": " << done << " of " << total << " loci" << std::flush;
-    }
-
-    std::ostream& m_err;
-    bool m_isTerminal = isatty(STDERR_FILENO) == 1;
-    bool m_isShown = false;
-    std::chrono::steady_clock::time_point m_next =
-        std::chrono::steady_clock::now() + std::chrono::seconds(1);
 };
 
 /// Prints what is wrong with the table. Gives whether anything is.

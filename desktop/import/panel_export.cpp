@@ -26,13 +26,8 @@ QString ExportPanelTable(Store& store, const Actions& actions, QWidget* parent)
         LongWork work(store, "Exporting the loci...", parent);
         const auto loci = CurrentLoci(store.Manager(), "");
         const auto& members = loci->Members();
-        // Reading the alleles is what takes its time.
-        for (std::size_t read = 0; read < members.size(); ++read)
-        {
-            As<Locus>(members[read])->Alleles();
-            work.Show(read + 1, members.size());
-        }
-        WritePanelFile(FromQString(path), members);
+        WritePanelFile(FromQString(path), members,
+                       [&](std::size_t done, std::size_t total) { work.Show(done, total); });
         result = ToQString("Exported " + CountOfLoci(members.size()) + " to ") +
                  QDir::toNativeSeparators(path) + ".";
     });

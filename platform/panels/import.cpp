@@ -50,7 +50,7 @@ private:
 
 } // namespace
 
-void CarryOutImport(const ImportPlan& plan, Store& store, const ImportProgress& progress)
+void CarryOutImport(const ImportPlan& plan, Store& store, const LociProgress& progress)
 {
     const std::size_t total = plan.Count(ImportFate::New);
     if (total == 0)

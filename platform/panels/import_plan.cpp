@@ -99,7 +99,7 @@ public:
         : m_choice(choice), m_store(store), m_storedKeys(store.TagKeys())
     {}
 
-    ImportPlan Plan(const std::vector<PanelMarker>& markers, const ImportProgress& progress)
+    ImportPlan Plan(const std::vector<PanelMarker>& markers, const LociProgress& progress)
     {
         RequirePanels(markers);
         std::vector<const PanelMarker*> chosen;
@@ -266,7 +266,7 @@ std::size_t ImportPlan::NewAlleles() const
 }
 
 ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
-                      Store& store, const ImportProgress& progress)
+                      Store& store, const LociProgress& progress)
 {
     return Planner(choice, store).Plan(markers, progress);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/panels/panel_table.h"
+#include "platform/panels/progress.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,9 +11,6 @@ namespace Tamrivo
 {
 
 class Store;
-
-/// Told how many of the loci are done, and how many there are.
-using ImportProgress = std::function<void(std::size_t done, std::size_t total)>;
 
 /// What of a table comes in, and where to.
 struct ImportChoice
@@ -70,6 +67,6 @@ struct ImportPlan
 /// Raises `ErrorNumber::InvalidArgument` for a chosen panel that isn't among the markers, and
 /// failures of the store.
 ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
-                      Store& store, const ImportProgress& progress = {});
+                      Store& store, const LociProgress& progress = {});
 
 } // namespace Tamrivo

@@ -23,12 +23,12 @@ namespace
 }
 
 void Write(const std::string& path, const std::filesystem::path& target,
-           std::span<const std::shared_ptr<BusinessObject>> loci)
+           std::span<const std::shared_ptr<BusinessObject>> loci, const LociProgress& progress)
 {
     errno = 0;
     std::ofstream file(target, std::ios::binary);
     if (file)
-        WritePanelTable(file, loci);
+        WritePanelTable(file, loci, progress);
     file.close();
     if (!file)
         Refuse(path, "written", errno);
@@ -53,21 +53,22 @@ PanelReading ReadPanelFile(const std::string& path)
     return ReadPanelTable(text);
 }
 
-void WritePanelFile(const std::string& path, std::span<const std::shared_ptr<BusinessObject>> loci)
+void WritePanelFile(const std::string& path, std::span<const std::shared_ptr<BusinessObject>> loci,
+                    const LociProgress& progress)
 {
     namespace fs = std::filesystem;
     std::error_code error;
     const fs::path target = fs::exists(path, error) ? fs::canonical(path) : fs::path(path);
     if (fs::exists(target, error) && !fs::is_regular_file(target, error))
     {
-        Write(path, target, loci);
+        Write(path, target, loci, progress);
         return;
     }
     fs::path part = target;
     part += ".part";
     try
     {
-        Write(path, part, loci);
+        Write(path, part, loci, progress);
         fs::rename(part, target, error);
         if (error)
             Refuse(path, "written", error.value());

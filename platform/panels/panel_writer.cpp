@@ -116,11 +116,16 @@ private:
 
 } // namespace
 
-void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<BusinessObject>> loci)
+void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<BusinessObject>> loci,
+                     const LociProgress& progress)
 {
     Writer writer(out);
-    for (const auto& member : loci)
-        writer.Write(*As<Locus>(member));
+    for (std::size_t done = 0; done < loci.size(); ++done)
+    {
+        if (progress)
+            progress(done, loci.size());
+        writer.Write(*As<Locus>(loci[done]));
+    }
 }
 
 } // namespace Tamrivo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contracts/locus.h"
+#include "platform/panels/progress.h"
 
 #include <memory>
 #include <ostream>
@@ -12,6 +13,7 @@ namespace Tamrivo
 /// Writes loci as a panel table, in their order. Besides the exchanged columns the table has this
 /// program's own, so that an import gives loci with the same fields and alleles; only `LocusID`,
 /// `ProjectID` and the date are left out. May raise a failure of the store when alleles are loaded.
-void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<BusinessObject>> loci);
+void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<BusinessObject>> loci,
+                     const LociProgress& progress = {});
 
 } // namespace Tamrivo

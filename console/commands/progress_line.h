@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/panels/progress.h"
+
+#include <chrono>
+#include <cstddef>
+#include <ostream>
+
+namespace Tamrivo
+{
+
+/// A line on the terminal that counts the loci of work that takes longer than a second. It goes
+/// when the work is done. Where standard error is no terminal there is none.
+class ProgressLine
+{
+public:
+    explicit ProgressLine(std::ostream& err);
+    ~ProgressLine() { Clear(); }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    /// Shows "WHAT: 3 of 7 loci".
+    LociProgress Counting(const char* what);
+    void Clear();
+
+private:
+    void Show(const char* what, std::size_t done, std::size_t total);
+
+    std::ostream& m_err;
+    bool m_isTerminal;
+    bool m_isShown = false;
+    std::chrono::steady_clock::time_point m_next;
+};
+
+} // namespace Tamrivo

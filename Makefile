@@ -2,43 +2,53 @@
 
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
-.PHONY: help run test build bench lint sanitize screenshots clean packages programs configure
+.PHONY: help run test build bench lint sanitize shuffle fuzz screenshots clean
 
 help:                ## this list
 	@sed -n 's/^\([a-z]*\):.*## /    make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
 
-run: programs        ## open the program on the default store, or on $TAMRIVO_STORE
+run:                 ## open the program on the default store, or on $TAMRIVO_STORE
+	@scripts/install-packages run
+	cmake --preset programs
+	cmake --build --preset programs
 	@scripts/run
 
 test: build          ## build everything and run the tests
 	ctest --preset default
 
-build: configure     ## build everything into build/
+shuffle: build       ## run every test program three times in a random order
+	scripts/shuffle
+
+build:               ## build everything into build/
+	@scripts/install-packages run test
+	cmake --preset default
 	cmake --build --preset default
 
-bench: configure     ## measure, one line a figure
-	cmake --build --preset default --target tamrivo_bench
+bench:               ## measure, one line a figure
+	@scripts/install-packages run
+	cmake --preset programs
+	cmake --build --preset programs --target tamrivo_bench
 	build/bin/tamrivo_bench
 
-lint: build          ## check formatting and run the static analysis
+lint:                ## check formatting and run the static analysis
+	@scripts/install-packages run test lint
+	cmake --preset default
 	scripts/lint
 
-sanitize: packages   ## run the tests under the address and undefined behaviour sanitizers
+sanitize:            ## run the tests under the address and undefined behaviour sanitizers
+	@scripts/install-packages run test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
 	ctest --preset sanitize
+
+fuzz:                ## build a program a reader that feeds it bytes of any kind (clang)
+	@scripts/install-packages run lint
+	cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ \
+		-DBUILD_TESTING=OFF -DTAMRIVO_FUZZ=ON
+	cmake --build build/fuzz --target fuzz
 
 screenshots: build   ## draw every window of the desktop program into docs/images/
 	QT_QPA_PLATFORM=offscreen build/bin/tamrivo_screenshots examples/sample_loci.tsv docs/images
 
 clean:               ## remove everything built
 	rm -rf build
-
-programs: configure
-	cmake --build --preset default --target programs
-
-configure: packages
-	cmake --preset default
-
-packages:
-	@scripts/install-packages

@@ -4,8 +4,8 @@
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/hosted_views.h"
-#include "platform/framework/host_application.h"
-#include "platform/grid/grid_user.h"
+#include "host/framework/host_application.h"
+#include "host/grid/grid_user.h"
 #include "selector/str_locus_tag_selector.h"
 
 #include <QApplication>
@@ -15,8 +15,6 @@ namespace Tamrivo::Bench
 
 namespace
 {
-
-constexpr int ManyLoci = 100'000;
 
 /// The windows of a program that nobody is to see, on a store of many loci.
 class Windows

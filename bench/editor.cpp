@@ -3,9 +3,9 @@
 #include "bench/timing.h"
 #include "controls/user.h"
 #include "editor/locus_editor_page.h"
-#include "platform/framework/front_end.h"
-#include "platform/framework/host_application.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/front_end.h"
+#include "host/framework/host_application.h"
+#include "host/framework/wizard_session.h"
 #include "tests/fakes/fake_host.h"
 
 #include <functional>

@@ -25,6 +25,12 @@ double AlleleGeneration();
 
 double ImportOfPanels();
 
+double ReadingOfLibrary();
+double SearchAgainstScan();
+double SearchMilliseconds();
+double CheckOfLoci();
+double CheckByLoci();
+
 double SelectorInitialize();
 double SelectorSort();
 double SelectorAddAll();
@@ -46,11 +52,18 @@ double WindowMove();
 inline constexpr Figure Figures[] = {
     {"query", "CurrentLoci of 100,000 loci / bare scan of the same columns", 2, "", QueryOfLoci},
     {"query_by_name", "CurrentLoci of 100,000 loci by name / bare scan", 2, "", QueryOfLociByName},
-    {"save", "Save of a locus with 30 alleles / bare transaction", 1.5, "", SaveOfLocus},
+    {"save", "Save of a locus with 30 alleles, with history / bare transaction", 1.6, "",
+     SaveOfLocus},
     {"lookup", "Looking up a tag, 100,000 loci / 100 loci", 2, "", LookupOfTag},
     {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
     {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
     {"import", "Import of 100,000 alleles / bare inserts", 3, "", ImportOfPanels},
+    {"library", "Reading the library of 100,000 loci / CurrentLoci", 1, "", ReadingOfLibrary},
+    {"search", "A search of two words and two terms, 100,000 loci / a scan", 3, "",
+     SearchAgainstScan},
+    {"search_time", "The same", 30, "ms", SearchMilliseconds},
+    {"check", "Checking 100,000 loci with 15 alleles each / reading them", 3, "", CheckOfLoci},
+    {"check_by_loci", "Checking 10,000 to 100,000 loci / n log n", 1, "", CheckByLoci},
     {"selector_open", "Selector over 100,000 loci / their query by name", 2, "",
      SelectorInitialize},
     {"selector_sort", "Sorting the grid, 1,000 to 100,000 loci / n log n", 1, "", SelectorSort},

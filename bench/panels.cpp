@@ -2,9 +2,9 @@
 #include "bench/figures.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
-#include "platform/panels/import.h"
-#include "platform/panels/panel_reader.h"
-#include "platform/store/locus_row.h"
+#include "host/panels/import.h"
+#include "host/panels/table/panel_reader.h"
+#include "host/store/locus_row.h"
 
 namespace Tamrivo::Bench
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contracts/locus.h"
-#include "platform/store/store.h"
+#include "host/store/store.h"
 
 #include <filesystem>
 #include <memory>
@@ -9,6 +9,9 @@
 
 namespace Tamrivo::Bench
 {
+
+/// How many loci a large store has.
+constexpr int ManyLoci = 100'000;
 
 /// A store in a directory of its own, which goes away with it.
 class TemporaryStore

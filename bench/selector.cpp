@@ -1,9 +1,9 @@
 #include "bench/figures.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
-#include "platform/framework/front_end.h"
-#include "platform/framework/host_application.h"
-#include "platform/grid/grid_user.h"
+#include "host/framework/front_end.h"
+#include "host/framework/host_application.h"
+#include "host/grid/grid_user.h"
 #include "selector/str_locus_tag_selector.h"
 
 #include <cmath>
@@ -17,8 +17,7 @@ namespace Tamrivo::Bench
 namespace
 {
 
-constexpr int ManyLoci = 100'000;
-constexpr int FewLoci = 1'000;
+constexpr int FewRows = 1'000;
 
 /// Nobody sits in front of it.
 class NoFrontEnd : public FrontEnd
@@ -92,7 +91,7 @@ double Growth(const std::function<void(OpenSelector&)>& prepare,
         return fastest;
     };
     const auto steps = [](double count) { return count * std::log(count); };
-    return seconds(ManyLoci, 5) / seconds(FewLoci, 50) * steps(FewLoci) / steps(ManyLoci);
+    return seconds(ManyLoci, 5) / seconds(FewRows, 50) * steps(FewRows) / steps(ManyLoci);
 }
 
 } // namespace

@@ -35,6 +35,13 @@ if(TAMRIVO_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+option(TAMRIVO_FUZZ "Build the readers' fuzzing targets; takes clang" OFF)
+if(TAMRIVO_FUZZ)
+    # SOCI hides the type information that the check of virtual tables would ask for.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

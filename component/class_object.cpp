@@ -11,7 +11,7 @@ namespace
 {
 
 /// The result code of the exception being handled, which no caller of an interface may see.
-HRESULT Failed(const CreatableClass& created, Host& host)
+HRESULT Failed()
 {
     try
     {
@@ -21,11 +21,15 @@ HRESULT Failed(const CreatableClass& created, Host& host)
     {
         return E_OUTOFMEMORY;
     }
+    catch (const std::exception&)
+    {
+        TheModule().LastFailure = CurrentError();
+        return E_FAIL;
+    }
     catch (...)
     {
-        host.SharedUtility().ReportError(ApplicationTitle, created.Name, "CreateInstance",
-                                         CurrentError(), "", true);
-        return E_FAIL;
+        // What carries no error record is the host's word that the person has cancelled.
+        return E_ABORT;
     }
 }
 
@@ -51,7 +55,7 @@ HRESULT STDMETHODCALLTYPE ClassObject::CreateInstance(IUnknown* pUnkOuter, REFII
     }
     catch (...)
     {
-        return Failed(m_created, *host);
+        return Failed();
     }
 }
 
@@ -71,6 +75,15 @@ HRESULT STDMETHODCALLTYPE ClassObject::SetTextLocale(const std::locale& locale)
 {
     Tamrivo::SetTextLocale(locale);
     return S_OK;
+}
+
+HRESULT STDMETHODCALLTYPE ClassObject::GetLastFailure(ErrorRecord* failure)
+{
+    if (!failure)
+        return E_POINTER;
+    const auto& last = TheModule().LastFailure;
+    *failure = last.value_or(ErrorRecord());
+    return last ? S_OK : S_FALSE;
 }
 
 } // namespace Tamrivo

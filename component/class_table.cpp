@@ -41,9 +41,10 @@ public:
     {
         return m_selector.NumberOfSelectedLocusTags();
     }
-    Collection<std::shared_ptr<Locus>> SelectedLocusTags() const override
+    void AddSelectedLocusTags(Collection<std::shared_ptr<Locus>>& loci) const override
     {
-        return m_selector.SelectedLocusTags();
+        for (const auto& locus : m_selector.SelectedLocusTags())
+            loci.Add(locus);
     }
     void Initialize(const std::shared_ptr<AnalysisParameter>& oAnalysisParameter) override
     {
@@ -73,16 +74,16 @@ constexpr auto CreatePage = &Create<UsablePage<Page>, IPageAccess, UserControl, 
 // clang-format off
 const CreatableClass Table[] = {
     {"Tamrivo.Service",
-     {0x51496F5B, 0x0C08, 0x4A20, {0xBC, 0x03, 0xE2, 0x4D, 0x68, 0x5B, 0x0C, 0xFD}},
+     ClassId::Service,
      &Create<Service, IServiceAccess>},
     {"Tamrivo.LocusEditorPage",
-     {0x745EFFE3, 0xDF40, 0x4AF9, {0xB2, 0xF8, 0x04, 0x96, 0xE4, 0xFE, 0x09, 0x99}},
+     ClassId::LocusEditorPage,
      CreatePage<LocusEditorPage>},
     {"Tamrivo.STRLocusTagSelector",
-     {0x1116FB84, 0xAEF4, 0x41FE, {0x80, 0xA9, 0xB5, 0x8C, 0x8C, 0x6C, 0xDA, 0xD4}},
+     ClassId::STRLocusTagSelector,
      &Create<UsableSelector, ILocusTagSelector, UserControl, User::FormUser>},
     {"Tamrivo.SaveAsLocusPage",
-     {0x4A0CF6AC, 0xD32B, 0x4E9D, {0xBD, 0x92, 0x15, 0x6D, 0x6D, 0x31, 0x1D, 0x8F}},
+     ClassId::SaveAsLocusPage,
      CreatePage<SaveAsLocusPage>},
 };
 // clang-format on

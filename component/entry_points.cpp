@@ -2,7 +2,6 @@
 #include "component/registration.h"
 
 #include <algorithm>
-#include <iostream>
 #include <new>
 
 using namespace Tamrivo;
@@ -18,10 +17,9 @@ HRESULT ResultOf(Action action)
         action();
         return S_OK;
     }
-    catch (const std::exception& failure)
+    catch (const std::exception&)
     {
-        // There is no host to tell, and the result code alone would leave a person guessing.
-        std::cerr << "Tamrivo: " << failure.what() << '\n';
+        TheModule().LastFailure = CurrentError();
         return SELFREG_E_CLASS;
     }
 }

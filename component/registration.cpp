@@ -22,7 +22,7 @@ Lines ReadLines(const std::filesystem::path& path)
     Lines lines;
     std::ifstream file(path);
     if (!file && std::filesystem::exists(path))
-        throw std::runtime_error(path.string() + " can't be read");
+        throw std::runtime_error(Registry::PathText(path) + " can't be read");
     for (std::string line; std::getline(file, line);)
         lines.push_back(line);
     return lines;
@@ -38,7 +38,7 @@ void WriteLines(const std::filesystem::path& path, const Lines& lines)
         file << line << '\n';
     file.close();
     if (!file)
-        throw std::runtime_error(temporary.string() + " can't be written");
+        throw std::runtime_error(Registry::PathText(temporary) + " can't be written");
     std::filesystem::rename(temporary, path);
 }
 
@@ -64,7 +64,7 @@ void Rewrite(IsOwn isOwn, const Lines& entries)
 bool HasOurName(const Registry::Entry& entry)
 {
     return std::ranges::any_of(CreatableClasses(), [&](const CreatableClass& created) {
-        return created.Name == entry.Name;
+        return EqualNoCase(created.Name, entry.Name);
     });
 }
 
@@ -72,7 +72,7 @@ bool HasOurName(const Registry::Entry& entry)
 
 void RegisterClasses()
 {
-    const std::string path = ModulePath().string();
+    const std::string path = Registry::PathText(ModulePath());
     if (path.find_first_of("\n\t") != std::string::npos)
         throw std::runtime_error(
             "A module can't be registered under a path with tabs or line ends");
@@ -84,7 +84,7 @@ void RegisterClasses()
 
 void UnregisterClasses()
 {
-    const std::string path = ModulePath().string();
+    const std::filesystem::path& path = ModulePath();
     Rewrite(
         [&](const Registry::Entry& entry) { return HasOurName(entry) && entry.ModulePath == path; },
         {});

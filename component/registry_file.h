@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/text.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -9,7 +11,8 @@
 
 /// The file that tells programs where the classes are that they create by name: in the user's data
 /// directory, a line a class, of name, class identifier in braces and the module's full path,
-/// separated by tabs. In this header alone, for programs that link nothing of the library.
+/// separated by tabs, in UTF-8. In this header alone, for programs that link nothing of the
+/// library.
 namespace Tamrivo::Registry
 {
 
@@ -17,20 +20,28 @@ struct Entry
 {
     std::string Name;
     std::string ClassId;
-    std::string ModulePath;
+    std::filesystem::path ModulePath;
 };
+
+/// A path as the file has it, whatever the platform's own encoding is.
+inline std::string PathText(const std::filesystem::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
 
 /// "tamrivo/classes.tsv" in `XDG_DATA_HOME`, else in "~/.local/share"; under Windows in
 /// `LOCALAPPDATA`. Empty when the environment names no such directory.
 inline std::filesystem::path Path()
 {
+#ifdef _WIN32
+    const wchar_t* const value = _wgetenv(L"LOCALAPPDATA");
+    const std::filesystem::path data = value ? value : L"";
+#else
     const auto variable = [](const char* name) {
         const char* const value = std::getenv(name);
         return std::filesystem::path(value ? value : "");
     };
-#ifdef _WIN32
-    std::filesystem::path data = variable("LOCALAPPDATA");
-#else
     std::filesystem::path data = variable("XDG_DATA_HOME");
     if (!data.is_absolute())
         data = variable("HOME") / ".local" / "share";
@@ -47,16 +58,16 @@ inline std::optional<Entry> Parse(std::string_view line)
         return std::nullopt;
     return Entry{std::string(line.substr(0, first)),
                  std::string(line.substr(first + 1, second - first - 1)),
-                 std::string(line.substr(second + 1))};
+                 std::u8string(line.begin() + static_cast<std::ptrdiff_t>(second) + 1, line.end())};
 }
 
-/// The entry of a class; none when it isn't registered.
+/// The entry of a class, by its name without minding case; none when it isn't registered.
 inline std::optional<Entry> Find(std::string_view className)
 {
     std::ifstream file(Path());
     for (std::string line; std::getline(file, line);)
     {
-        if (auto entry = Parse(line); entry && entry->Name == className)
+        if (auto entry = Parse(line); entry && EqualNoCase(entry->Name, className))
             return entry;
     }
     return std::nullopt;

@@ -1,5 +1,5 @@
 #include "console/program.h"
-#include "platform/framework/environment.h"
+#include "host/framework/environment.h"
 
 #include <iostream>
 

@@ -1,8 +1,9 @@
 #include "console/program.h"
 
 #include "console/commands/command.h"
+#include "console/commands/definition_commands.h"
 #include "core/error.h"
-#include "platform/store/address.h"
+#include "host/database/address.h"
 
 #include <algorithm>
 
@@ -13,8 +14,12 @@ namespace
 {
 
 constexpr void (*commands[])(CLI::App&, Context&) = {
-    AddListCommand,   AddShowCommand,   AddImportCommand, AddExportCommand,
-    AddDeleteCommand, AddReportCommand, AddShellCommand,
+    AddListCommand,       AddShowCommand,     AddImportCommand,  AddExportCommand,
+    AddCheckCommand,      AddFitCommand,      AddRenameCommand,  AddDuplicateCommand,
+    AddSetCommand,        AddDeleteCommand,   AddReportCommand,  AddDyesCommand,
+    AddHistoryCommand,    AddDiffCommand,     AddRestoreCommand, AddSettingsCommand,
+    AddParametersCommand, AddProjectsCommand, AddBackupCommand,  AddCopyCommand,
+    AddShellCommand,
 };
 
 void AddStoreOption(CLI::App& app, Context& context)
@@ -36,10 +41,27 @@ CLI::App& AddCommand(CLI::App& program, Context& context, const std::string& nam
     return command;
 }
 
+CLI::Option& AddAtOption(CLI::App& command, std::string& at, const std::string& description)
+{
+    return *command
+                .add_option("--at", at,
+                            description + ": a revision, or a date and time in UTC such as "
+                                          "2026-11-23 or 2026-11-23T08:15")
+                ->type_name("WHEN|REVISION");
+}
+
+void AddReasonOption(CLI::App& command, Context& context)
+{
+    command
+        .add_option("--reason", context.Reason,
+                    "Why this is done, for the history; a store may ask for it")
+        ->type_name("TEXT");
+}
+
 int RunProgram(std::vector<std::string> arguments, std::istream& in, std::ostream& out,
                std::ostream& err)
 {
-    Context context{in, out, err, DefaultStoreAddress()};
+    Context context{in, out, err, DefaultStoreAddress(), {}};
     CLI::App program("Defines STR loci and chooses those that an analysis uses.", "tamrivo");
     program.set_version_flag("--version", "tamrivo " TAMRIVO_VERSION);
     program.require_subcommand(0, 1);

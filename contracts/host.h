@@ -23,7 +23,8 @@ class Screen;
 /// interface, hands it to each object that it creates, and outlives them all.
 ///
 /// Shared objects are created on first use and live as long as the host; New ones belong to the
-/// caller.
+/// caller. Where a host gives null for an object that is needed, the procedure that needs it fails
+/// with `ErrorNumber::NoObject`.
 class Host
 {
 public:
@@ -42,6 +43,12 @@ public:
     virtual std::shared_ptr<LocusTagEntry> NewLocusTagEntry() = 0;
     virtual std::shared_ptr<PaneAlleleList> NewPaneAlleleList() = 0;
     virtual std::shared_ptr<Gridocx> NewGrid() = 0;
+    /// The collection for a wizard that the library starts. It is the host's, so that the host may
+    /// hold it longer than the library stays loaded.
+    virtual std::shared_ptr<ParameterCollection> NewParameterCollection()
+    {
+        return std::make_shared<ParameterCollection>();
+    }
 
     /// Shows a message box and returns the person's answer. `kind` is a `MessageKind`.
     virtual MessageAnswer ShowMessage(const std::string& text, std::int32_t kind,

@@ -23,15 +23,24 @@ Tamrivo::Properties CheckBox::Properties() const
 
 void OptionButton::SetValue(bool value)
 {
-    if (!Assign(m_value, value) || !value)
+    if (m_value == value)
         return;
+    // All options have their new state before anyone is told of the first.
+    std::vector<OptionButton*> changed;
     for (Control* sibling : Parent().Children())
     {
         auto* option = dynamic_cast<OptionButton*>(sibling);
-        if (option != nullptr && option != this)
-            option->SetValue(false);
+        if (value && option != nullptr && option->m_value)
+            changed.push_back(option);
     }
-    Click();
+    for (OptionButton* option : changed)
+        option->m_value = false;
+    m_value = value;
+    changed.push_back(this);
+    for (OptionButton* option : changed)
+        option->NotifyChanged();
+    if (value)
+        Click();
 }
 
 Tamrivo::Properties OptionButton::Properties() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "core/reference.h"
 
 #include <memory>
 
@@ -14,7 +15,7 @@ class HostedControl : public Control
 public:
     struct Settings
     {
-        std::shared_ptr<T> Object; ///< Never null.
+        std::shared_ptr<T> Object;
         bool TabStop = true;
     };
 
@@ -22,8 +23,9 @@ public:
         : Control(declaration), m_object(settings.Object), m_tabStop(settings.TabStop)
     {}
 
+    /// The host's control. Raises `ErrorNumber::NoObject` when the host has given none.
     T& Object() const { return *m_object; }
-    T* operator->() const { return m_object.get(); }
+    T* operator->() const { return &*m_object; }
 
     bool IsTabStop() const override { return m_tabStop; }
     /// The host's control has a disabled state of its own, which the form's logic sets.
@@ -34,14 +36,14 @@ public:
         auto properties = Control::Properties();
         if constexpr (requires { m_object->Properties(); })
         {
-            const auto own = m_object->Properties();
+            const auto own = m_object ? m_object->Properties() : Tamrivo::Properties();
             properties.insert(properties.end(), own.begin(), own.end());
         }
         return properties;
     }
 
 private:
-    std::shared_ptr<T> m_object;
+    Reference<T> m_object;
     bool m_tabStop;
 };
 

@@ -49,6 +49,8 @@ public:
     Event<Menu&, int> PopupMenuRequested;
     /// For the front end that shows the form: a control's state has changed.
     Event<Control&> ControlChanged;
+    /// For the front end: `Enabled` has changed.
+    Event<> EnabledChanged;
 
 private:
     friend class Control;

@@ -34,11 +34,10 @@ std::string DateText(const Date& date)
     if (!date)
         return {};
     const std::tm local = LocalTime(*date);
-    // Making a stream takes longer than writing a date.
-    thread_local std::wostringstream stream;
-    if (stream.getloc() != TextLocale())
-        stream.imbue(TextLocale());
-    stream.str(std::wstring());
+    // A stream of the thread's own would be quicker, and keep a module that has written a date from
+    // being unloaded.
+    std::wostringstream stream;
+    stream.imbue(TextLocale());
     std::use_facet<std::time_put<wchar_t>>(TextLocale())
         .put(std::ostreambuf_iterator<wchar_t>(stream), stream, L' ', &local, Format.data(),
              Format.data() + Format.size());

@@ -17,10 +17,6 @@ ErrorRecord CurrentError()
     {
         return {ErrorNumber::Unexpected, "Tamrivo", exception.what(), {}, 0};
     }
-    catch (...)
-    {
-        return {ErrorNumber::Unexpected, "Tamrivo", "Unexpected failure", {}, 0};
-    }
 }
 
 } // namespace Tamrivo

@@ -48,8 +48,8 @@ private:
     ErrorRecord m_record;
 };
 
-/// The record of the exception being handled; one that carries none becomes
-/// `ErrorNumber::Unexpected` with its own message. Call it in a catch block only.
+/// The record of the `std::exception` being handled; one that carries none becomes
+/// `ErrorNumber::Unexpected` with its own message. Call it in its catch block only.
 ErrorRecord CurrentError();
 
 } // namespace Tamrivo

@@ -44,7 +44,9 @@ public:
 ///     }
 ///
 /// A failing statement is reported, and control leaves the procedure. What the statements before it
-/// did stays. Statements are not nested, and what stands outside of one must not fail.
+/// did stays. Statements are not nested, and what stands outside of one must not fail. A failure is
+/// what derives from `std::exception`; anything else that is thrown, such as the host's word that
+/// the person has cancelled, passes without a report.
 class Guard
 {
 public:
@@ -74,7 +76,7 @@ public:
             {
                 return statement();
             }
-            catch (...)
+            catch (const std::exception&)
             {
                 Handle(CurrentError());
             }

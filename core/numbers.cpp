@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 #include "core/locale.h"
+#include "core/narrowing.h"
 #include "core/text.h"
 
 #include <charconv>
@@ -118,9 +119,12 @@ std::optional<double> Parse(std::string_view text)
         return std::nullopt;
     double value = 0;
     const auto result = std::from_chars(number->data(), number->data() + number->size(), value);
-    if (result.ec != std::errc())
-        return std::nullopt;
-    return value;
+    if (result.ec == std::errc())
+        return value;
+    // Too large, or too close to 0: a stream tells them apart.
+    std::istringstream stream(*number);
+    stream.imbue(std::locale::classic());
+    return stream >> value ? std::optional(value) : std::nullopt;
 }
 
 /// The text in quotes, shortened where it would drown the message.
@@ -150,17 +154,10 @@ std::int32_t ToInteger(std::string_view text)
     const auto value = Parse(text);
     if (!value)
         throw Failure(ErrorNumber::NotANumber, "ToInteger", Quoted(text) + " is not a number");
-
-    double rounded = std::floor(*value);
-    const double fraction = *value - rounded;
-    if (fraction > 0.5 || (fraction == 0.5 && std::fmod(rounded, 2) != 0))
-        rounded += 1;
-
-    using Limits = std::numeric_limits<std::int32_t>;
-    if (rounded < Limits::min() || rounded > Limits::max())
-        throw Failure(ErrorNumber::OutOfRange, "ToInteger",
-                      Quoted(text) + " is too large for a whole number of 32 bits");
-    return static_cast<std::int32_t>(rounded);
+    if (const auto nearest = NearestInteger(*value))
+        return *nearest;
+    throw Failure(ErrorNumber::OutOfRange, "ToInteger",
+                  Quoted(text) + " is too large for a whole number of 32 bits");
 }
 
 std::string IntegerText(std::int32_t value)

@@ -1,8 +1,9 @@
+#include "desktop/common/settings.h"
+#include "desktop/common/theme.h"
 #include "desktop/front_end/desktop_front_end.h"
-#include "desktop/settings.h"
 #include "desktop/window/main_window.h"
-#include "platform/framework/environment.h"
-#include "platform/store/address.h"
+#include "host/database/address.h"
+#include "host/framework/environment.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -67,6 +68,8 @@ int main(int count, char** arguments)
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() + Tamrivo::TextSteps());
     QApplication::setFont(font);
+
+    Tamrivo::UseTheme(Tamrivo::ChosenTheme());
 
     Tamrivo::DesktopFrontEnd frontEnd;
     Tamrivo::MainWindow window(frontEnd);

@@ -3,7 +3,7 @@
 namespace Tamrivo
 {
 
-struct LocusEditorPage::Generation : Steps
+struct LocusEditorPage::GenerationSteps : Steps
 {
     static constexpr StoreStep DefinitionSteps[] = {
         StoreInteger<&Locus::FragStart, &Page::txtFragStart>,
@@ -19,7 +19,7 @@ void LocusEditorPage::cmdGenAlleleList_Click()
 {
     Terminal("cmdGenAlleleList_Click", [&](Guard& run) {
         Locus& oLocus = run([&]() -> Locus& { return *WorkingLocus(); });
-        for (const auto step : Generation::DefinitionSteps)
+        for (const auto step : GenerationSteps::DefinitionSteps)
             run([&] { step(*this, oLocus); });
         run([&] { oLocus.GenerateAlleles(); });
         run([&] { ctlPaneAlleleList->RefreshAlleles(); });

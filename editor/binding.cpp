@@ -3,7 +3,7 @@
 namespace Tamrivo
 {
 
-struct LocusEditorPage::Binding : Steps
+struct LocusEditorPage::FieldSteps : Steps
 {
     /// What `optPrimerLabel` stands for, by index.
     static constexpr std::int32_t PrimerLabels[] = {PrimerLabel::Forward, PrimerLabel::Reverse,
@@ -131,7 +131,7 @@ struct LocusEditorPage::Binding : Steps
 void LocusEditorPage::LoadLocusData()
 {
     Propagating("LoadLocusData", [&](Guard& run) {
-        for (const auto step : Binding::LoadSteps)
+        for (const auto step : FieldSteps::LoadSteps)
             run([&] { step(*this); });
     });
 }
@@ -139,7 +139,7 @@ void LocusEditorPage::LoadLocusData()
 void LocusEditorPage::UpdateLocus(const Reference<Locus>& oLocus)
 {
     Propagating("UpdateLocus", [&](Guard& run) {
-        for (const auto step : Binding::UpdateSteps)
+        for (const auto step : FieldSteps::UpdateSteps)
             run([&] { step(*this, *oLocus); });
     });
 }

@@ -1,4 +1,5 @@
 #include "contracts/project.h"
+#include "core/narrowing.h"
 #include "editor/steps.h"
 
 namespace Tamrivo
@@ -12,7 +13,7 @@ constexpr std::string_view DefaultProject = "Default";
 
 } // namespace
 
-struct LocusEditorPage::Defaults : Steps
+struct LocusEditorPage::DefaultSteps : Steps
 {
     static void ChooseFirstDye(Page& page) { page.cmbDye.SetText(page.cmbDye.List(0)); }
     static void HoldPlaceOfConfInt(Page& page) { page.lblConfInt.SetCaption("0.50"); }
@@ -27,22 +28,12 @@ struct LocusEditorPage::Defaults : Steps
 
     static void KeepSystemConfInt(Page& page)
     {
-        page.m_sngSystemConfInt = static_cast<float>(page.m_oLocus->SystemConfInt);
+        page.m_sngSystemConfInt = ToSingle(page.m_oLocus->SystemConfInt);
     }
 
     static void ShowSystemConfInt(Page& page)
     {
         page.lblConfInt.SetCaption(TwoDecimals(page.m_sngSystemConfInt));
-    }
-
-    static void SetLeastShortestAlleleSize(Page& page)
-    {
-        page.udShortestAlleleSize.SetMin(page.m_oLocus->FragStart);
-    }
-
-    static void SetGreatestShortestAlleleSize(Page& page)
-    {
-        page.udShortestAlleleSize.SetMax(page.m_oLocus->FragEnd);
     }
 
     static void DisableConfInt(Page& page) { page.txtConfInt.SetEnabled(false); }
@@ -100,8 +91,7 @@ struct LocusEditorPage::Defaults : Steps
         Show<&Page::txtConfInt, &Locus::ConfInt, DoubleText>,
         Show<&Page::txtFragStart, &Locus::FragStart, IntegerText>,
         Show<&Page::txtFragEnd, &Locus::FragEnd, IntegerText>,
-        SetLeastShortestAlleleSize,
-        SetGreatestShortestAlleleSize,
+        BoundShortestAlleleSize,
         Show<&Page::txtShortestAlleleSize, &Locus::ShortestAlleleSize, IntegerText>,
         Show<&Page::txtRepeatUnitSequence, &Locus::RepeatUnitSequence, AsIs>,
         Show<&Page::txtRepeat, &Locus::RepeatLength, IntegerText>,
@@ -129,7 +119,7 @@ struct LocusEditorPage::Defaults : Steps
 void LocusEditorPage::ClearInformation()
 {
     Propagating("ClearInformation", [&](Guard& run) {
-        for (const auto step : Defaults::ClearSteps)
+        for (const auto step : DefaultSteps::ClearSteps)
             run([&] { step(*this); });
     });
 }
@@ -137,7 +127,7 @@ void LocusEditorPage::ClearInformation()
 void LocusEditorPage::LoadDefaults()
 {
     Propagating("LoadDefaults", [&](Guard& run) {
-        for (const auto step : Defaults::LoadSteps)
+        for (const auto step : DefaultSteps::LoadSteps)
             run([&] { step(*this); });
     });
 }
@@ -145,20 +135,20 @@ void LocusEditorPage::LoadDefaults()
 void LocusEditorPage::LoadProjects()
 {
     Propagating("LoadProjects", [&](Guard& run) {
-        const auto oProjects = run([&] { return Projects(Objects()); });
+        const Reference<ObjectList> oProjects = run([&] { return Projects(Objects()); });
         run([&] { cmbProjects.Clear(); });
         std::int32_t lDefault = 0;
         const std::int32_t lCount = run([&] { return oProjects->Count(); });
         if (lCount <= 0)
             return;
-        for (std::int32_t i = 1; i <= lCount; ++i)
+        for (std::int32_t lIndex = 1; lIndex <= lCount; ++lIndex)
         {
-            const auto oProject = run([&] { return As<Project>(oProjects->Item(i)); });
+            const auto oProject = run([&] { return As<Project>(oProjects->Item(lIndex)); });
             const std::string sName = run([&] { return TrimRight(oProject->Name()); });
             run([&] { cmbProjects.AddItem(sName); });
             run([&] { cmbProjects.SetItemData(cmbProjects.NewIndex(), oProject->ProjectID()); });
             if (EqualNoCase(sName, DefaultProject))
-                lDefault = i - 1;
+                lDefault = lIndex - 1;
         }
         run([&] { cmbProjects.SetListIndex(lDefault); });
         run([&] { lblProject.SetCaption(cmbProjects.Text()); });

@@ -1,92 +1,40 @@
-#include "editor/steps.h"
+#include "editor/locus_editor_page.h"
 
 namespace Tamrivo
 {
 
-/// The groups of controls that a check box switches on and off. Switching leaves texts and ticks as
-/// they are.
-struct LocusEditorPage::Groups : Steps
+void LocusEditorPage::EnableGroup(const char* sProcedure, bool bEnabled,
+                                  std::initializer_list<Control*> controls)
 {
-    using Dependent = Control& (*)(Page&);
-
-    template <auto Member>
-    static Control& The(Page& page)
-    {
-        return page.*Member;
-    }
-
-    static constexpr Dependent SearchForStutter[] = {
-        The<&Page::lblStutterDetecWindow>,
-        The<&Page::lblRepeats>,
-        The<&Page::txtStutterWidth>,
-        The<&Page::lblMaxRelativeStutter>,
-        The<&Page::txtRelStutter>,
-        The<&Page::lblPercentage1>,
-        The<&Page::UpDown1>,
-        The<&Page::UpDown2>,
-        The<&Page::chkDetShortStutter>,
-        The<&Page::chkDetLongStutter>,
-    };
-
-    static constexpr Dependent DetectSpuriousPeaks[] = {
-        The<&Page::lblMaxHeightSpurPeaks>,
-        The<&Page::txtMaxSpurHeight>,
-        The<&Page::UpDown3>,
-        The<&Page::lblPercentage2>,
-    };
-
-    static constexpr Dependent UserSpecified[] = {
-        The<&Page::txtConfInt>,
-        The<&Page::Label11>,
-    };
-
-    template <std::size_t Count>
-    static void SetEnabled(Guard& run, Page& page, const Dependent (&group)[Count], bool bEnabled)
-    {
-        for (const auto dependent : group)
-            run([&] { dependent(page).SetEnabled(bEnabled); });
-    }
-};
+    Propagating(sProcedure, [&](Guard& run) {
+        for (Control* control : controls)
+            run([&] { control->SetEnabled(bEnabled); });
+    });
+}
 
 void LocusEditorPage::DisplaySearchForStutter(bool bEnabled)
 {
-    Propagating("DisplaySearchForStutter", [&](Guard& run) {
-        Groups::SetEnabled(run, *this, Groups::SearchForStutter, bEnabled);
-    });
+    EnableGroup("DisplaySearchForStutter", bEnabled,
+                {&lblStutterDetecWindow, &lblRepeats, &txtStutterWidth, &lblMaxRelativeStutter,
+                 &txtRelStutter, &lblPercentage1, &UpDown1, &UpDown2, &chkDetShortStutter,
+                 &chkDetLongStutter});
 }
 
 void LocusEditorPage::DisplayDetectSpuriousPeaks(bool bEnabled)
 {
-    Propagating("DisplayDetectSpuriousPeaks", [&](Guard& run) {
-        Groups::SetEnabled(run, *this, Groups::DetectSpuriousPeaks, bEnabled);
-    });
+    EnableGroup("DisplayDetectSpuriousPeaks", bEnabled,
+                {&lblMaxHeightSpurPeaks, &txtMaxSpurHeight, &UpDown3, &lblPercentage2});
 }
 
 void LocusEditorPage::DisplayUserSpecified(bool bEnabled)
 {
-    Propagating("DisplayUserSpecified", [&](Guard& run) {
-        Groups::SetEnabled(run, *this, Groups::UserSpecified, bEnabled);
-    });
+    EnableGroup("DisplayUserSpecified", bEnabled, {&txtConfInt, &Label11});
 }
 
-void LocusEditorPage::chkSearchForStutter_Click()
+void LocusEditorPage::ConnectGroup(CheckBox& box, const char* sProcedure, Display display)
 {
-    Terminal("chkSearchForStutter_Click", [&](Guard& run) {
-        run([&] { DisplaySearchForStutter(chkSearchForStutter.Value() != 0); });
-    });
-}
-
-void LocusEditorPage::chkDetectSpuriousPeaks_Click()
-{
-    Terminal("chkDetectSpuriousPeaks_Click", [&](Guard& run) {
-        run([&] { DisplayDetectSpuriousPeaks(chkDetectSpuriousPeaks.Value() != 0); });
-    });
-}
-
-void LocusEditorPage::chkUserSpecified_Click()
-{
-    Terminal("chkUserSpecified_Click", [&](Guard& run) {
-        run([&] { DisplayUserSpecified(chkUserSpecified.Value() != 0); });
+    m_connections.On(box.Click, [this, &box, sProcedure, display] {
+        Terminal(sProcedure, [&](Guard& run) { run([&] { (this->*display)(box.Value() != 0); }); });
     });
 }
 

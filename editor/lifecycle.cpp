@@ -3,7 +3,7 @@
 namespace Tamrivo
 {
 
-struct LocusEditorPage::Binning : Steps
+struct LocusEditorPage::BinningSteps : Steps
 {
     static void HideGeneration(Page& page)
     {
@@ -15,12 +15,6 @@ struct LocusEditorPage::Binning : Steps
     {
         page.fraAlleleNamingConvention.SetVisible(false);
         page.fraAlleleNamingConvention.SetEnabled(false);
-    }
-
-    static void BoundShortestAlleleSize(Page& page)
-    {
-        page.udShortestAlleleSize.SetMin(page.m_oLocus->FragStart);
-        page.udShortestAlleleSize.SetMax(page.m_oLocus->FragEnd);
     }
 
     static void ShowAlleles(Page& page) { page.ctlPaneAlleleList->SetLocus(page.m_oLocus); }
@@ -83,33 +77,16 @@ void LocusEditorPage::UserControl_Initialize()
         run([&] { m_oPageBase = m_host.NewPageBase(); });
         run([&] { ConnectPageBase(); });
         m_bAlleleListValid = true;
+        run([&] { ConnectPane(); });
     });
 }
 
 void LocusEditorPage::m_oPageBase_Initialize(const std::shared_ptr<PanePositions>&)
 {
     Propagating("m_oPageBase_Initialize", [&](Guard& run) {
-        const auto hasParameter = [&](const char* key) {
-            return run([&] { return SharedUtility().KeyExists(Parameters(), key); });
-        };
-
-        if (!hasParameter(ParameterKey::Locus))
+        if (!run([&] { return HasParameter(ParameterKey::Locus); }))
             return;
-        m_bBinning = hasParameter(ParameterKey::Binning);
-        if (m_bBinning)
-        {
-            run([&] {
-                m_oBinning = ParameterItem<std::shared_ptr<BinningContext>>(Parameters(),
-                                                                            ParameterKey::Binning);
-            });
-        }
-        run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
-        if (m_oBinning)
-            run([&] { m_oBinning->SetInitialized(false); });
-        run([&] {
-            HoldLocus(ParameterItem<std::shared_ptr<Locus>>(Parameters(), ParameterKey::Locus));
-        });
-        run([&] { Parameters().Remove(ParameterKey::Locus); });
+        TakeParameters(run);
 
         run([&] { ClearInformation(); });
         run([&] { LoadProjects(); });
@@ -121,19 +98,40 @@ void LocusEditorPage::m_oPageBase_Initialize(const std::shared_ptr<PanePositions
             m_oLocus->SystemConfInt = 0;
         else
             run([&] { LoadLocusData(); });
-
-        run([&] { m_oLocus->ProjectName = cmbProjects.Text(); });
-        for (std::int32_t i = 0; i < cmbProjects.ListCount(); ++i)
-        {
-            if (cmbProjects.ItemData(i) != m_oLocus->ProjectID)
-                continue;
-            run([&] { cmbProjects.SetListIndex(i); });
-            run([&] { lblProject.SetCaption(cmbProjects.Text()); });
-        }
+        ChooseProject(run);
 
         run([&] { m_oCopyOfLocus = m_oLocus->Clone(); });
         run([&] { ctlPaneAlleleList->SetLocus(WorkingLocus()); });
     });
+}
+
+void LocusEditorPage::TakeParameters(Guard& run)
+{
+    m_bBinning = run([&] { return HasParameter(ParameterKey::Binning); });
+    if (m_bBinning)
+        run([&] {
+            m_oBinning =
+                ParameterItem<std::shared_ptr<BinningContext>>(Parameters(), ParameterKey::Binning);
+        });
+    run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
+    if (m_oBinning)
+        run([&] { m_oBinning->SetInitialized(false); });
+    run([&] {
+        HoldLocus(ParameterItem<std::shared_ptr<Locus>>(Parameters(), ParameterKey::Locus));
+    });
+    run([&] { Parameters().Remove(ParameterKey::Locus); });
+}
+
+void LocusEditorPage::ChooseProject(Guard& run)
+{
+    run([&] { m_oLocus->ProjectName = cmbProjects.Text(); });
+    for (std::int32_t lIndex = 0; lIndex < cmbProjects.ListCount(); ++lIndex)
+    {
+        if (cmbProjects.ItemData(lIndex) != m_oLocus->ProjectID)
+            continue;
+        run([&] { cmbProjects.SetListIndex(lIndex); });
+        run([&] { lblProject.SetCaption(cmbProjects.Text()); });
+    }
 }
 
 void LocusEditorPage::ShowMode()
@@ -161,7 +159,7 @@ void LocusEditorPage::ShowMode()
     if (mode.SavesAs)
         cmdSaveAs.SetEnabled(true);
     if (!mode.Generates)
-        Binning::HideGeneration(*this);
+        BinningSteps::HideGeneration(*this);
 }
 
 void LocusEditorPage::m_oPageBase_Activate()
@@ -170,7 +168,7 @@ void LocusEditorPage::m_oPageBase_Activate()
         m_bDeactivated = false;
         if (!m_bBinning)
             return;
-        for (const auto step : Binning::ActivateSteps)
+        for (const auto step : BinningSteps::ActivateSteps)
             run([&] { step(*this); });
     });
 }
@@ -180,7 +178,7 @@ void LocusEditorPage::m_oPageBase_Deactivate()
     m_bDeactivated = true;
     if (!m_bBinning)
         return;
-    for (const auto step : Binning::DeactivateSteps)
+    for (const auto step : BinningSteps::DeactivateSteps)
         step(*this, *m_oLocus);
 }
 
@@ -189,12 +187,7 @@ void LocusEditorPage::m_oPageBase_Save()
     Propagating("m_oPageBase_Save", [&](Guard& run) {
         run([&] { UpdateLocus(m_oLocus); });
         if (!m_bBinning)
-        {
-            while (run([&] { return m_oLocus->Alleles().Count() > 0; }))
-                run([&] { m_oLocus->Alleles().Remove(1); });
-            for (const auto& oAllele : run([&] { return m_oCopyOfLocus->Alleles().Members(); }))
-                run([&] { m_oLocus->Alleles().Add(oAllele); });
-        }
+            TakeAllelesOfCopy(run);
         if (run([&] { return m_oLocus->LocusTagID() < 1; }))
         {
             run([&] { RemoveParameter(ParameterKey::NewLocus); });
@@ -204,22 +197,29 @@ void LocusEditorPage::m_oPageBase_Save()
         if (m_bSavedAs)
         {
             run([&] { RemoveParameter(ParameterKey::NewSaveAs); });
-            const bool bTagIsCurrent = run([&] { return TagIsCurrent(m_oLocus->LocusTag()); });
-            if (!bTagIsCurrent)
+            if (!run([&] { return TagIsCurrent(m_oLocus->LocusTag()); }))
                 run([&] { Parameters().Add(m_oLocus, ParameterKey::NewSaveAs); });
         }
     });
 }
 
+void LocusEditorPage::TakeAllelesOfCopy(Guard& run)
+{
+    ObjectList& oAlleles = run([&]() -> ObjectList& { return m_oLocus->Alleles(); });
+    while (run([&] { return oAlleles.Count() > 0; }))
+        run([&] { oAlleles.Remove(1); });
+    for (const auto& oAllele : run([&] { return m_oCopyOfLocus->Alleles().Members(); }))
+        run([&] { oAlleles.Add(oAllele); });
+}
+
 void LocusEditorPage::HoldLocus(const std::shared_ptr<Locus>& oLocus)
 {
     m_oLocus = oLocus;
-    // Without a page in it, so that the locus may outlive this one.
-    m_oLocus->IsCurrentChanged = m_oLocus_IsCurrentChanged;
+    m_locusConnection = m_oLocus->IsCurrentChanged.Connect(m_oLocus_IsCurrentChanged);
 }
 
+// The page has a handler for these two events, and nothing to do at them.
 void LocusEditorPage::m_oLocus_IsCurrentChanged() {}
-
 void LocusEditorPage::chkMakeCurrent_Click() {}
 
 ParameterCollection& LocusEditorPage::Parameters() const
@@ -227,9 +227,14 @@ ParameterCollection& LocusEditorPage::Parameters() const
     return *Reference<ParameterCollection>(m_oPageBase->Parameters());
 }
 
+bool LocusEditorPage::HasParameter(const char* key) const
+{
+    return SharedUtility().KeyExists(Parameters(), key);
+}
+
 void LocusEditorPage::RemoveParameter(const char* key)
 {
-    if (SharedUtility().KeyExists(Parameters(), key))
+    if (HasParameter(key))
         Parameters().Remove(key);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contracts/host.h"
+#include "contracts/locus_limits.h"
 #include "controls/buttons.h"
 #include "controls/control_array.h"
 #include "controls/frames.h"
@@ -52,7 +53,8 @@ public:
                  {.Caption = "Confidence Interval", .Tab = 1}};
 
     // Directly on the page
-    TextField txtLocusTag{{"txtLocusTag", *this, 0, {1560, 120, 3495, 285}}, {.MaxLength = 128}};
+    TextField txtLocusTag{{"txtLocusTag", *this, 0, {1560, 120, 3495, 285}},
+                          {.MaxLength = Limit::LocusTag}};
     CheckBox chkMakeCurrent{{"chkMakeCurrent", *this, 1, {5400, 120, 1695, 255}},
                             {.Caption = "Used for Analysis", .Enabled = false, .Visible = false}};
     ComboBox cmbProjects{{"cmbProjects", *this, 2, {1560, 480, 3495, 315}}, {}};
@@ -68,49 +70,58 @@ public:
 
     // fraLocusInformation
     TextField txtLocusName{{"txtLocusName", fraLocusInformation, 5, {1440, 360, 3495, 285}},
-                           {.MaxLength = 128}};
+                           {.MaxLength = Limit::LocusName}};
     ComboBox cmbDye{{"cmbDye", fraLocusInformation, 6, {2640, 720, 855, 315}},
                     {.List = {"D1", "D2", "D3", "D4"}}};
-    TextField txtFragStart{{"txtFragStart", fraLocusInformation, 7, {2640, 1200, 675, 285}},
-                           {.Text = "60", .MaxLength = 3, .Alignment = Alignment::Right}};
-    TextField txtFragEnd{{"txtFragEnd", fraLocusInformation, 8, {3975, 1215, 675, 285}},
-                         {.Text = "640", .MaxLength = 3, .Alignment = Alignment::Right}};
+    TextField txtFragStart{
+        {"txtFragStart", fraLocusInformation, 7, {2640, 1200, 675, 285}},
+        {.Text = "60", .MaxLength = Limit::FragmentRange.Digits(), .Alignment = Alignment::Right}};
+    TextField txtFragEnd{
+        {"txtFragEnd", fraLocusInformation, 8, {3975, 1215, 675, 285}},
+        {.Text = "640", .MaxLength = Limit::FragmentRange.Digits(), .Alignment = Alignment::Right}};
     TextField txtRepeat{{"txtRepeat", fraLocusInformation, 9, {2640, 1560, 675, 285}},
-                        {.MaxLength = 3, .Alignment = Alignment::Right}};
+                        {.MaxLength = Limit::RepeatLength.Digits(), .Alignment = Alignment::Right}};
     TextField txtRepeatsInShortestAllele{
         {"txtRepeatsInShortestAllele", fraLocusInformation, 10, {2640, 1920, 675, 285}},
-        {.MaxLength = 4, .Alignment = Alignment::Right}};
+        {.MaxLength = Limit::Repeats.Digits(), .Alignment = Alignment::Right}};
     Label Label12{{"Label12", fraLocusInformation, 26, {120, 1970, 2265, 195}},
                   {.Caption = "# of repeats in shortest Allele:"}};
     Label Label5{{"Label5", fraLocusInformation, 27, {120, 1605, 1350, 195}},
                  {.Caption = "Repeat unit length:"}};
     SpinButton UpDown4{{"UpDown4", fraLocusInformation, 78, {3315, 1560, 240, 285}},
-                       {.Linked = &txtRepeat, .Min = 1, .Max = 255, .Value = 1}};
+                       {.Linked = &txtRepeat,
+                        .Min = Limit::RepeatLength.Low,
+                        .Max = Limit::RepeatLength.High,
+                        .Value = 1}};
     SpinButton UpDown5{{"UpDown5", fraLocusInformation, 79, {3315, 1920, 240, 285}},
-                       {.Linked = &txtRepeatsInShortestAllele, .Min = 1, .Max = 1000, .Value = 1}};
+                       {.Linked = &txtRepeatsInShortestAllele,
+                        .Min = Limit::Repeats.Low,
+                        .Max = Limit::Repeats.High,
+                        .Value = 1}};
     Label lblLocus{{"lblLocus", fraLocusInformation, 84, {120, 405, 945, 195}},
                    {.Caption = "Locus Name:"}};
 
     // fraAncillaryInformation(1)
     TextField txtPrimerSet{
         {"txtPrimerSet", fraAncillaryInformation.Item(1), 16, {2160, 360, 2655, 285}},
-        {.MaxLength = 50}};
+        {.MaxLength = Limit::PrimerSet}};
     TextField txtGenBank{
         {"txtGenBank", fraAncillaryInformation.Item(1), 17, {2160, 840, 2655, 285}},
-        {.MaxLength = 50}};
+        {.MaxLength = Limit::GenBank}};
     TextField txtRepeatUnitSequence{
         {"txtRepeatUnitSequence", fraAncillaryInformation.Item(1), 18, {2160, 1320, 2655, 285}},
-        {.MaxLength = 10}};
+        {.MaxLength = Limit::RepeatUnitSequence}};
     TextField txtPloidy{{"txtPloidy", fraAncillaryInformation.Item(1), 19, {2160, 1800, 390, 285}},
-                        {.Text = "2", .MaxLength = 2}};
+                        {.Text = "2", .MaxLength = Limit::Ploidy.Digits()}};
     Label Label3{{"Label3", fraAncillaryInformation.Item(1), 38, {120, 885, 1500, 195}},
                  {.Caption = "GenBank Accession:"}};
     Label Label4{{"Label4", fraAncillaryInformation.Item(1), 39, {120, 405, 1170, 195}},
                  {.Caption = "Primer set name:"}};
     Label Label2{{"Label2", fraAncillaryInformation.Item(1), 67, {120, 1365, 1620, 195}},
                  {.Caption = "Repeat unit sequence:"}};
-    SpinButton udPloidy{{"udPloidy", fraAncillaryInformation.Item(1), 76, {2551, 1800, 240, 285}},
-                        {.Linked = &txtPloidy, .Min = 2, .Max = 10, .Value = 2}};
+    SpinButton udPloidy{
+        {"udPloidy", fraAncillaryInformation.Item(1), 76, {2551, 1800, 240, 285}},
+        {.Linked = &txtPloidy, .Min = Limit::Ploidy.Low, .Max = Limit::Ploidy.High, .Value = 2}};
     Label Label13{{"Label13", fraAncillaryInformation.Item(1), 77, {120, 1800, 465, 195}},
                   {.Caption = "Ploidy:"}};
 
@@ -126,9 +137,9 @@ public:
 
     // fraPrimerSequence(3)
     TextField txtFwd{{"txtFwd", fraPrimerSequence.Item(3), 23, {900, 315, 1635, 285}},
-                     {.MaxLength = 50}};
+                     {.MaxLength = Limit::Primer}};
     TextField txtRev{{"txtRev", fraPrimerSequence.Item(3), 24, {900, 720, 1635, 285}},
-                     {.MaxLength = 50}};
+                     {.MaxLength = Limit::Primer}};
     Label Label9{{"Label9", fraPrimerSequence.Item(3), 33, {2610, 780, 465, 195}},
                  {.Caption = "5' to 3'"}};
     Label Label8{{"Label8", fraPrimerSequence.Item(3), 34, {2610, 360, 465, 195}},
@@ -152,10 +163,16 @@ public:
         {.Text = "A", .MaxLength = 1, .Alignment = Alignment::Right}};
     TextField txtStartAtNumeric{
         {"txtStartAtNumeric", fraAlleleNamingConvention, 15, {2925, 960, 420, 315}},
-        {.Text = "1", .MaxLength = 3, .Alignment = Alignment::Right}};
+        {.Text = "1",
+         .MaxLength = Limit::TypedStartAtNumeric.Digits(),
+         .Alignment = Alignment::Right}};
     SpinButton udStartAtNumeric{
         {"udStartAtNumeric", fraAlleleNamingConvention, 69, {3346, 960, 240, 315}},
-        {.Linked = &txtStartAtNumeric, .Min = 1, .Max = 999, .Value = 1, .TabStop = false}};
+        {.Linked = &txtStartAtNumeric,
+         .Min = Limit::TypedStartAtNumeric.Low,
+         .Max = Limit::TypedStartAtNumeric.High,
+         .Value = 1,
+         .TabStop = false}};
     SpinButton udStartAtAlphanumeric{
         {"udStartAtAlphanumeric", fraAlleleNamingConvention, 70, {3346, 600, 240, 315}},
         {.TabStop = false}};
@@ -172,23 +189,33 @@ public:
                   {.Caption = "Shortest Allele size:"}};
     TextField txtShortestAlleleSize{
         {"txtShortestAlleleSize", fraAlleleNamingConvention, 89, {4350, 510, 705, 315}},
-        {.MaxLength = 3, .Alignment = Alignment::Right}};
+        {.MaxLength = Limit::ShortestAlleleSize.Digits(), .Alignment = Alignment::Right}};
     SpinButton udShortestAlleleSize{
         {"udShortestAlleleSize", fraAlleleNamingConvention, 90, {5056, 495, 240, 315}},
-        {.Linked = &txtShortestAlleleSize, .Min = 1, .Max = 999, .Value = 1, .TabStop = false}};
+        {.Linked = &txtShortestAlleleSize,
+         .Min = 1,
+         .Max = Limit::ShortestAlleleSize.High,
+         .Value = 1,
+         .TabStop = false}};
 
     // fraStutterDefinition
     CheckBox chkSearchForStutter{
         {"chkSearchForStutter", fraStutterDefinition, 41, {90, 315, 2265, 240}},
         {.Caption = "Search for Stutter"}};
     TextField txtStutterWidth{{"txtStutterWidth", fraStutterDefinition, 42, {3120, 600, 390, 285}},
-                              {.MaxLength = 2}};
+                              {.MaxLength = Limit::StutterWidth.Digits()}};
     SpinButton UpDown1{{"UpDown1", fraStutterDefinition, 43, {3511, 600, 240, 285}},
-                       {.Linked = &txtStutterWidth, .Min = 1, .Max = 10, .Value = 1}};
+                       {.Linked = &txtStutterWidth,
+                        .Min = Limit::StutterWidth.Low,
+                        .Max = Limit::StutterWidth.High,
+                        .Value = 1}};
     TextField txtRelStutter{{"txtRelStutter", fraStutterDefinition, 44, {3120, 1080, 390, 285}},
-                            {.MaxLength = 3}};
+                            {.MaxLength = Limit::RelStutter.Digits()}};
     SpinButton UpDown2{{"UpDown2", fraStutterDefinition, 45, {3511, 1080, 240, 285}},
-                       {.Linked = &txtRelStutter, .Min = 1, .Max = 100, .Value = 1}};
+                       {.Linked = &txtRelStutter,
+                        .Min = Limit::RelStutter.Low,
+                        .Max = Limit::RelStutter.High,
+                        .Value = 1}};
     CheckBox chkDetShortStutter{
         {"chkDetShortStutter", fraStutterDefinition, 46, {405, 1395, 2805, 285}},
         {.Caption = "Detect stutter shorter than alelle"}};
@@ -212,9 +239,12 @@ public:
         {.Caption = "Detect spurious peaks"}};
     TextField txtMaxSpurHeight{
         {"txtMaxSpurHeight", fraSpuriousPeakDetection, 51, {2970, 600, 390, 285}},
-        {.MaxLength = 3}};
+        {.MaxLength = Limit::MaxSpurHeight.Digits()}};
     SpinButton UpDown3{{"UpDown3", fraSpuriousPeakDetection, 52, {3361, 600, 240, 285}},
-                       {.Linked = &txtMaxSpurHeight, .Min = 1, .Max = 100, .Value = 1}};
+                       {.Linked = &txtMaxSpurHeight,
+                        .Min = Limit::MaxSpurHeight.Low,
+                        .Max = Limit::MaxSpurHeight.High,
+                        .Value = 1}};
     Label lblMaxHeightSpurPeaks{
         {"lblMaxHeightSpurPeaks", fraSpuriousPeakDetection, 56, {360, 660, 2475, 195}},
         {.Caption = "Maximum height for spurious peaks"}};

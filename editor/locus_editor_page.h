@@ -4,6 +4,8 @@
 #include "core/reference.h"
 #include "editor/locus_editor_form.h"
 
+#include <initializer_list>
+
 namespace Tamrivo
 {
 
@@ -21,7 +23,6 @@ class LocusEditorPage final : public LocusEditorForm, public IPageAccess, privat
 {
 public:
     explicit LocusEditorPage(Host& host);
-    ~LocusEditorPage() override;
 
     /// The page's side of the framework, created with the page.
     std::shared_ptr<PageBase> Page() override;
@@ -29,16 +30,18 @@ public:
 private:
     // Tables of the steps by which fields and locus exchange their content; see editor/steps.h.
     struct Steps;
-    struct Binning;
-    struct Binding;
-    struct Defaults;
-    struct Generation;
-    struct Naming;
-    struct Groups;
+    struct FieldSteps;
+    struct DefaultSteps;
+    struct BinningSteps;
+    struct GenerationSteps;
+    struct InputRules;
 
     // Life cycle
     void ConnectControls();
+    template <class... Arguments>
+    void On(Event<Arguments...>& event, void (LocusEditorPage::*handler)(Arguments...));
     void ConnectPageBase();
+    void ConnectPane();
     void UserControl_Initialize();
     void m_oPageBase_Initialize(const std::shared_ptr<PanePositions>& oLastPanePositions);
     void m_oPageBase_Activate();
@@ -47,6 +50,9 @@ private:
     void chkMakeCurrent_Click();
     static void m_oLocus_IsCurrentChanged();
     void HoldLocus(const std::shared_ptr<Locus>& oLocus);
+    void TakeParameters(Guard& run);
+    void ChooseProject(Guard& run);
+    void TakeAllelesOfCopy(Guard& run);
     void ShowMode();
 
     // Fields and locus
@@ -62,29 +68,12 @@ private:
 
     // Input rules
     bool IsDecimalPresent(std::int16_t iKey, const std::string& sText);
-    void txtFragStart_KeyPress(std::int16_t& KeyAscii);
-    void txtFragEnd_KeyPress(std::int16_t& KeyAscii);
-    void txtRepeat_KeyPress(std::int16_t& KeyAscii);
-    void txtRepeatsInShortestAllele_KeyPress(std::int16_t& KeyAscii);
-    void txtShortestAlleleSize_KeyPress(std::int16_t& KeyAscii);
-    void txtStartAtAlphanumeric_KeyPress(std::int16_t& KeyAscii);
-    void txtStartAtNumeric_KeyPress(std::int16_t& KeyAscii);
-    void txtStutterWidth_KeyPress(std::int16_t& KeyAscii);
-    void txtRelStutter_KeyPress(std::int16_t& KeyAscii);
-    void txtMaxSpurHeight_KeyPress(std::int16_t& KeyAscii);
-    void txtConfInt_KeyPress(std::int16_t& KeyAscii);
-    void txtFragStart_LostFocus();
-    void txtFragEnd_LostFocus();
-    void txtRepeat_LostFocus();
-    void txtRepeatsInShortestAllele_LostFocus();
+    /// What filters keys and mends what the focus leaves stands in tables of rows, each under its
+    /// procedure's name; these have a body of their own.
+    void ConnectInputRules();
+    void FragStartLeft(Guard& run);
+    void FragEndLeft(Guard& run);
     void txtShortestAlleleSize_LostFocus();
-    void txtStartAtAlphanumeric_LostFocus();
-    void txtStartAtNumeric_LostFocus();
-    void txtStutterWidth_LostFocus();
-    void txtRelStutter_LostFocus();
-    void txtMaxSpurHeight_LostFocus();
-    void txtPloidy_LostFocus();
-    void txtConfInt_LostFocus();
     void txtStartAtNumeric_Change();
     /// Keeps the shortest allele size from lying below the fragment range, and above it.
     void RaiseShortestAlleleSize();
@@ -94,6 +83,8 @@ private:
     void optAlleleNaming_Click(int Index);
     void StartAtAlphanumeric(bool bEnabled);
     void StartAtNumeric(bool bEnabled);
+    using StartAtStep = std::string (Locus::*)(const std::string& text) const;
+    void StepStartAtAlphanumeric(const char* sProcedure, StartAtStep step);
     void udStartAtAlphanumeric_UpClick();
     void udStartAtAlphanumeric_DownClick();
     void txtLocusTag_Change();
@@ -105,13 +96,14 @@ private:
     void ctlPaneAlleleList_ValidityChanged(bool& bIsValid);
     void NoteChangedAlleles();
 
-    // Detection groups
+    // Groups of controls that are switched on and off; their texts and ticks stay as they are
+    using Display = void (LocusEditorPage::*)(bool bEnabled);
+    void EnableGroup(const char* sProcedure, bool bEnabled,
+                     std::initializer_list<Control*> controls);
+    void ConnectGroup(CheckBox& box, const char* sProcedure, Display display);
     void DisplaySearchForStutter(bool bEnabled);
     void DisplayDetectSpuriousPeaks(bool bEnabled);
     void DisplayUserSpecified(bool bEnabled);
-    void chkSearchForStutter_Click();
-    void chkDetectSpuriousPeaks_Click();
-    void chkUserSpecified_Click();
 
     // Save As
     void cmdSaveAs_Click();
@@ -121,6 +113,7 @@ private:
     ObjectManager& Objects() const { return m_host.SharedObjectManagerGlobal().Manager(); }
     /// The collection that the page shares with whoever started the wizard.
     ParameterCollection& Parameters() const;
+    bool HasParameter(const char* key) const;
     void RemoveParameter(const char* key);
     /// Whether a current locus has the tag, blanks at its end not counted.
     bool TagIsCurrent(const std::string& sTag) const;
@@ -140,6 +133,8 @@ private:
     bool m_bAlleleListValid = false; ///< The pane's last word.
     float m_sngSystemConfInt = 0;    ///< +/- nt
     bool m_bDeactivated = false;
+    Connections m_connections;
+    Connection m_locusConnection; ///< Of the locus that the page holds now.
 };
 
 } // namespace Tamrivo

@@ -1,4 +1,5 @@
 #include "contracts/launcher.h"
+#include "core/narrowing.h"
 #include "core/text.h"
 #include "editor/locus_editor_page.h"
 
@@ -45,7 +46,7 @@ void LocusEditorPage::cmdSaveAs_Click()
         }
         run([&] { Parameters().Add(oNewLocus, ParameterKey::SaveLocusAs); });
 
-        const auto oResult =
+        const Reference<LauncherResult> oResult =
             run([&] { return StartWizard(m_host.SharedLauncher(), SaveAsWizard, oParameters); });
         if (run([&] { return oResult->Cancelled(); }))
             return;
@@ -69,14 +70,14 @@ void LocusEditorPage::cmdSaveAs_Click()
 
 void LocusEditorPage::CountNewTag(Guard& run)
 {
-    int saveTimes = 1;
-    if (run([&] { return SharedUtility().KeyExists(Parameters(), ParameterKey::SaveTimes); }))
+    int nSaveTimes = 1;
+    if (run([&] { return HasParameter(ParameterKey::SaveTimes); }))
     {
-        saveTimes +=
+        nSaveTimes +=
             run([&] { return ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes); });
         run([&] { Parameters().Remove(ParameterKey::SaveTimes); });
     }
-    run([&] { Parameters().Add(static_cast<std::int16_t>(saveTimes), ParameterKey::SaveTimes); });
+    run([&] { Parameters().Add(ToShortInteger(nSaveTimes), ParameterKey::SaveTimes); });
 }
 
 } // namespace Tamrivo

@@ -5,7 +5,9 @@
 #include "editor/field_number.h"
 #include "editor/locus_editor_page.h"
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 
 namespace Tamrivo
 {
@@ -92,6 +94,12 @@ struct LocusEditorPage::Steps
     }
     static void StoreDye(Page& page, Locus& oLocus) { oLocus.DyeIndex = page.cmbDye.ListIndex(); }
 
+    static void BoundShortestAlleleSize(Page& page)
+    {
+        page.udShortestAlleleSize.SetMin(page.m_oLocus->FragStart);
+        page.udShortestAlleleSize.SetMax(page.m_oLocus->FragEnd);
+    }
+
     static void StoreUserSpecifiedConfInt(Page& page, Locus& oLocus)
     {
         oLocus.UserSpecifiedConfInt = page.chkUserSpecified.Value() == 1 ? 1 : 0;
@@ -106,15 +114,71 @@ struct LocusEditorPage::Steps
 
     // Allele naming
 
+    /// What one option of `optAlleleNaming` stands for.
+    struct NamingOption
+    {
+        std::int32_t ConventionID;
+        bool StartsAtAlphanumeric; ///< Which start group is live.
+        bool StartsAtNumeric;
+        StoreStep StoreStart; ///< Stores the start that belongs to the convention; null: none does.
+    };
+
+    /// By index of `optAlleleNaming`.
+    static constexpr NamingOption NamingOptions[] = {
+        {AlleleNamingConvention::NominalSize, false, false, nullptr},
+        {AlleleNamingConvention::Alphabetic, true, false,
+         Store<&Locus::StartAtAlphanumeric, &Page::txtStartAtAlphanumeric, AsIs>},
+        {AlleleNamingConvention::Numeric, false, true,
+         StoreInteger<&Locus::StartAtNumeric, &Page::txtStartAtNumeric>},
+    };
+
+    /// The option that is chosen, or null.
+    static const NamingOption* ChosenNaming(Page& page)
+    {
+        const auto button = std::ranges::find_if(page.optAlleleNaming, &OptionButton::Value);
+        return button == page.optAlleleNaming.end() ? nullptr : &NamingOptions[*button->Index()];
+    }
+
     /// Chooses the option of the convention. Raises "Invalid ID: " for an unknown convention.
-    static void ShowNaming(Page& page);
+    static void ShowNaming(Page& page)
+    {
+        const std::int32_t lConventionID = page.m_oLocus->AlleleNamingConventionTypeID;
+        const auto* option =
+            std::ranges::find(NamingOptions, lConventionID, &NamingOption::ConventionID);
+        if (option == std::end(NamingOptions))
+            throw Failure(ErrorNumber::Application, "Select AlleleNamingConventionTypeID",
+                          "Invalid ID: " + IntegerText(lConventionID));
+        page.optAlleleNaming.Item(static_cast<int>(option - NamingOptions)).SetValue(true);
+    }
+
     /// An empty first name becomes "A", on the locus itself.
-    static void CompleteStartAtAlphanumeric(Page& page);
-    static void ShowStartAtNumeric(Page& page);
-    /// Stores the chosen convention with the start that belongs to it.
-    static void StoreNaming(Page& page, Locus& oLocus);
+    static void CompleteStartAtAlphanumeric(Page& page)
+    {
+        if (page.m_oLocus->StartAtAlphanumeric.empty())
+            page.m_oLocus->StartAtAlphanumeric = "A";
+    }
+
+    static void ShowStartAtNumeric(Page& page)
+    {
+        const std::int32_t lStart = page.m_oLocus->StartAtNumeric;
+        page.txtStartAtNumeric.SetText(lStart > 0 ? IntegerText(lStart) : "1");
+    }
+
     /// Stores the chosen convention alone.
-    static void StoreNamingConvention(Page& page, Locus& oLocus);
+    static void StoreNamingConvention(Page& page, Locus& oLocus)
+    {
+        if (const NamingOption* option = ChosenNaming(page))
+            oLocus.AlleleNamingConventionTypeID = option->ConventionID;
+    }
+
+    /// Stores the chosen convention with the start that belongs to it.
+    static void StoreNaming(Page& page, Locus& oLocus)
+    {
+        const NamingOption* option = ChosenNaming(page);
+        if (option != nullptr && option->StoreStart != nullptr)
+            option->StoreStart(page, oLocus);
+        StoreNamingConvention(page, oLocus);
+    }
 };
 
 } // namespace Tamrivo

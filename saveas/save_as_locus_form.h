@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contracts/locus_limits.h"
 #include "controls/label.h"
 #include "controls/lists.h"
 #include "controls/text_field.h"
@@ -18,7 +19,7 @@ protected:
 public:
     TextField txtLocusName{
         {.Name = "txtLocusName", .In = *this, .TabIndex = 0, .Place = {480, 600, 3735, 300}},
-        {.Text = "Locus Name", .MaxLength = 128}};
+        {.Text = "Locus Name", .MaxLength = Limit::LocusTag}};
     ListBox lstLocusNameList{
         {.Name = "lstLocusNameList", .In = *this, .TabIndex = 1, .Place = {480, 1560, 3735, 3180}}};
     Label lblLocusName{

@@ -9,48 +9,43 @@ SaveAsLocusPage::SaveAsLocusPage(Host& host)
     : Guarded(host.SharedUtility(), "SaveAsLocusPage"), m_host(host)
 {
     UserControl_Initialize();
-    txtLocusName.Change = [this] { txtLocusName_Change(); };
-    lstLocusNameList.Click = [this] { lstLocusNameList_Click(); };
-    if (!m_oPageBase)
-        return;
-    m_oPageBase->Initialize = [this](const auto&) { m_oPageBase_Initialize(); };
-    m_oPageBase->Validate = [this](bool& bIsValid) { m_oPageBase_Validate(bIsValid); };
-    m_oPageBase->Save = [this] { m_oPageBase_Save(); };
+    m_connections.On(txtLocusName.Change, [this] { txtLocusName_Change(); });
+    m_connections.On(lstLocusNameList.Click, [this] { lstLocusNameList_Click(); });
 }
 
-SaveAsLocusPage::~SaveAsLocusPage()
+void SaveAsLocusPage::ConnectPageBase()
 {
-    if (!m_oPageBase)
-        return;
-    m_oPageBase->Initialize = nullptr;
-    m_oPageBase->Validate = nullptr;
-    m_oPageBase->Save = nullptr;
+    m_connections.On(m_oPageBase->Initialize, [this](const auto&) { m_oPageBase_Initialize(); });
+    m_connections.On(m_oPageBase->Validate,
+                     [this](bool& bIsValid) { m_oPageBase_Validate(bIsValid); });
+    m_connections.On(m_oPageBase->Save, [this] { m_oPageBase_Save(); });
 }
 
 std::shared_ptr<PageBase> SaveAsLocusPage::Page()
 {
     return Propagating("IPageAccess_Page (Get)",
-                       [&](Guard& run) { return run([&] { return m_oPageBase; }); });
+                       [&](Guard&) -> std::shared_ptr<PageBase> { return m_oPageBase; });
 }
 
 void SaveAsLocusPage::UserControl_Initialize()
 {
-    Terminal("UserControl_Initialize",
-             [&](Guard& run) { run([&] { m_oPageBase = m_host.NewPageBase(); }); });
+    Terminal("UserControl_Initialize", [&](Guard& run) {
+        run([&] { m_oPageBase = m_host.NewPageBase(); });
+        run([&] { ConnectPageBase(); });
+    });
 }
 
 void SaveAsLocusPage::m_oPageBase_Initialize()
 {
     Reporting("m_oPageBase_Initialize", [&](Guard& run) {
         run([&] {
-            ParameterCollection& parameters = *m_oPageBase->Parameters();
-            if (m_host.SharedUtility().KeyExists(parameters, ParameterKey::LocusName))
-                parameters.Remove(ParameterKey::LocusName);
+            if (m_host.SharedUtility().KeyExists(Parameters(), ParameterKey::LocusName))
+                Parameters().Remove(ParameterKey::LocusName);
         });
         run([&] { m_oCurrentLoci = CurrentLoci(Objects(), "Name"); });
         run([&] {
-            m_oSaveLocus = ParameterItem<std::shared_ptr<Locus>>(*m_oPageBase->Parameters(),
-                                                                 ParameterKey::SaveLocusAs);
+            m_oSaveLocus =
+                ParameterItem<std::shared_ptr<Locus>>(Parameters(), ParameterKey::SaveLocusAs);
         });
         run([&] { LoadLocusNameList(); });
         run([&] { txtLocusName.SetText(""); });
@@ -60,10 +55,13 @@ void SaveAsLocusPage::m_oPageBase_Initialize()
 void SaveAsLocusPage::LoadLocusNameList()
 {
     Reporting("LoadLocusNameList", [&](Guard& run) {
-        const auto count = run([&] { return m_oCurrentLoci->Count(); });
-        for (std::int32_t index = 1; index <= count; ++index)
+        const std::int32_t lCount = run([&] { return m_oCurrentLoci->Count(); });
+        for (std::int32_t lIndex = 1; lIndex <= lCount; ++lIndex)
         {
-            run([&] { lstLocusNameList.AddItem(TrimRight(m_oCurrentLoci->Item(index)->Name())); });
+            run([&] {
+                const Reference<BusinessObject> oLocus = m_oCurrentLoci->Item(lIndex);
+                lstLocusNameList.AddItem(TrimRight(oLocus->Name()));
+            });
         }
     });
 }
@@ -84,9 +82,9 @@ void SaveAsLocusPage::m_oPageBase_Validate(bool& bIsValid)
 {
     Propagating("m_oPageBase_Validate", [&](Guard& run) {
         bIsValid = true;
-        const std::string tag = TrimRight(txtLocusName.Text());
-        if (tag.empty() ||
-            run([&] { return m_host.SharedUtility().KeyExists(*m_oCurrentLoci, tag); }))
+        const std::string sTag = TrimRight(txtLocusName.Text());
+        if (sTag.empty() ||
+            run([&] { return m_host.SharedUtility().KeyExists(*m_oCurrentLoci, sTag); }))
             bIsValid = false;
     });
 }
@@ -94,20 +92,25 @@ void SaveAsLocusPage::m_oPageBase_Validate(bool& bIsValid)
 void SaveAsLocusPage::m_oPageBase_Save()
 {
     Reporting("m_oPageBase_Save", [&](Guard& run) {
-        const std::string& tag = txtLocusName.Text();
-        if (run([&] { return !EqualNoCase(tag, m_oSaveLocus->LocusTag()); }))
+        const std::string& sTag = txtLocusName.Text();
+        if (run([&] { return !EqualNoCase(sTag, m_oSaveLocus->LocusTag()); }))
         {
-            run([&] { m_oSaveLocus->SetLocusTag(tag); });
+            run([&] { m_oSaveLocus->SetLocusTag(sTag); });
             run([&] { Objects().Save(*m_oSaveLocus, true); });
             return;
         }
-        const MessageAnswer answer = run([&] {
+        const MessageAnswer nAnswer = run([&] {
             return m_host.ShowMessage("Do you want to save over existing Locus?",
                                       MessageKind::ExclamationYesNo, "Save Over Existing Locus");
         });
-        if (answer != MessageAnswer::No)
-            run([&] { m_oSaveLocus->SetLocusTag(tag); });
+        if (nAnswer != MessageAnswer::No)
+            run([&] { m_oSaveLocus->SetLocusTag(sTag); });
     });
+}
+
+ParameterCollection& SaveAsLocusPage::Parameters() const
+{
+    return *Reference<ParameterCollection>(m_oPageBase->Parameters());
 }
 
 } // namespace Tamrivo

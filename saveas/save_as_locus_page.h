@@ -22,12 +22,12 @@ class SaveAsLocusPage final : public SaveAsLocusForm, public IPageAccess, privat
 {
 public:
     explicit SaveAsLocusPage(Host& host);
-    ~SaveAsLocusPage() override;
 
     std::shared_ptr<PageBase> Page() override;
 
 private:
     void UserControl_Initialize();
+    void ConnectPageBase();
     void m_oPageBase_Initialize();
     void m_oPageBase_Validate(bool& bIsValid);
     void m_oPageBase_Save();
@@ -35,12 +35,15 @@ private:
     void lstLocusNameList_Click();
     void LoadLocusNameList();
 
+    /// The collection that the page shares with whoever started the wizard.
+    ParameterCollection& Parameters() const;
     ObjectManager& Objects() const { return m_host.SharedObjectManagerGlobal().Manager(); }
 
     Host& m_host;
     Reference<ObjectList> m_oCurrentLoci;
     Reference<Locus> m_oSaveLocus;
-    std::shared_ptr<PageBase> m_oPageBase;
+    Reference<PageBase> m_oPageBase;
+    Connections m_connections;
 };
 
 } // namespace Tamrivo

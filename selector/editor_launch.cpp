@@ -1,6 +1,6 @@
+#include "core/narrowing.h"
 #include "core/numbers.h"
 #include "core/text.h"
-#include "selector/row_number.h"
 #include "selector/str_locus_tag_selector.h"
 
 namespace Tamrivo
@@ -23,12 +23,13 @@ void Rewrite(Gridocx& oGrid, Write&& write)
 
 } // namespace
 
-void STRLocusTagSelector::RunLocusEditor(std::shared_ptr<Locus>& oLocus, bool& bCompleted)
+void STRLocusTagSelector::RunLocusEditor(Reference<Locus>& oLocus, bool& bCompleted)
 {
     m_bRefreshNeeded = false;
-    const auto colParameters = std::make_shared<ParameterCollection>();
+    const Reference<ParameterCollection> colParameters = m_host.NewParameterCollection();
     colParameters->Add(oLocus, ParameterKey::Locus);
-    const auto oResult = StartWizard(m_host.SharedLauncher(), LocusEditorWizard, colParameters);
+    const Reference<LauncherResult> oResult =
+        StartWizard(m_host.SharedLauncher(), LocusEditorWizard, colParameters);
 
     const Utility& oUtility = m_host.SharedUtility();
     if (oUtility.KeyExists(*colParameters, ParameterKey::NewSaveAs))
@@ -46,7 +47,7 @@ void STRLocusTagSelector::RunLocusEditor(std::shared_ptr<Locus>& oLocus, bool& b
 
 void STRLocusTagSelector::EditLocus(Gridocx& oGrid, std::int32_t nRow)
 {
-    std::shared_ptr<Locus> oLocus = LocusOfRow(oGrid, nRow);
+    Reference<Locus> oLocus = FindLocusOfRow(oGrid, nRow);
     const std::string sOldTag = TrimRight(oLocus->LocusTag());
     bool bCompleted = false;
     RunLocusEditor(oLocus, bCompleted);
@@ -65,7 +66,8 @@ void STRLocusTagSelector::EditLocus(Gridocx& oGrid, std::int32_t nRow)
 
 void STRLocusTagSelector::NewLocus()
 {
-    auto oLocus = CreateObject<Locus>(*m_host.NewObjectManager(), "Locus");
+    const Reference<ObjectManager> oManager = m_host.NewObjectManager();
+    Reference<Locus> oLocus = CreateObject<Locus>(*oManager, "Locus");
     bool bCompleted = false;
     RunLocusEditor(oLocus, bCompleted);
     if (bCompleted)
@@ -75,14 +77,15 @@ void STRLocusTagSelector::NewLocus()
 void STRLocusTagSelector::AddLocusRow(const std::shared_ptr<Locus>& oLocus)
 {
     Gridocx& oGrid = gridAvailable.Object();
-    Rewrite(oGrid, [&] { AppendRow(oGrid, *oLocus); });
-    LocusTags().Add(oLocus);
+    Rewrite(oGrid, [&] { AppendRow(oGrid, oLocus); });
+    m_oAllLocusTags->Add(oLocus);
 }
 
 void STRLocusTagSelector::RefreshLocusTags()
 {
-    const auto oStored = CurrentLoci(*m_host.NewObjectManager(), "Name");
-    ObjectList& oKnown = LocusTags();
+    const Reference<ObjectManager> oManager = m_host.NewObjectManager();
+    const Reference<ObjectList> oStored = CurrentLoci(*oManager, "Name");
+    ObjectList& oKnown = *m_oAllLocusTags;
     if (oStored->Count() == oKnown.Count())
         return;
 
@@ -105,7 +108,7 @@ void STRLocusTagSelector::EditCurrentLocus()
     for (const Side* side : {&m_available, &m_selected})
     {
         if (side->CurrentRow > 0)
-            return EditLocus(side->Rows, RowNumber(side->CurrentRow));
+            return EditLocus(side->Rows, ToInteger(side->CurrentRow));
     }
 }
 
@@ -114,9 +117,9 @@ void STRLocusTagSelector::EditFromMenu(Side& side)
     if (side.CurrentRow <= 0)
         return;
     const bool bWasHighlighted = Helper().HighlightedRowCount(side.Rows) >= 1;
-    EditLocus(side.Rows, RowNumber(side.CurrentRow));
+    EditLocus(side.Rows, ToInteger(side.CurrentRow));
     if (bWasHighlighted)
-        Helper().HighlightRow(side.Rows, RowNumber(side.CurrentRow));
+        Helper().HighlightRow(side.Rows, ToInteger(side.CurrentRow));
 }
 
 void STRLocusTagSelector::NewFromMenu(Side& side)

@@ -1,4 +1,4 @@
-#include "selector/row_number.h"
+#include "core/narrowing.h"
 #include "selector/str_locus_tag_selector.h"
 
 namespace Tamrivo
@@ -6,56 +6,46 @@ namespace Tamrivo
 
 void STRLocusTagSelector::ConnectEvents()
 {
-    cmdAddSingle.Click = [this] { cmdAddSingle_Click(); };
-    cmdRemoveSingle.Click = [this] { cmdRemoveSingle_Click(); };
-    cmdAddAll.Click = [this] { cmdAddAll_Click(); };
-    cmdRemoveAll.Click = [this] { cmdRemoveAll_Click(); };
-    cmdEditSTRLocus.Click = [this] { cmdEditSTRLocus_Click(); };
-    cmdNewSTRLocus.Click = [this] { cmdNewSTRLocus_Click(); };
-    mnuAdd.Click = [this] { mnuAdd_Click(); };
-    mnuRemove.Click = [this] { mnuRemove_Click(); };
-    mnuEditAvailable.Click = [this] { mnuEditAvailable_Click(); };
-    mnuEditSelected.Click = [this] { mnuEditSelected_Click(); };
-    mnuNewAvailable.Click = [this] { mnuNewAvailable_Click(); };
-    mnuNewSelected.Click = [this] { mnuNewSelected_Click(); };
-    mnuAscending.Click = [this] { mnuAscending_Click(); };
-    mnuDescending.Click = [this] { mnuDescending_Click(); };
+    m_connections.On(cmdAddSingle.Click, [this] { cmdAddSingle_Click(); });
+    m_connections.On(cmdRemoveSingle.Click, [this] { cmdRemoveSingle_Click(); });
+    m_connections.On(cmdAddAll.Click, [this] { cmdAddAll_Click(); });
+    m_connections.On(cmdRemoveAll.Click, [this] { cmdRemoveAll_Click(); });
+    m_connections.On(cmdEditSTRLocus.Click, [this] { cmdEditSTRLocus_Click(); });
+    m_connections.On(cmdNewSTRLocus.Click, [this] { cmdNewSTRLocus_Click(); });
+    m_connections.On(mnuAdd.Click, [this] { mnuAdd_Click(); });
+    m_connections.On(mnuRemove.Click, [this] { mnuRemove_Click(); });
+    m_connections.On(mnuEditAvailable.Click, [this] { mnuEditAvailable_Click(); });
+    m_connections.On(mnuEditSelected.Click, [this] { mnuEditSelected_Click(); });
+    m_connections.On(mnuNewAvailable.Click, [this] { mnuNewAvailable_Click(); });
+    m_connections.On(mnuNewSelected.Click, [this] { mnuNewSelected_Click(); });
+    m_connections.On(mnuAscending.Click, [this] { mnuAscending_Click(); });
+    m_connections.On(mnuDescending.Click, [this] { mnuDescending_Click(); });
 
-    gridAvailable->GotFocus = [this] { gridAvailable_GotFocus(); };
-    gridAvailable->NoticeA = [this](auto&&...) { gridAvailable_NoticeA(); };
-    gridAvailable->NoticeB = [this](auto&&...) { gridAvailable_NoticeB(); };
-    gridAvailable->SelectionStarted = [this](double dRow, auto&&...) {
-        gridAvailable_SelectionStarted(dRow);
-    };
-    gridAvailable->SelectionChanged = [this](auto&&...) { gridAvailable_SelectionChanged(); };
-    gridAvailable->CellClicked = [this](double dRow, double dColumn, auto&&...) {
-        gridAvailable_CellClicked(dRow, dColumn);
-    };
-    gridAvailable->CellDoubleClicked = [this](double dRow, double, std::int64_t, GridEventObject*,
-                                              GridEventResult& oResult) {
-        gridAvailable_CellDoubleClicked(dRow, oResult);
-    };
-    gridAvailable->CellRightClicked = [this](double dRow, auto&&...) {
-        gridAvailable_CellRightClicked(dRow);
-    };
+    ConnectGrid(m_available);
+    ConnectGrid(m_selected);
+}
 
-    gridSelected->GotFocus = [this] { gridSelected_GotFocus(); };
-    gridSelected->NoticeA = [this](auto&&...) { gridSelected_NoticeA(); };
-    gridSelected->NoticeB = [this](auto&&...) { gridSelected_NoticeB(); };
-    gridSelected->SelectionStarted = [this](double dRow, auto&&...) {
-        gridSelected_SelectionStarted(dRow);
-    };
-    gridSelected->SelectionChanged = [this](auto&&...) { gridSelected_SelectionChanged(); };
-    gridSelected->CellClicked = [this](double dRow, double dColumn, auto&&...) {
-        gridSelected_CellClicked(dRow, dColumn);
-    };
-    gridSelected->CellDoubleClicked = [this](double dRow, double, std::int64_t, GridEventObject*,
-                                             GridEventResult& oResult) {
-        gridSelected_CellDoubleClicked(dRow, oResult);
-    };
-    gridSelected->CellRightClicked = [this](double dRow, auto&&...) {
-        gridSelected_CellRightClicked(dRow);
-    };
+void STRLocusTagSelector::ConnectGrid(Side& side)
+{
+    Gridocx& oGrid = side.Rows;
+    m_connections.On(oGrid.GotFocus, [this, &side] {
+        if (m_bEnabled)
+            TurnTo(side);
+    });
+    m_connections.On(oGrid.NoticeA, [this, &side](auto&&...) { TurnTo(side); });
+    m_connections.On(oGrid.NoticeB, [this, &side](auto&&...) { TurnTo(side); });
+    m_connections.On(oGrid.SelectionStarted,
+                     [this, &side](double dRow, auto&&...) { SelectionStarted(side, dRow); });
+    m_connections.On(oGrid.SelectionChanged, [this, &side](auto&&...) { SelectionChanged(side); });
+    m_connections.On(oGrid.CellClicked, [this, &side](double dRow, double dColumn, auto&&...) {
+        CellClicked(side, dRow, dColumn);
+    });
+    m_connections.On(
+        oGrid.CellDoubleClicked,
+        [this, &side](double dRow, double, std::int64_t, GridEventObject*,
+                      GridEventResult& oResult) { CellDoubleClicked(side, dRow, oResult); });
+    m_connections.On(oGrid.CellRightClicked,
+                     [this, &side](double dRow, auto&&...) { CellRightClicked(side, dRow); });
 }
 
 void STRLocusTagSelector::TurnTo(Side& side)
@@ -68,12 +58,6 @@ void STRLocusTagSelector::DropHighlight(Side& side)
 {
     UnHighlightRows(side.Rows);
     side.CurrentRow = 0;
-}
-
-void STRLocusTagSelector::GotFocus(Side& side)
-{
-    if (m_bEnabled)
-        TurnTo(side);
 }
 
 void STRLocusTagSelector::SelectionStarted(Side& side, double dRow)
@@ -112,16 +96,10 @@ void STRLocusTagSelector::CellClicked(Side& side, double dRow, double dColumn)
     ShowButtons();
 }
 
-void STRLocusTagSelector::gridAvailable_CellDoubleClicked(double dRow, GridEventResult& oResult)
+void STRLocusTagSelector::CellDoubleClicked(Side& side, double dRow, GridEventResult& oResult)
 {
     oResult.Value = 1;
-    AddRow(RowNumber(dRow));
-}
-
-void STRLocusTagSelector::gridSelected_CellDoubleClicked(double dRow, GridEventResult& oResult)
-{
-    oResult.Value = 1;
-    RemoveRow(RowNumber(dRow));
+    MoveRow(side, ToInteger(dRow));
 }
 
 void STRLocusTagSelector::CellRightClicked(Side& side, double dRow)
@@ -133,7 +111,7 @@ void STRLocusTagSelector::CellRightClicked(Side& side, double dRow)
     const bool bHighlighted = Helper().IsRowHighlighted(side.Rows, dRow);
     if (dRow > 0 && !bHighlighted)
     {
-        Helper().HighlightRow(side.Rows, RowNumber(dRow));
+        Helper().HighlightRow(side.Rows, ToInteger(dRow));
         side.CurrentRow = dRow;
         side.EditItem.SetEnabled(true);
         cmdEditSTRLocus.SetEnabled(true);

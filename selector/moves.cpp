@@ -1,4 +1,4 @@
-#include "selector/row_number.h"
+#include "core/narrowing.h"
 #include "selector/str_locus_tag_selector.h"
 
 namespace Tamrivo
@@ -9,7 +9,7 @@ void STRLocusTagSelector::MoveHighlightedRows(Side& from)
     from.CurrentRow = Helper().MoveHighlightedRows(from.Rows, from.Other.Rows);
     if (from.CurrentRow > 0)
     {
-        Helper().HighlightRow(from.Rows, RowNumber(from.CurrentRow));
+        Helper().HighlightRow(from.Rows, ToInteger(from.CurrentRow));
         from.EditItem.SetEnabled(true);
         cmdEditSTRLocus.SetEnabled(true);
     }
@@ -27,7 +27,7 @@ void STRLocusTagSelector::MoveRow(Side& from, std::int32_t nRow)
         from.CurrentRow = nRow - 1;
     Helper().MoveRow(from.Rows, from.Other.Rows, nRow);
     if (from.CurrentRow > 0)
-        Helper().HighlightRow(from.Rows, RowNumber(from.CurrentRow));
+        Helper().HighlightRow(from.Rows, ToInteger(from.CurrentRow));
     ShowButtons();
 }
 
@@ -43,7 +43,7 @@ void STRLocusTagSelector::MoveFromMenu(Side& from)
     if (Helper().HighlightedRowCount(from.Rows) >= 1)
         MoveHighlightedRows(from);
     else
-        MoveRow(from, RowNumber(from.CurrentRow));
+        MoveRow(from, ToInteger(from.CurrentRow));
 }
 
 } // namespace Tamrivo

@@ -11,7 +11,7 @@ void STRLocusTagSelector::ShowButtons()
     Propagating("ShowButtons", [&](Guard& run) {
         ShowMoveButtons(run, m_available);
         ShowMoveButtons(run, m_selected);
-        if (m_dAvailableRow == 0 && m_dSelectedRow == 0)
+        if (m_available.CurrentRow == 0 && m_selected.CurrentRow == 0)
             run([&] { cmdEditSTRLocus.SetEnabled(false); });
     });
 }
@@ -26,11 +26,11 @@ void STRLocusTagSelector::ShowMoveButtons(Guard& run, Side& side)
 void STRLocusTagSelector::UnHighlightRows(Gridocx& oGrid)
 {
     Propagating("UnHighlightRows", [&](Guard& run) {
-        const auto oRange = run([&] { return oGrid.CreateRange(); });
+        const Reference<GridRange> oRange = run([&] { return oGrid.CreateRange(); });
         run([&] { oRange->SetTable(); });
         run([&] { oGrid.SelectRange(oRange, false); });
-        run([&] { oGrid.Param()->EnableSelection(GridSelection::Off); });
-        run([&] { oGrid.Param()->EnableSelection(GridSelection::Full); });
+        for (const std::int16_t lSelection : {GridSelection::Off, GridSelection::Full})
+            run([&] { Reference<GridParam>(oGrid.Param())->EnableSelection(lSelection); });
     });
 }
 
@@ -41,7 +41,7 @@ void STRLocusTagSelector::GridSort(Gridocx* oGrid, bool bDescending, bool bCaseF
         const std::int32_t lPointer = oScreen.MousePointer();
         run([&] { oScreen.SetMousePointer(Pointer::Hourglass); });
 
-        const auto oRange = run([&] {
+        const Reference<GridRange> oRange = run([&] {
             if (oGrid == nullptr)
                 throw Failure(ErrorNumber::NoObject, "STRLocusTagSelector",
                               "The selector has not been initialized");
@@ -50,17 +50,17 @@ void STRLocusTagSelector::GridSort(Gridocx* oGrid, bool bDescending, bool bCaseF
         run([&] { oRange->SetTable(); });
 
         // The array keeps one more place than there are keys.
-        constexpr std::int16_t columns = 6;
-        std::array<std::shared_ptr<GridSortInfo>, columns + 1> keys;
-        for (std::int16_t column = 1; column <= columns; ++column)
+        constexpr std::int16_t nColumns = 6;
+        std::array<std::shared_ptr<GridSortInfo>, nColumns + 1> keys;
+        for (std::int16_t nColumn = 1; nColumn <= nColumns; ++nColumn)
         {
-            const auto oKey = run([&] { return oGrid->CreateSortInfo(); });
-            oKey->nRC = column;
+            const Reference<GridSortInfo> oKey = run([&] { return oGrid->CreateSortInfo(); });
+            run([&] { oKey->nRC = nColumn; });
             oKey->SortType = GridSortInfo::NaturalOrder;
             oKey->bCase = bCaseFlag;
             if (bDescending)
                 oKey->SortOrder = GridSortInfo::Descending;
-            keys[static_cast<std::size_t>(column - 1)] = oKey;
+            keys[static_cast<std::size_t>(nColumn - 1)] = oKey;
         }
         run([&] { oGrid->SortRows(oRange, 3, keys, 2); });
         run([&] { oScreen.SetMousePointer(lPointer); });
@@ -100,6 +100,7 @@ void STRLocusTagSelector::SetEnabled(bool bValue)
     oSelected.LockUpdate(bSelectedLock);
     oSelected.SetReadOnly(bSelectedReadOnly);
     m_bEnabled = bValue;
+    EnabledChanged();
 }
 
 void STRLocusTagSelector::SetLook(bool bEnabled, std::int32_t lBackgroundColor,
@@ -114,8 +115,8 @@ void STRLocusTagSelector::SetLook(bool bEnabled, std::int32_t lBackgroundColor,
         side->Rows.SetDisabledState(bEnabled ? 0 : 1);
     for (const Side* side : sides)
     {
-        const auto oRange = side->Rows.CreateRange();
-        const auto oStyle = side->Rows.CreateStyle();
+        const Reference<GridRange> oRange = side->Rows.CreateRange();
+        const Reference<GridStyle> oStyle = side->Rows.CreateStyle();
         oRange->SetTable();
         oStyle->Free();
         oStyle->SetTextColor(lTextColor);

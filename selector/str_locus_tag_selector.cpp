@@ -1,8 +1,8 @@
 #include "selector/str_locus_tag_selector.h"
 
+#include "core/narrowing.h"
 #include "core/numbers.h"
 #include "core/text.h"
-#include "selector/row_number.h"
 
 namespace Tamrivo
 {
@@ -13,11 +13,12 @@ namespace
 /// Number of the layout with a column for the tag and one for the date.
 constexpr std::int32_t LocusTagLayout = 21;
 
-void Apply(GridHelper& helper, Gridocx& grid, std::shared_ptr<Grid>& layout, ObjectManager& manager)
+std::shared_ptr<Grid> ApplyLayout(GridHelper& oHelper, Gridocx& oGrid, ObjectManager& oManager)
 {
-    layout = CreateObject<Grid>(manager, "Grid");
-    layout->SetGridID(LocusTagLayout);
-    helper.ApplyLayout(grid, *layout, 0, 0, 0);
+    auto oLayout = CreateObject<Grid>(oManager, "Grid");
+    oLayout->SetGridID(LocusTagLayout);
+    oHelper.ApplyLayout(oGrid, *oLayout, 0, 0, 0);
+    return oLayout;
 }
 
 } // namespace
@@ -43,16 +44,14 @@ void STRLocusTagSelector::UserControl_Initialize()
         gridSelected->SetSetting(dispatchID, value);
     }
     m_bEnabled = true;
-    m_dAvailableRow = 0;
-    m_dSelectedRow = 0;
 }
 
 void STRLocusTagSelector::Initialize(const std::shared_ptr<AnalysisParameter>& oAnalysisParameter)
 {
     m_oAnalysisParameter = oAnalysisParameter;
-    const auto oManager = m_host.NewObjectManager();
-    Apply(Helper(), gridAvailable.Object(), m_oAvailableLayout, *oManager);
-    Apply(Helper(), gridSelected.Object(), m_oSelectedLayout, *oManager);
+    const Reference<ObjectManager> oManager = m_host.NewObjectManager();
+    for (Side* side : {&m_available, &m_selected})
+        side->Layout = ApplyLayout(Helper(), side->Rows, *oManager);
     m_oAllLocusTags = CurrentLoci(*oManager, "Name");
 
     Collection<std::shared_ptr<LocusTagEntry>> colStored;
@@ -60,7 +59,7 @@ void STRLocusTagSelector::Initialize(const std::shared_ptr<AnalysisParameter>& o
     if (oFragAnalysisParam.LocusTagListCount() >= 1)
     {
         for (const auto& oEntry : oFragAnalysisParam.LocusTagList(0).Entries())
-            colStored.Add(oEntry, IntegerText(oEntry->TagID(0)));
+            colStored.Add(oEntry, IntegerText(Reference<LocusTagEntry>(oEntry)->TagID(0)));
     }
 
     Gridocx* const grids[] = {&gridAvailable.Object(), &gridSelected.Object()};
@@ -75,7 +74,7 @@ void STRLocusTagSelector::Initialize(const std::shared_ptr<AnalysisParameter>& o
     for (const auto& oMember : m_oAllLocusTags->Members())
     {
         const auto oLocus = As<Locus>(oMember);
-        AppendRow(IsInTagList(colStored, *oLocus) ? m_selected.Rows : m_available.Rows, *oLocus);
+        AppendRow(IsInTagList(colStored, *oLocus) ? m_selected.Rows : m_available.Rows, oLocus);
     }
 
     for (const Side* side : {&m_available, &m_selected})
@@ -93,7 +92,7 @@ void STRLocusTagSelector::Initialize(const std::shared_ptr<AnalysisParameter>& o
 
 std::int32_t STRLocusTagSelector::NumberOfSelectedLocusTags() const
 {
-    return RowNumber(gridSelected->RowCount());
+    return ToInteger(gridSelected->RowCount());
 }
 
 Collection<std::shared_ptr<Locus>> STRLocusTagSelector::SelectedLocusTags() const
@@ -101,7 +100,7 @@ Collection<std::shared_ptr<Locus>> STRLocusTagSelector::SelectedLocusTags() cons
     Collection<std::shared_ptr<Locus>> colLoci;
     const double dRows = gridSelected->RowCount();
     for (double dRow = 1; dRow <= dRows; ++dRow)
-        colLoci.Add(LocusOfRow(gridSelected.Object(), dRow));
+        colLoci.Add(FindLocusOfRow(gridSelected.Object(), dRow));
     return colLoci;
 }
 
@@ -113,7 +112,7 @@ void STRLocusTagSelector::Save(FragAnalysisParam& oFragAnalysisParam)
     oEntries.Clear();
     for (const auto& oLocus : SelectedLocusTags())
     {
-        const auto oEntry = m_host.NewLocusTagEntry();
+        const Reference<LocusTagEntry> oEntry = m_host.NewLocusTagEntry();
         oEntry->SetTagName(oLocus->LocusTag());
         const std::int32_t lResult = oEntry->Load();
         switch (lResult)
@@ -138,17 +137,9 @@ void STRLocusTagSelector::Save(FragAnalysisParam& oFragAnalysisParam)
     }
 }
 
-ObjectList& STRLocusTagSelector::LocusTags() const
+std::shared_ptr<Locus> STRLocusTagSelector::FindLocusOfRow(const Gridocx& oGrid, double dRow) const
 {
-    if (!m_oAllLocusTags)
-        throw Failure(ErrorNumber::NoObject, "STRLocusTagSelector",
-                      "The selector has not been initialized");
-    return *m_oAllLocusTags;
-}
-
-std::shared_ptr<Locus> STRLocusTagSelector::LocusOfRow(const Gridocx& oGrid, double dRow) const
-{
-    return As<Locus>(LocusTags().Item(oGrid.GetTextRowCol(dRow, 1)));
+    return As<Locus>(m_oAllLocusTags->Item(oGrid.GetTextRowCol(dRow, 1)));
 }
 
 bool STRLocusTagSelector::IsInTagList(const Keyed& colTagIDs, const Locus& oLocus) const
@@ -156,12 +147,12 @@ bool STRLocusTagSelector::IsInTagList(const Keyed& colTagIDs, const Locus& oLocu
     return m_host.SharedUtility().KeyExists(colTagIDs, IntegerText(oLocus.LocusTagID()));
 }
 
-void STRLocusTagSelector::AppendRow(Gridocx& oGrid, const Locus& oLocus)
+void STRLocusTagSelector::AppendRow(Gridocx& oGrid, const Reference<Locus>& oLocus)
 {
     const double dRow = oGrid.RowCount() + 1;
     oGrid.SetRowCount(dRow);
-    oGrid.SetValueRowCol(dRow, 1, oLocus.LocusTag(), 1);
-    oGrid.SetValueRowCol(dRow, 2, DateText(oLocus.DateLastModified()), 1);
+    oGrid.SetValueRowCol(dRow, 1, oLocus->LocusTag(), 1);
+    oGrid.SetValueRowCol(dRow, 2, DateText(oLocus->DateLastModified()), 1);
 }
 
 } // namespace Tamrivo

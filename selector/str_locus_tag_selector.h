@@ -2,7 +2,9 @@
 
 #include "contracts/locus.h"
 #include "core/collection.h"
+#include "core/event.h"
 #include "core/guard.h"
+#include "core/reference.h"
 #include "selector/grid_helper.h"
 #include "selector/str_locus_tag_selector_form.h"
 
@@ -37,8 +39,9 @@ public:
     Collection<std::shared_ptr<Locus>> SelectedLocusTags() const;
 
     /// Fills both grids: each current locus stands in one of them, in the right one if the
-    /// parameter's first tag list holds its `LocusTagID`. Raises `ErrorNumber::KeyTaken` when the
-    /// list holds a tag twice, and passes on what the store raises.
+    /// parameter's first tag list holds its `LocusTagID`. Raises `ErrorNumber::NoObject` without a
+    /// parameter, `ErrorNumber::KeyTaken` when the list holds a tag twice, and passes on what the
+    /// store raises.
     void Initialize(const std::shared_ptr<AnalysisParameter>& oAnalysisParameter);
 
     /// Replaces the first tag list of a parameter, which need not be the one given to `Initialize`,
@@ -56,30 +59,28 @@ private:
     struct Side
     {
         Gridocx& Rows;
-        double& CurrentRow;
-        std::shared_ptr<Grid>& Layout;
         Label& Caption;
         CommandButton& MoveAll;
         CommandButton& MoveSingle;
         Menu& RowMenu;
         MenuItem& EditItem;
         Side& Other;
+        double CurrentRow = 0;
+        Reference<Grid> Layout = {};
     };
 
     void UserControl_Initialize();
     void ConnectEvents();
+    void ConnectGrid(Side& side);
 
     GridHelper& Helper() const { return m_host.SharedGridHelper(); }
-    ObjectList& LocusTags() const;
-    std::shared_ptr<Locus> LocusOfRow(const Gridocx& oGrid, double dRow) const;
+    std::shared_ptr<Locus> FindLocusOfRow(const Gridocx& oGrid, double dRow) const;
     bool IsInTagList(const Keyed& colTagIDs, const Locus& oLocus) const;
-    static void AppendRow(Gridocx& oGrid, const Locus& oLocus);
+    static void AppendRow(Gridocx& oGrid, const Reference<Locus>& oLocus);
 
     // Moving tags between the lists.
     void AddHighlightedRows() { MoveHighlightedRows(m_available); }
     void RemoveHighlightedRows() { MoveHighlightedRows(m_selected); }
-    void AddRow(std::int32_t nRow) { MoveRow(m_available, nRow); }
-    void RemoveRow(std::int32_t nRow) { MoveRow(m_selected, nRow); }
     void AddAllRows() { MoveAllRows(m_available); }
     void RemoveAllRows() { MoveAllRows(m_selected); }
     void MoveHighlightedRows(Side& from);
@@ -96,15 +97,15 @@ private:
 
     // What a person does on one side; `m_bEnabled` shuts all but the notices and the change.
     void TurnTo(Side& side);
-    void GotFocus(Side& side);
     void SelectionStarted(Side& side, double dRow);
     void SelectionChanged(Side& side);
     void CellClicked(Side& side, double dRow, double dColumn);
+    void CellDoubleClicked(Side& side, double dRow, GridEventResult& oResult);
     void CellRightClicked(Side& side, double dRow);
     void DropHighlight(Side& side);
 
     // Creating and editing loci.
-    void RunLocusEditor(std::shared_ptr<Locus>& oLocus, bool& bCompleted);
+    void RunLocusEditor(Reference<Locus>& oLocus, bool& bCompleted);
     void EditLocus(Gridocx& oGrid, std::int32_t nRow);
     void NewLocus();
     void AddLocusRow(const std::shared_ptr<Locus>& oLocus);
@@ -129,46 +130,28 @@ private:
     void mnuAscending_Click() { GridSort(m_oMenuGrid, false, false); }
     void mnuDescending_Click() { GridSort(m_oMenuGrid, true, true); }
 
-    void gridAvailable_GotFocus() { GotFocus(m_available); }
-    void gridAvailable_NoticeA() { TurnTo(m_available); }
-    void gridAvailable_NoticeB() { TurnTo(m_available); }
-    void gridAvailable_SelectionStarted(double dRow) { SelectionStarted(m_available, dRow); }
-    void gridAvailable_SelectionChanged() { SelectionChanged(m_available); }
-    void gridAvailable_CellClicked(double dRow, double dColumn)
-    {
-        CellClicked(m_available, dRow, dColumn);
-    }
-    void gridAvailable_CellDoubleClicked(double dRow, GridEventResult& oResult);
-    void gridAvailable_CellRightClicked(double dRow) { CellRightClicked(m_available, dRow); }
-
-    void gridSelected_GotFocus() { GotFocus(m_selected); }
-    void gridSelected_NoticeA() { TurnTo(m_selected); }
-    void gridSelected_NoticeB() { TurnTo(m_selected); }
-    void gridSelected_SelectionStarted(double dRow) { SelectionStarted(m_selected, dRow); }
-    void gridSelected_SelectionChanged() { SelectionChanged(m_selected); }
-    void gridSelected_CellClicked(double dRow, double dColumn)
-    {
-        CellClicked(m_selected, dRow, dColumn);
-    }
-    void gridSelected_CellDoubleClicked(double dRow, GridEventResult& oResult);
-    void gridSelected_CellRightClicked(double dRow) { CellRightClicked(m_selected, dRow); }
-
-    std::shared_ptr<ObjectList> m_oAllLocusTags;
-    std::shared_ptr<AnalysisParameter> m_oAnalysisParameter;
-    double m_dAvailableRow = 0;
-    double m_dSelectedRow = 0;
-    std::shared_ptr<Grid> m_oAvailableLayout;
-    std::shared_ptr<Grid> m_oSelectedLayout;
+    Reference<ObjectList> m_oAllLocusTags;
+    Reference<AnalysisParameter> m_oAnalysisParameter;
     Gridocx* m_oMenuGrid = nullptr;
     bool m_bEnabled = false;
     bool m_bRefreshNeeded = false;
 
-    Side m_available{gridAvailable.Object(), m_dAvailableRow,  m_oAvailableLayout,
-                     strAvailable,           cmdAddAll,        cmdAddSingle,
-                     mnuSTRLocusAvailable,   mnuEditAvailable, m_selected};
-    Side m_selected{gridSelected.Object(), m_dSelectedRow,  m_oSelectedLayout,
-                    strSelected,           cmdRemoveAll,    cmdRemoveSingle,
-                    mnuSTRLocusSelected,   mnuEditSelected, m_available};
+    Side m_available{.Rows = gridAvailable.Object(),
+                     .Caption = strAvailable,
+                     .MoveAll = cmdAddAll,
+                     .MoveSingle = cmdAddSingle,
+                     .RowMenu = mnuSTRLocusAvailable,
+                     .EditItem = mnuEditAvailable,
+                     .Other = m_selected};
+    Side m_selected{.Rows = gridSelected.Object(),
+                    .Caption = strSelected,
+                    .MoveAll = cmdRemoveAll,
+                    .MoveSingle = cmdRemoveSingle,
+                    .RowMenu = mnuSTRLocusSelected,
+                    .EditItem = mnuEditSelected,
+                    .Other = m_available};
+
+    Connections m_connections;
 };
 
 } // namespace Tamrivo

@@ -6,36 +6,37 @@ namespace Tamrivo
 Service::Service(Host& host) : Guarded(host.SharedUtility(), "Service"), m_host(host)
 {
     Class_Initialize();
-    m_oServiceBase->GetReportContextTypes = [this](ReportContextTypes& colReportContextTypes) {
-        m_oServiceBase_GetReportContextTypes(colReportContextTypes);
-    };
-    m_oServiceBase->GetReportContexts = [this](std::int32_t lReportContextTypeID,
-                                               ReportContexts& dctReportContexts) {
-        m_oServiceBase_GetReportContexts(lReportContextTypeID, dctReportContexts);
-    };
-}
-
-Service::~Service()
-{
-    m_oServiceBase->GetReportContextTypes = nullptr;
-    m_oServiceBase->GetReportContexts = nullptr;
 }
 
 void Service::Class_Initialize()
 {
-    Propagating("Class_Initialize",
-                [&](Guard& run) { run([&] { m_oServiceBase = m_host.NewServiceBase(); }); });
+    Propagating("Class_Initialize", [&](Guard& run) {
+        run([&] { m_oServiceBase = m_host.NewServiceBase(); });
+        run([&] { ConnectServiceBase(); });
+    });
+}
+
+void Service::ConnectServiceBase()
+{
+    m_connections.On(m_oServiceBase->GetReportContextTypes,
+                     [this](ReportContextTypes& colReportContextTypes) {
+                         m_oServiceBase_GetReportContextTypes(colReportContextTypes);
+                     });
+    m_connections.On(m_oServiceBase->GetReportContexts,
+                     [this](std::int32_t lReportContextTypeID, ReportContexts& dctReportContexts) {
+                         m_oServiceBase_GetReportContexts(lReportContextTypeID, dctReportContexts);
+                     });
 }
 
 std::shared_ptr<ServiceBase> Service::IServiceAccess_Service()
 {
     return Propagating("IServiceAccess_Service (Get)",
-                       [&](Guard& run) { return run([&] { return m_oServiceBase; }); });
+                       [&](Guard&) -> std::shared_ptr<ServiceBase> { return m_oServiceBase; });
 }
 
 void Service::m_oServiceBase_GetReportContextTypes(ReportContextTypes& colReportContextTypes)
 {
-    const auto oType = m_host.NewReportContextType();
+    const Reference<ReportContextType> oType = m_host.NewReportContextType();
     oType->Define(LocusReportContext::Identifier, std::string(LocusReportContext::Name),
                   LocusReportContext::Number, *this);
     colReportContextTypes.Add(oType);
@@ -43,10 +44,11 @@ void Service::m_oServiceBase_GetReportContextTypes(ReportContextTypes& colReport
 
 void Service::m_oServiceBase_GetReportContexts(std::int32_t, ReportContexts& dctReportContexts)
 {
-    const auto oLoci = CurrentLoci(m_host.SharedObjectManagerGlobal().Manager(), "");
-    for (const auto& member : oLoci->Members())
+    const Reference<ObjectList> oLoci =
+        CurrentLoci(m_host.SharedObjectManagerGlobal().Manager(), "");
+    for (const auto& oMember : oLoci->Members())
     {
-        const auto oLocus = As<Locus>(member);
+        const auto oLocus = As<Locus>(oMember);
         dctReportContexts.Add(oLocus->LocusTag(), oLocus);
     }
 }

@@ -3,6 +3,7 @@
 #include "contracts/host.h"
 #include "contracts/service_base.h"
 #include "core/guard.h"
+#include "core/reference.h"
 
 #include <cstdint>
 #include <memory>
@@ -35,19 +36,20 @@ private:
 class Service final : public ServiceAccess, private Guarded
 {
 public:
-    /// Passes on a failure of the host's to make a `ServiceBase`.
+    /// Passes on a failure of the host's to make a `ServiceBase`; `ErrorNumber::NoObject` for none.
     explicit Service(Host& host);
-    ~Service() override;
 
 private:
     std::shared_ptr<ServiceBase> IServiceAccess_Service() override;
 
     void Class_Initialize();
+    void ConnectServiceBase();
     void m_oServiceBase_GetReportContextTypes(ReportContextTypes& colReportContextTypes);
     void m_oServiceBase_GetReportContexts(std::int32_t, ReportContexts& dctReportContexts);
 
     Host& m_host;
-    std::shared_ptr<ServiceBase> m_oServiceBase;
+    Reference<ServiceBase> m_oServiceBase;
+    Connections m_connections;
 };
 
 } // namespace Tamrivo

@@ -11,8 +11,8 @@ namespace
 {
 
 /// Blanks at the end of a line are left out.
-void PrintRow(std::ostream& out, const Table& table, const std::vector<std::string>& cells,
-              const std::vector<std::size_t>& widths)
+void PrintLine(std::ostream& out, const Table& table, const std::vector<std::string>& cells,
+               const std::vector<std::size_t>& widths)
 {
     std::string line;
     for (std::size_t at = 0; at < cells.size(); ++at)
@@ -48,7 +48,7 @@ void PrintAligned(std::ostream& out, const Table& table)
         rule.emplace_back(width, '-');
     rows.insert(rows.begin() + 1, std::move(rule));
     for (const auto& row : rows)
-        PrintRow(out, table, row, widths);
+        PrintLine(out, table, row, widths);
 }
 
 } // namespace Tamrivo

@@ -1,8 +1,12 @@
 #include "console/commands/command.h"
 #include "console/commands/stored_loci.h"
-#include "platform/panels/counts.h"
-#include "platform/parameters/parameter_store.h"
-#include "platform/store/store.h"
+#include "host/library/changes.h"
+#include "host/loci/counts.h"
+#include "host/store/parameter_store.h"
+#include "host/store/store.h"
+
+#include <sstream>
+#include <vector>
 
 namespace Tamrivo
 {
@@ -10,17 +14,21 @@ namespace Tamrivo
 namespace
 {
 
-void Delete(Context& context, const std::string& tag)
+void Delete(Context& context, const std::vector<std::string>& tags)
 {
     Store store(context.StoreLocation);
-    const auto locus = RequireLocus(store, tag);
-    const auto users = ParameterStore(store).NamesUsing(locus->LocusTagID());
-    const auto alleles = static_cast<std::size_t>(locus->Alleles().Count());
-    store.DeleteLocus(tag);
-
-    context.Out << "Deleted " << locus->LocusTag() << " with " << CountOfAlleles(alleles) << ".\n";
-    for (const std::string& name : users)
-        context.Out << "The analysis parameter " << name << " still refers to it.\n";
+    store.SetReason(context.Reason);
+    std::ostringstream done;
+    for (const std::string& tag : tags)
+    {
+        const auto locus = RequireLocus(store, tag);
+        const auto alleles = static_cast<std::size_t>(locus->Alleles().Count());
+        done << "Deleted " << locus->LocusTag() << " with " << CountOfAlleles(alleles) << ".\n";
+        for (const std::string& name : ParameterStore(store).NamesUsing(locus->LocusTagID()))
+            done << "The analysis parameter " << name << " still refers to it.\n";
+    }
+    DeleteLoci(store, tags);
+    context.Out << done.str();
 }
 
 } // namespace
@@ -28,13 +36,16 @@ void Delete(Context& context, const std::string& tag)
 void AddDeleteCommand(CLI::App& program, Context& context)
 {
     CLI::App& command =
-        AddCommand(program, context, "delete", "Delete a locus with its alleles.",
-                   "  tamrivo show D3S1358 --format tsv > D3S1358.tsv    keep a copy\n"
-                   "  tamrivo delete D3S1358\n"
-                   "  tamrivo import D3S1358.tsv                         and bring it back\n");
-    const auto tag = std::make_shared<std::string>();
-    command.add_option("TAG", *tag, "The locus tag; case doesn't count")->required()->type_name("");
-    command.callback([&context, tag] { Delete(context, *tag); });
+        AddCommand(program, context, "delete", "Delete loci with their alleles, all or none.",
+                   "  tamrivo delete D3S1358 --reason \"typing error\"\n"
+                   "  tamrivo history D3S1358                  what is kept of it\n"
+                   "  tamrivo restore D3S1358 --at 3           brings revision 3 back\n");
+    const auto tags = std::make_shared<std::vector<std::string>>();
+    command.add_option("TAG", *tags, "The locus tags; case doesn't count")
+        ->required()
+        ->type_name("");
+    AddReasonOption(command, context);
+    command.callback([&context, tags] { Delete(context, *tags); });
 }
 
 } // namespace Tamrivo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/panels/progress.h"
+#include "host/loci/progress.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,11 +1,11 @@
-#include "platform/reports/report.h"
+#include "host/reports/report.h"
 
 #include "console/commands/aligned_table.h"
 #include "console/commands/command.h"
 #include "console/commands/output_format.h"
-#include "platform/framework/host_application.h"
-#include "platform/framework/parameter_page.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/host_application.h"
+#include "host/framework/parameter_page.h"
+#include "host/framework/wizard_session.h"
 
 #include <memory>
 #include <optional>
@@ -16,7 +16,7 @@ namespace Tamrivo
 namespace
 {
 
-struct Options
+struct ReportOptions
 {
     std::optional<std::string> Parameter;
     OutputFormat Format = OutputFormat::Table;
@@ -61,7 +61,7 @@ private:
 DescribedReport LociOfParameter(HostApplication& host, const std::string& name)
 {
     ParameterPage page(host, host.Parameters().Open(name));
-    Report report{"Analysis parameter " + page.Name(), {}, {}};
+    Report report{"Analysis parameter " + page.Name(), {}, {}, host.Store().Dyes()};
     for (const auto& locus : page.Selector().SelectedLocusTags())
     {
         report.Keys.push_back(locus->LocusTag());
@@ -70,18 +70,15 @@ DescribedReport LociOfParameter(HostApplication& host, const std::string& name)
     return {{{"Parameter", page.Name()}}, std::move(report)};
 }
 
-std::vector<DescribedReport> Reports(HostApplication& host, const Options& options)
+std::vector<DescribedReport> Reports(HostApplication& host, const ReportOptions& options)
 {
     if (options.Parameter)
         return {LociOfParameter(host, *options.Parameter)};
     std::vector<DescribedReport> reports;
-    for (const auto& member : host.ContextTypes())
-    {
-        const auto& type = dynamic_cast<const HostReportContextType&>(*member);
+    for (const ContextKind& kind : host.ContextKinds())
         reports.push_back(
-            {{{"Identifier", type.Identifier()}, {"Name", type.Name()}, {"Number", type.Number()}},
-             ContextsOf(host, type)});
-    }
+            {{{"Identifier", kind.Identifier}, {"Name", kind.Name}, {"Number", kind.Number}},
+             ContextsOf(host, kind)});
     return reports;
 }
 
@@ -106,7 +103,7 @@ void PrintJson(std::ostream& out, const std::vector<DescribedReport>& reports)
     for (const auto& [about, report] : reports)
     {
         auto& object = array.emplace_back(about);
-        auto& contexts = object["Contexts"] = LociJson(report.Items);
+        auto& contexts = object["Contexts"] = LociJson(report.Items, report.OfStore);
         for (std::size_t at = 0; at < contexts.size(); ++at)
         {
             nlohmann::ordered_json context{{"Context", report.Keys[at]}};
@@ -125,7 +122,7 @@ void PrintPage(std::ostream& out, const std::vector<DescribedReport>& reports)
     PrintHtmlPage(out, tables);
 }
 
-void PrintReport(Context& context, const Options& options)
+void PrintReport(Context& context, const ReportOptions& options)
 {
     Store store(context.StoreLocation);
     SilentFrontEnd frontEnd(context.Err);
@@ -150,7 +147,7 @@ void AddReportCommand(CLI::App& program, Context& context)
                    "  tamrivo report --parameter Casework      the loci of one analysis parameter\n"
                    "  tamrivo report --format html > loci.html a page to print or send\n"
                    "  tamrivo report --format json             for a program\n");
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ReportOptions>();
     command
         .add_option("--parameter", options->Parameter,
                     "Only the loci that this analysis parameter uses, in their order")

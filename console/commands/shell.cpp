@@ -2,8 +2,8 @@
 
 #include "console/commands/command.h"
 #include "console/shell/terminal_source.h"
-#include "platform/framework/environment.h"
-#include "platform/store/store.h"
+#include "host/framework/environment.h"
+#include "host/store/store.h"
 
 #include <unistd.h>
 
@@ -20,7 +20,7 @@ namespace Tamrivo
 namespace
 {
 
-struct Options
+struct ShellOptions
 {
     std::string Script;
     bool KeepGoing = false;
@@ -42,7 +42,7 @@ bool IsTerminal(const std::istream& in)
     return &in == &std::cin && isatty(STDIN_FILENO) == 1 && isatty(STDOUT_FILENO) == 1;
 }
 
-void RunShell(Context& context, const Options& options)
+void RunShell(Context& context, const ShellOptions& options)
 {
     std::ifstream script;
     std::unique_ptr<LineSource> source;
@@ -57,6 +57,7 @@ void RunShell(Context& context, const Options& options)
         source = std::make_unique<StreamSource>(context.In, "standard input");
 
     Store store(context.StoreLocation);
+    store.SetReason(context.Reason);
     Shell shell(store, *source, context.Out, context.Err,
                 options.KeepGoing ? AfterError::KeepGoing : AfterError::Stop);
     context.Status = shell.Run();
@@ -72,10 +73,11 @@ void AddShellCommand(CLI::App& program, Context& context)
         "  tamrivo shell tour.txt                 commands from a script\n"
         "  tamrivo shell --keep-going tour.txt    go on after a command that is refused\n"
         "  echo 'locus D3S1358' | tamrivo shell   one command\n");
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ShellOptions>();
     command.add_option("SCRIPT", options->Script, "The script; without one, standard input")
         ->type_name("");
     command.add_flag("--keep-going", options->KeepGoing, "Go on after a command that is refused");
+    AddReasonOption(command, context);
     command.callback([&context, options] { RunShell(context, *options); });
 }
 

@@ -1,7 +1,7 @@
 #include "console/commands/stored_loci.h"
 
 #include "core/text.h"
-#include "platform/store/store.h"
+#include "host/store/store.h"
 
 #include <algorithm>
 #include <numeric>

@@ -2,7 +2,7 @@
 
 #include "controls/user.h"
 #include "controls/user_control.h"
-#include "platform/alleles/pane_user.h"
+#include "host/alleles/pane_user.h"
 
 #include <cstddef>
 #include <cstdint>

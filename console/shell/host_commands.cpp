@@ -128,6 +128,11 @@ void Delete(Shell& shell, const Words& arguments)
     shell.Host().Store().DeleteLocus(arguments[0]);
 }
 
+void Reason(Shell& shell, const Words& arguments)
+{
+    shell.Host().Store().SetReason(arguments[0]);
+}
+
 void Quit(Shell& shell, const Words&)
 {
     shell.Quit();
@@ -135,7 +140,7 @@ void Quit(Shell& shell, const Words&)
 
 using enum Allowed;
 
-constexpr ShellCommand commands[] = {
+constexpr ShellCommand hostCommands[] = {
     {"new", "[--binning]", 0, 1, Otherwise, "edit a new locus", New},
     {"edit", "TAG [--binning]", 1, 2, Otherwise, "edit a stored locus", Edit},
     {"activate", "", 0, 0, Otherwise, "turn to the page on top", Activate},
@@ -151,6 +156,7 @@ constexpr ShellCommand commands[] = {
     {"delete-parameter", "NAME", 1, 1, Otherwise, "remove a parameter", DeleteParameter},
     {"enable", "true|false", 1, 1, Otherwise, "switch the selector on or off", Enable},
     {"delete", "TAG", 1, 1, Otherwise, "remove a locus from the store", Delete},
+    {"reason", "TEXT", 1, 1, Always, "why the changes to come are made", Reason},
     {"quit", "", 0, 0, Otherwise, "close everything and end", Quit},
 };
 
@@ -158,7 +164,7 @@ constexpr ShellCommand commands[] = {
 
 CommandGroup HostCommands()
 {
-    return {"The host", commands};
+    return {"The host", hostCommands};
 }
 
 } // namespace Tamrivo

@@ -2,8 +2,8 @@
 #include "console/shell/command_table.h"
 #include "console/shell/shell.h"
 #include "controls/form_user.h"
-#include "platform/alleles/pane_user.h"
-#include "platform/grid/grid_user.h"
+#include "host/alleles/pane_user.h"
+#include "host/grid/grid_user.h"
 
 #include <algorithm>
 #include <iterator>
@@ -148,36 +148,47 @@ std::int32_t Row(const std::string& word)
 const AlleleColumn& Column(const std::string& word)
 {
     const auto* column = std::ranges::find(AlleleColumns, word, &AlleleColumn::Name);
-    if (column != std::end(AlleleColumns))
+    if (column != std::end(AlleleColumns) && column->SetText != nullptr)
         return *column;
     std::string names;
     for (const AlleleColumn& each : AlleleColumns)
-        names += " " + std::string(each.Name);
+    {
+        if (each.SetText != nullptr)
+            names += " " + std::string(each.Name);
+    }
     throw User::Refusal("there is no column \"" + word + "\"; the columns are" + names);
+}
+
+void ActOnAlleles(const User::AllelePaneControl& pane, const Words& arguments)
+{
+    const std::string& action = arguments[0];
+    if (action == "add" && arguments.size() == 1)
+        User::AddAllele(pane);
+    else if (action == "add" && arguments.size() == 2)
+        User::AddAllele(pane, Row(arguments[1]));
+    else if (action == "remove" && arguments.size() == 2)
+        User::RemoveAllele(pane, Row(arguments[1]));
+    else if (action == "undo" && arguments.size() == 1)
+        User::UndoAlleles(pane);
+    else if (action == "redo" && arguments.size() == 1)
+        User::RedoAlleles(pane);
+    else if (arguments.size() == 3)
+        User::EditAllele(pane, Row(action), Column(arguments[1]), arguments[2]);
+    else
+        throw User::Refusal("usage: allele ROW COLUMN TEXT, allele add, allele add ROW, "
+                            "allele remove ROW, allele undo or allele redo");
 }
 
 void EditAllele(Shell& shell, const Words& arguments)
 {
-    const bool isAlone = arguments.size() == 1;
-    if (isAlone && arguments[0] == "add")
-        User::AddAllele(AllelePaneOnTop(shell));
-    else if (isAlone && arguments[0] == "undo")
-        User::UndoAlleles(AllelePaneOnTop(shell));
-    else if (isAlone && arguments[0] == "redo")
-        User::RedoAlleles(AllelePaneOnTop(shell));
-    else if (arguments.size() == 2 && arguments[0] == "remove")
-        User::RemoveAllele(AllelePaneOnTop(shell), Row(arguments[1]));
-    else if (arguments.size() == 3)
-        User::EditAllele(AllelePaneOnTop(shell), Row(arguments[0]), Column(arguments[1]),
-                         arguments[2]);
-    else
-        throw User::Refusal("usage: allele ROW COLUMN TEXT, allele add, allele remove ROW, "
-                            "allele undo or allele redo");
+    const User::AllelePaneControl& pane = AllelePaneOnTop(shell);
+    ActOnAlleles(pane, arguments);
+    User::LeaveAllele(pane);
 }
 
 using enum Allowed;
 
-constexpr ShellCommand commands[] = {
+constexpr ShellCommand personCommands[] = {
     {"type", "CONTROL TEXT", 2, 2, Otherwise, "type the text at the end of a field", Type},
     {"press", "CONTROL CODE", 2, 2, Otherwise, "press a key by its code; 8 is Backspace", Press},
     {"paste", "CONTROL TEXT", 2, 2, Otherwise, "replace a field's text at once", Paste},
@@ -199,7 +210,7 @@ constexpr ShellCommand commands[] = {
 
 CommandGroup PersonCommands()
 {
-    return {"A person", commands};
+    return {"A person", personCommands};
 }
 
 } // namespace Tamrivo

@@ -4,11 +4,12 @@
 #include "console/shell/shell.h"
 #include "core/numbers.h"
 #include "core/text.h"
-#include "platform/alleles/pane_user.h"
-#include "platform/grid/grid_user.h"
+#include "host/alleles/pane_user.h"
+#include "host/grid/grid_user.h"
 
 #include <algorithm>
 #include <limits>
+#include <span>
 
 // What can be read, also while a menu or a message box waits.
 
@@ -65,8 +66,8 @@ void PrintAlleles(Shell& shell, const AlleleRows& alleles, bool numbered)
         std::vector<std::string> cells;
         if (numbered)
             cells.push_back(std::to_string(++number));
-        for (const AlleleColumn& column : AlleleColumns)
-            cells.push_back(CellText(*allele, column));
+        for (const AlleleColumn& column : std::span(AlleleColumns).first<ListedColumns>())
+            cells.push_back(column.Text(*allele));
         PrintRow(shell.Out(), cells);
     }
 }
@@ -144,12 +145,9 @@ void Contexts(Shell& shell, const Words& arguments)
 
 void ContextTypes(Shell& shell, const Words&)
 {
-    for (const auto& type : shell.Host().ContextTypes())
-    {
-        const auto& defined = dynamic_cast<const HostReportContextType&>(*type);
-        PrintRow(shell.Out(), {std::to_string(defined.Identifier()), defined.Name(),
-                               DoubleText(defined.Number())});
-    }
+    for (const ContextKind& kind : shell.Host().ContextKinds())
+        PrintRow(shell.Out(),
+                 {std::to_string(kind.Identifier), kind.Name, DoubleText(kind.Number)});
 }
 
 void Page(Shell& shell, const Words&)
@@ -170,7 +168,7 @@ void Help(Shell& shell, const Words&)
 
 using enum Allowed;
 
-constexpr ShellCommand commands[] = {
+constexpr ShellCommand readingCommands[] = {
     {"get", "CONTROL[.PROPERTY]", 1, 1, Always, "one property of a control, or all", Get},
     {"controls", "", 0, 0, Always, "the controls of the page on top, in tab order", ListControls},
     {"rows", "GRID", 1, 1, Always, "row, tag, date and highlight of each row", Rows},
@@ -193,7 +191,7 @@ constexpr ShellCommand commands[] = {
 
 CommandGroup ReadingCommands()
 {
-    return {"Reading", commands};
+    return {"Reading", readingCommands};
 }
 
 } // namespace Tamrivo

@@ -3,7 +3,7 @@
 #include "console/shell/words.h"
 #include "controls/hosted_control.h"
 #include "core/numbers.h"
-#include "platform/alleles/allele_pane.h"
+#include "host/alleles/allele_pane.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,18 +34,26 @@ void PrintProperty(std::ostream& out, std::string_view name, const Value& value)
     out << name << '=' << Text(value) << '\n';
 }
 
+/// Adds the reasons as "NAME(ROW)", all of one row in one property.
+void AddReasons(Properties& properties, const std::string& name,
+                const std::vector<AlleleProblem>& reasons)
+{
+    for (const AlleleProblem& problem : reasons)
+    {
+        const std::string property = name + "(" + std::to_string(problem.Row) + ")";
+        if (properties.back().first == property)
+            std::get<std::string>(properties.back().second) += "; " + problem.Reason;
+        else
+            properties.emplace_back(property, problem.Reason);
+    }
+}
+
 Properties PaneProperties(const AllelePane& pane)
 {
     Properties properties{{"RowCount", static_cast<std::int32_t>(pane.Rows().size())},
                           {"Valid", pane.IsValid()}};
-    for (const AlleleProblem& problem : pane.Problems())
-    {
-        const std::string name = "Problem(" + std::to_string(problem.Row) + ")";
-        if (properties.back().first == name)
-            std::get<std::string>(properties.back().second) += "; " + problem.Reason;
-        else
-            properties.emplace_back(name, problem.Reason);
-    }
+    AddReasons(properties, "Problem", pane.Problems());
+    AddReasons(properties, "Warning", pane.Warnings());
     return properties;
 }
 

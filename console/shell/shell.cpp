@@ -4,6 +4,7 @@
 #include "console/shell/command_table.h"
 #include "console/shell/words.h"
 #include "controls/user.h"
+#include "host/loci/progress.h"
 
 namespace Tamrivo
 {
@@ -62,7 +63,11 @@ void Shell::Execute(const std::string& line)
     {
         PrintError(refusal.what());
     }
-    catch (...)
+    catch (const Cancelled&)
+    {
+        m_out << "cancelled\n";
+    }
+    catch (const std::exception&)
     {
         m_host.ShowFailure(CurrentError());
     }

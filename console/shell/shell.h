@@ -2,8 +2,8 @@
 
 #include "console/shell/line_source.h"
 #include "console/shell/stage.h"
-#include "platform/framework/front_end.h"
-#include "platform/framework/host_application.h"
+#include "host/framework/front_end.h"
+#include "host/framework/host_application.h"
 
 #include <memory>
 #include <ostream>

@@ -3,8 +3,8 @@
 #include "contracts/message_box.h"
 #include "controls/menu.h"
 #include "controls/user_control.h"
-#include "platform/framework/parameter_page.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/parameter_page.h"
+#include "host/framework/wizard_session.h"
 
 #include <cstdint>
 #include <memory>

@@ -3,28 +3,26 @@
 #include "contracts/locus.h"
 #include "controls/text_field.h"
 #include "controls/user.h"
-#include "controls/user_control.h"
 #include "core/numbers.h"
 #include "desktop/alleles/allele_picture.h"
+#include "desktop/alleles/allele_table.h"
 #include "desktop/alleles/allele_table_model.h"
-#include "desktop/clipboard_table.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/clipboard_table.h"
+#include "desktop/common/icons.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/icons.h"
-#include "desktop/text.h"
+#include "editor/locus_editor_form.h"
 
 #include <QAction>
-#include <QEvent>
+#include <QApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QScrollBar>
 #include <QSplitter>
-#include <QTableView>
-#include <QTimer>
 #include <QToolButton>
 
-#include <set>
+#include <algorithm>
 
 namespace Tamrivo
 {
@@ -32,17 +30,21 @@ namespace Tamrivo
 namespace
 {
 
-/// The fields of the editor's page in which the fragment range is edited. The locus itself gets it
-/// later.
-constexpr const char* rangeStartField = "txtFragStart";
-constexpr const char* rangeEndField = "txtFragEnd";
-
-std::optional<double> NumberIn(const UserControl& form, const char* field)
+std::optional<double> NumberIn(const TextField& field)
 {
-    const auto* found = dynamic_cast<const TextField*>(form.Find(field));
-    if (found == nullptr || !IsNumeric(found->Text()))
-        return std::nullopt;
-    return ToDouble(found->Text());
+    return IsNumeric(field.Text()) ? std::optional(ToDouble(field.Text())) : std::nullopt;
+}
+
+QString StateText(const AllelePane& pane)
+{
+    const auto& reasons = pane.IsValid() ? pane.Warnings() : pane.Problems();
+    if (reasons.empty())
+        return QString(pane.Rows().size() == 1 ? "%1 allele" : "%1 alleles")
+            .arg(pane.Rows().size());
+    QString text = QString("Row %1: %2").arg(reasons[0].Row).arg(ToQString(reasons[0].Reason));
+    if (reasons.size() > 1)
+        text += QString(" (and %1 more)").arg(reasons.size() - 1);
+    return text;
 }
 
 } // namespace
@@ -54,21 +56,25 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
       m_actions(actions),
       m_pane(User::AllelesOf(pane)),
       m_model(new AlleleTableModel(pane, actions, this)),
-      m_table(new QTableView(this)),
+      m_tools(new QHBoxLayout),
+      m_table(new AlleleTable(*m_model, this)),
       m_picture(new AllelePicture(this)),
       m_state(new QLabel(this))
 {
-    m_table->setModel(m_model);
-    m_table->setAccessibleName("Alleles");
-    m_table->setTabKeyNavigation(false);
     m_table->setFocusPolicy(pane.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
-    m_table->setAlternatingRowColors(true);
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->horizontalHeader()->setHighlightSections(false);
+    setFocusProxy(m_table);
+    LayOut();
+    MakeActions();
+    FollowPerson();
+    m_changes = m_pane.Changed.Connect([this] { ShowRows(); });
+    ShowRows();
+}
+
+void AllelePaneView::LayOut()
+{
+    m_state->setObjectName("alleleState");
     m_state->setTextFormat(Qt::PlainText);
     m_state->setAccessibleName("State of the allele list");
-
     auto* splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_table);
@@ -78,28 +84,8 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    layout->addLayout(new QHBoxLayout);
+    layout->addLayout(m_tools);
     layout->addWidget(splitter, 1);
-    MakeActions();
-
-    // The editor of the cell is still to be closed.
-    m_model->onMoved = [this](int row) {
-        QTimer::singleShot(0, this, [=, this] { SelectRow(row); });
-    };
-    m_picture->onClicked = [this](std::int32_t row) {
-        SelectRow(row - 1);
-        m_table->setFocus();
-    };
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { MarkSelected(); });
-    m_pane.Changed = [this] { ShowRows(); };
-    FitTable();
-    ShowRows();
-}
-
-AllelePaneView::~AllelePaneView()
-{
-    m_pane.Changed = nullptr;
 }
 
 void AllelePaneView::MakeActions()
@@ -112,12 +98,11 @@ void AllelePaneView::MakeActions()
                        [this] { User::UndoAlleles(m_control); });
     m_redo = AddAction("Redo", "edit-redo", Keys::keyBindings(Keys::Redo),
                        [this] { User::RedoAlleles(m_control); });
-    AddAction("Copy cells", "edit-copy", Keys::keyBindings(Keys::Copy), [this] { Copy(); });
+    AddAction("Copy cells", "edit-copy", Keys::keyBindings(Keys::Copy),
+              [this] { CopyCells(*m_table); });
     AddAction("Paste cells", "edit-paste", Keys::keyBindings(Keys::Paste), [this] { Paste(); });
-    auto* tools = static_cast<QHBoxLayout*>(layout()->itemAt(0)->layout());
-    tools->addSpacing(fontMetrics().averageCharWidth());
-    tools->addWidget(m_state, 1);
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_tools->addSpacing(fontMetrics().averageCharWidth());
+    m_tools->addWidget(m_state, 1);
 }
 
 QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
@@ -128,37 +113,71 @@ QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
     added->setShortcuts(shortcuts);
     added->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     added->setToolTip(text + " (" + added->shortcut().toString(QKeySequence::NativeText) + ")");
-    connect(added, &QAction::triggered, this, [this, action] { m_actions.Run(action); });
-    m_table->addAction(added);
+    connect(added, &QAction::triggered, this, [this, action] {
+        m_table->CloseEditor();
+        m_actions.Run(action);
+    });
+    addAction(added);
+    m_table->addAction(added); // For its context menu.
 
     auto* button = new QToolButton(this);
     button->setDefaultAction(added);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setAccessibleName(text);
-    static_cast<QHBoxLayout*>(layout()->itemAt(0)->layout())->addWidget(button);
+    m_tools->addWidget(button);
+    m_buttons.push_back(button);
     return added;
 }
 
-void AllelePaneView::changeEvent(QEvent* event)
+void AllelePaneView::FollowPerson()
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        FitTable();
+    connect(m_picture, &AllelePicture::Chosen, this,
+            [this](std::int32_t row) { m_table->SelectRow(row - 1); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { MarkSelected(); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { LeaveRow(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* from, QWidget* to) {
+        // A message or another program only interrupts.
+        if (m_table->Holds(from) && to != nullptr && to->window() == window() &&
+            !m_table->Holds(to))
+            LeaveRow();
+    });
 }
 
-void AllelePaneView::FitTable()
+void AllelePaneView::keyPressEvent(QKeyEvent* event)
 {
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
-    // Every heading can be read, whatever the splitter leaves to the table.
-    int widest = 0;
-    for (const AlleleColumn& column : AlleleColumns)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQString(column.Title)));
-    const int section = widest + 2 * fontMetrics().averageCharWidth();
-    m_table->horizontalHeader()->setMinimumSectionSize(section);
-    m_table->setMinimumWidth(
-        section * m_model->columnCount() + m_table->verticalHeader()->sizeHint().width() +
-        m_table->verticalScrollBar()->sizeHint().width() + 2 * m_table->frameWidth());
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QWidget::keyPressEvent(event);
+    // Here Enter acts on what has the focus, and doesn't finish the page.
+    QWidget* focus = QApplication::focusWidget();
+    if (auto* button = qobject_cast<QToolButton*>(focus))
+        button->click();
+    else if (!m_table->Holds(focus))
+        m_table->setFocus(Qt::OtherFocusReason);
+    else
+        m_table->EditCurrent();
+}
+
+bool AllelePaneView::focusNextPrevChild(bool next)
+{
+    std::vector<QWidget*> ring{m_table};
+    for (QToolButton* button : m_buttons)
+    {
+        if (button->isEnabled())
+            ring.push_back(button);
+    }
+    ring.push_back(m_picture);
+    const QWidget* focus = QApplication::focusWidget();
+    const auto present = std::ranges::find_if(ring, [&](const QWidget* widget) {
+        return widget == focus || widget->isAncestorOf(focus);
+    });
+    const auto count = std::ssize(ring);
+    const auto place = (present - ring.begin() + (next ? 1 : count - 1)) % count;
+    ring[static_cast<std::size_t>(place)]->setFocus(next ? Qt::TabFocusReason
+                                                         : Qt::BacktabFocusReason);
+    return true;
 }
 
 void AllelePaneView::Refresh()
@@ -174,6 +193,11 @@ QSize AllelePaneView::LeastSize() const
 QWidget& AllelePaneView::FocusWidget()
 {
     return *m_table;
+}
+
+std::vector<QWidget*> AllelePaneView::Areas()
+{
+    return {this, m_picture};
 }
 
 void AllelePaneView::ShowRows()
@@ -194,16 +218,21 @@ std::optional<LengthRange> AllelePaneView::Range() const
     const auto& locus = m_pane.ShownLocus();
     if (!locus)
         return std::nullopt;
-    const auto from = NumberIn(m_control.Form(), rangeStartField);
-    const auto to = NumberIn(m_control.Form(), rangeEndField);
-    if (from && to && *from <= *to)
-        return LengthRange{*from, *to};
+    // The page edits the range in its fields, and the locus gets it later.
+    if (const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form()))
+    {
+        const auto from = NumberIn(page->txtFragStart);
+        const auto to = NumberIn(page->txtFragEnd);
+        if (from && to && *from <= *to)
+            return LengthRange{*from, *to};
+    }
     return LengthRange{static_cast<double>(locus->FragStart), static_cast<double>(locus->FragEnd)};
 }
 
 void AllelePaneView::FormChanged(const Control& control)
 {
-    if (control.Name() == rangeStartField || control.Name() == rangeEndField)
+    const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form());
+    if (page != nullptr && (&control == &page->txtFragStart || &control == &page->txtFragEnd))
         ShowPicture();
 }
 
@@ -211,58 +240,38 @@ void AllelePaneView::ShowState()
 {
     m_undo->setEnabled(m_pane.CanUndo());
     m_redo->setEnabled(m_pane.CanRedo());
-    const auto& problems = m_pane.Problems();
-    QString text =
-        QString(m_pane.Rows().size() == 1 ? "%1 allele" : "%1 alleles").arg(m_pane.Rows().size());
-    if (!problems.empty())
-        text = QString("Row %1: %2").arg(problems[0].Row).arg(ToQString(problems[0].Reason));
-    if (problems.size() > 1)
-        text += QString(" (and %1 more)").arg(problems.size() - 1);
-    m_state->setText(text);
-}
-
-std::vector<std::int32_t> AllelePaneView::SelectedRows() const
-{
-    std::set<std::int32_t> rows;
-    for (const QModelIndex& index : m_table->selectionModel()->selectedIndexes())
-        rows.insert(index.row() + 1);
-    return {rows.begin(), rows.end()};
+    m_state->setText(StateText(m_pane));
 }
 
 void AllelePaneView::MarkSelected()
 {
-    const auto rows = SelectedRows();
+    const auto rows = m_table->SelectedRows();
     m_picture->Mark({rows.begin(), rows.end()});
     m_remove->setEnabled(!rows.empty());
 }
 
-void AllelePaneView::SelectRow(int row)
+void AllelePaneView::LeaveRow()
 {
-    const QModelIndex cell = m_model->index(row, 0);
-    m_table->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect |
-                                                         QItemSelectionModel::Rows);
-    m_table->scrollTo(cell);
+    m_actions.Run([this] { User::LeaveAllele(m_control); });
 }
 
 void AllelePaneView::AddRow()
 {
-    const int row = User::AddAllele(m_control) - 1;
-    SelectRow(row);
+    std::optional<std::int32_t> after;
+    if (!m_table->SelectedRows().empty() && m_table->currentIndex().isValid())
+        after = m_table->currentIndex().row() + 1;
+    const int row = User::AddAllele(m_control, after) - 1;
+    m_table->SelectRow(row);
     m_table->setFocus();
     m_table->edit(m_model->index(row, 0));
 }
 
 void AllelePaneView::RemoveRows()
 {
-    const auto rows = SelectedRows();
+    const auto rows = m_table->SelectedRows();
     User::RemoveAlleles(m_control, rows);
     if (m_model->rowCount() > 0)
-        SelectRow(std::min(rows.front() - 1, m_model->rowCount() - 1));
-}
-
-void AllelePaneView::Copy() const
-{
-    CopyCells(*m_table);
+        m_table->SelectRow(std::min(rows.front() - 1, m_model->rowCount() - 1));
 }
 
 void AllelePaneView::Paste()

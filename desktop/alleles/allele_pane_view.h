@@ -1,69 +1,79 @@
 #pragma once
 
+#include "core/event.h"
 #include "desktop/forms/control_view.h"
-#include "platform/alleles/pane_user.h"
+#include "host/alleles/pane_user.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <optional>
+#include <vector>
 
 class QAction;
+class QHBoxLayout;
 class QLabel;
-class QTableView;
+class QToolButton;
 
 namespace Tamrivo
 {
 
 struct LengthRange;
 class AllelePicture;
+class AlleleTable;
 class AlleleTableModel;
 
-/// The allele pane of a form: the rows as a table beside a picture of their bins.
+/// The allele pane of a form: the rows as a table beside a picture of their bins, with buttons
+/// above. The Tab key of the form passes it by; in it, Tab goes from the table to the buttons, the
+/// picture and the table again.
 class AllelePaneView : public QWidget, public ControlView
 {
 public:
     AllelePaneView(User::AllelePaneControl& pane, QWidget& parent, const Actions& actions);
-    ~AllelePaneView() override;
 
     QWidget& Widget() override { return *this; }
     void Refresh() override;
     QSize LeastSize() const override;
     bool CanGrow() const override { return true; }
     QWidget& FocusWidget() override;
+    std::vector<QWidget*> Areas() override;
     void FormChanged(const Control& control) override;
 
 protected:
-    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
+    void LayOut();
     void MakeActions();
-    void FitTable();
+    void FollowPerson();
     QAction* AddAction(const QString& text, const char* icon, const QList<QKeySequence>& shortcuts,
                        const std::function<void()>& action);
     void ShowRows();
     void ShowPicture();
     void ShowState();
     void MarkSelected();
-    void SelectRow(int row);
-    std::vector<std::int32_t> SelectedRows() const;
     /// The locus's fragment range, as the page has it; none without a locus.
     std::optional<LengthRange> Range() const;
 
+    void LeaveRow();
     void AddRow();
     void RemoveRows();
-    void Copy() const;
     void Paste();
 
     User::AllelePaneControl& m_control;
     const Actions& m_actions;
     AllelePane& m_pane;
     AlleleTableModel* m_model;
-    QTableView* m_table;
+    QHBoxLayout* m_tools;
+    AlleleTable* m_table;
     AllelePicture* m_picture;
     QLabel* m_state;
+    std::vector<QToolButton*> m_buttons;
     QAction* m_remove = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
+    Connection m_changes;
 };
 
 } // namespace Tamrivo

@@ -1,10 +1,12 @@
 #include "desktop/alleles/allele_picture.h"
 
-#include "desktop/pictures/colors.h"
-#include "desktop/pictures/length_axis.h"
-#include "desktop/pictures/picture_role.h"
+#include "desktop/alleles/bin_look.h"
+#include "desktop/common/colors.h"
+#include "desktop/common/length_axis.h"
+#include "desktop/common/picture_role.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
 
@@ -18,46 +20,13 @@ namespace
 
 constexpr double margin = 8;
 
-/// How a state is shown, and what the legend says of it.
-struct StateLook
-{
-    BinState State;
-    QColor Color;
-    Qt::BrushStyle Pattern;
-    const char* Legend;
-};
-
-constexpr StateLook looks[] = {
-    {BinState::InOrder, SafeColor::Blue, Qt::SolidPattern, "Bin"},
-    {BinState::Overlapping, SafeColor::Vermillion, Qt::BDiagPattern, "Overlapping"},
-    {BinState::OutOfRange, SafeColor::Orange, Qt::DiagCrossPattern, "Outside the range"},
-};
-
-const StateLook& LookOf(BinState state)
-{
-    return *std::ranges::find(looks, state, &StateLook::State);
-}
-
-void FillBin(QPainter& painter, const QRectF& rect, const StateLook& look)
-{
-    if (look.Pattern != Qt::SolidPattern)
-    {
-        QColor ground = look.Color;
-        ground.setAlphaF(0.35F);
-        painter.fillRect(rect, ground);
-    }
-    painter.fillRect(rect, QBrush(look.Color, look.Pattern));
-    // Bins that meet stay two.
-    painter.setPen(look.Color.darker(150));
-    painter.drawRect(rect);
-}
-
 } // namespace
 
 AllelePicture::AllelePicture(QWidget* parent) : QWidget(parent)
 {
     MarkAsPicture(*this);
     setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
     setAccessibleName("Picture of the bins along the fragment length");
 }
 
@@ -95,14 +64,14 @@ QSize AllelePicture::sizeHint() const
     return {30 * line, 9 * line};
 }
 
-double AllelePicture::LegendHeight() const
+double AllelePicture::LegendTop() const
 {
-    return fontMetrics().lineSpacing() + margin / 2;
+    return height() - fontMetrics().lineSpacing() - margin / 2;
 }
 
 double AllelePicture::BaseLine() const
 {
-    return height() - fontMetrics().height() - margin - LegendHeight();
+    return LegendTop() - fontMetrics().height() - margin;
 }
 
 LengthAxis AllelePicture::Axis() const
@@ -142,7 +111,12 @@ void AllelePicture::paintEvent(QPaintEvent* /*event*/)
     for (const BinShape& shape : m_shapes)
         DrawBin(painter, shape);
     DrawNames(painter);
-    DrawLegend(painter);
+    DrawBinLegend(painter, {margin, LegendTop()}, palette());
+    if (hasFocus())
+    {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    }
 }
 
 void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
@@ -160,7 +134,10 @@ void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
 void AllelePicture::DrawBin(QPainter& painter, const BinShape& shape) const
 {
     const QRectF rect = RectOf(shape);
-    FillBin(painter, rect, LookOf(shape.State));
+    if (shape.HasWidth())
+        FillBin(painter, rect, shape.State);
+    else
+        DrawBinWithoutWidth(painter, rect, shape.State);
     const double size = Axis().X(shape.Size);
     painter.setPen(QPen(palette().color(QPalette::Text), 1));
     painter.drawLine(QPointF(size, rect.top() - 3), QPointF(size, rect.top() + 3));
@@ -230,27 +207,35 @@ void AllelePicture::DrawName(QPainter& painter, const BinShape& shape, bool isTu
     painter.restore();
 }
 
-void AllelePicture::DrawLegend(QPainter& painter) const
-{
-    const QFontMetrics font = fontMetrics();
-    const double swatch = font.ascent();
-    double x = margin;
-    const double top = height() - LegendHeight();
-    for (const StateLook& look : looks)
-    {
-        FillBin(painter, {x, top + 1, swatch, swatch}, look);
-        x += swatch + margin / 2;
-        painter.setPen(palette().color(QPalette::Text));
-        painter.drawText(QPointF(x, top + font.ascent()), look.Legend);
-        x += font.horizontalAdvance(look.Legend) + 2 * margin;
-    }
-}
-
 void AllelePicture::mousePressEvent(QMouseEvent* event)
 {
     const BinShape* shape = ShapeAt(event->position());
-    if (shape != nullptr && onClicked)
-        onClicked(shape->Row);
+    if (shape != nullptr)
+        emit Chosen(shape->Row);
+}
+
+void AllelePicture::keyPressEvent(QKeyEvent* event)
+{
+    const auto last = static_cast<std::int32_t>(m_shapes.size());
+    const std::int32_t present = m_marked.empty() ? 0 : *m_marked.begin();
+    std::int32_t row = 0;
+    switch (event->key())
+    {
+    case Qt::Key_Left:
+    case Qt::Key_Up: row = present - 1; break;
+    case Qt::Key_Right:
+    case Qt::Key_Down: row = present + 1; break;
+    case Qt::Key_Home: row = 1; break;
+    case Qt::Key_End: row = last; break;
+    default: return QWidget::keyPressEvent(event);
+    }
+    if (last == 0)
+        return;
+    row = std::clamp(row, 1, last);
+    emit Chosen(row);
+    const BinShape& shape = m_shapes[static_cast<std::size_t>(row - 1)];
+    setAccessibleDescription(Describe(shape));
+    QToolTip::showText(mapToGlobal(RectOf(shape).bottomLeft().toPoint()), Describe(shape), this);
 }
 
 bool AllelePicture::event(QEvent* event)

@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <optional>
 #include <set>
 
@@ -13,9 +12,12 @@ namespace Tamrivo
 
 class LengthAxis;
 
-/// The bins of a locus along the fragment length.
+/// The bins of a locus along the fragment length. A click chooses a bin; with the focus the arrow
+/// keys, Home and End do.
 class AllelePicture : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit AllelePicture(QWidget* parent);
 
@@ -28,28 +30,29 @@ public:
     /// Where a bin stands in the widget.
     QRectF RectOf(const BinShape& shape) const;
 
-    /// A click on a bin, with its row.
-    std::function<void(std::int32_t row)> onClicked;
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint() / 2; }
+
+signals:
+    /// The person has chosen a bin.
+    void Chosen(std::int32_t row);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     LengthAxis Axis() const;
     /// Top of the axis; bins and names stand above it.
     double BaseLine() const;
-    double LegendHeight() const;
+    double LegendTop() const;
     const BinShape* ShapeAt(QPointF place) const;
     void DrawRange(QPainter& painter, const LengthAxis& axis) const;
     void DrawBin(QPainter& painter, const BinShape& shape) const;
     void DrawNames(QPainter& painter) const;
     void DrawName(QPainter& painter, const BinShape& shape, bool isTurned) const;
-    void DrawLegend(QPainter& painter) const;
 
     std::vector<BinShape> m_shapes;
     std::set<std::int32_t> m_marked;

@@ -1,15 +1,47 @@
 #include "desktop/alleles/allele_table_model.h"
 
-#include "desktop/forms/actions.h"
-#include "desktop/text.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 
 #include <QApplication>
 #include <QStyle>
 
+#include <algorithm>
 #include <iterator>
+#include <unordered_set>
+#include <utility>
 
 namespace Tamrivo
 {
+
+namespace
+{
+
+using AlleleSet = std::unordered_set<std::shared_ptr<Allele>>;
+
+AlleleSet SetOf(const AlleleRows& rows)
+{
+    return {rows.begin(), rows.end()};
+}
+
+QStringList ReasonsOf(int row, const std::vector<AlleleProblem>& reasons)
+{
+    QStringList lines;
+    for (const AlleleProblem& reason : reasons)
+    {
+        if (reason.Row == row + 1)
+            lines += ToQString(reason.Reason);
+    }
+    return lines;
+}
+
+Qt::Alignment AlignmentOf(int column)
+{
+    const bool isNumber = AlleleColumns[column].Kind == CellKind::Number;
+    return Qt::AlignVCenter | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
+}
+
+} // namespace
 
 AlleleTableModel::AlleleTableModel(User::AllelePaneControl& pane, const Actions& actions,
                                    QObject* parent)
@@ -23,22 +55,70 @@ AlleleTableModel::AlleleTableModel(User::AllelePaneControl& pane, const Actions&
 
 void AlleleTableModel::Refresh()
 {
-    const auto rows = static_cast<int>(m_pane.Rows().size());
-    if (rows == m_rows)
+    const AlleleRows rows = m_pane.Rows();
+    const AlleleSet wanted = SetOf(rows);
+    if (std::ranges::none_of(m_rows, [&](const auto& row) { return wanted.contains(row); }))
     {
-        // No reset: an edit is on its way, and its editor is still open.
-        if (rows > 0)
-            emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+        beginResetModel();
+        m_rows = rows;
+        endResetModel();
         return;
     }
-    beginResetModel();
-    m_rows = rows;
-    endResetModel();
+    RemoveAllBut(rows);
+    Reorder(rows);
+    InsertMissing(rows);
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void AlleleTableModel::RemoveAllBut(const AlleleRows& rows)
+{
+    const AlleleSet wanted = SetOf(rows);
+    for (int row = rowCount() - 1; row >= 0; --row)
+    {
+        if (wanted.contains(m_rows[static_cast<std::size_t>(row)]))
+            continue;
+        beginRemoveRows({}, row, row);
+        m_rows.erase(m_rows.begin() + row);
+        endRemoveRows();
+    }
+}
+
+void AlleleTableModel::Reorder(AlleleRows rows)
+{
+    std::erase_if(rows, [shown = SetOf(m_rows)](const auto& row) { return !shown.contains(row); });
+    if (rows == m_rows)
+        return;
+    emit layoutAboutToBeChanged();
+    const AlleleRows before = std::exchange(m_rows, std::move(rows));
+    const QModelIndexList from = persistentIndexList();
+    QModelIndexList to;
+    for (const QModelIndex& cell : from)
+        to += index(RowOf(before[static_cast<std::size_t>(cell.row())]), cell.column());
+    changePersistentIndexList(from, to);
+    emit layoutChanged();
+}
+
+void AlleleTableModel::InsertMissing(const AlleleRows& rows)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i)
+    {
+        if (i < m_rows.size() && m_rows[i] == rows[i])
+            continue;
+        const int row = static_cast<int>(i);
+        beginInsertRows({}, row, row);
+        m_rows.insert(m_rows.begin() + row, rows[i]);
+        endInsertRows();
+    }
+}
+
+int AlleleTableModel::RowOf(const std::shared_ptr<Allele>& allele) const
+{
+    return static_cast<int>(std::ranges::find(m_rows, allele) - m_rows.begin());
 }
 
 int AlleleTableModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_rows;
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int AlleleTableModel::columnCount(const QModelIndex& parent) const
@@ -46,33 +126,49 @@ int AlleleTableModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(std::size(AlleleColumns));
 }
 
-QString AlleleTableModel::ProblemsOf(int row) const
-{
-    QStringList reasons;
-    for (const AlleleProblem& problem : m_pane.Problems())
-    {
-        if (problem.Row == row + 1)
-            reasons += ToQString(problem.Reason);
-    }
-    return reasons.join('\n');
-}
-
 QVariant AlleleTableModel::data(const QModelIndex& index, int role) const
 {
     const AlleleColumn& column = AlleleColumns[index.column()];
+    if (column.Kind == CellKind::Truth && role != Qt::ToolTipRole)
+        return TruthOf(index, role);
     switch (role)
     {
     case Qt::DisplayRole:
-    case Qt::EditRole:
-        return ToQString(CellText(*m_pane.Rows()[static_cast<std::size_t>(index.row())], column));
-    case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignVCenter | (index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight));
-    case Qt::ToolTipRole:
-    case Qt::AccessibleDescriptionRole: return ProblemsOf(index.row());
-    case Qt::DecorationRole:
-        if (index.column() == 0 && !ProblemsOf(index.row()).isEmpty())
-            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    case Qt::EditRole: return ToQString(column.Text(AlleleAt(index.row())));
+    case Qt::TextAlignmentRole: return QVariant(AlignmentOf(index.column()));
+    case Qt::ForegroundRole:
+        if (column.SetText == nullptr)
+            return QApplication::palette().brush(QPalette::PlaceholderText);
         return {};
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return (ReasonsOf(index.row(), m_pane.Problems()) +
+                ReasonsOf(index.row(), m_pane.Warnings()))
+            .join('\n');
+    case Qt::DecorationRole: return index.column() == 0 ? MarkOf(index.row()) : QVariant();
+    default: return {};
+    }
+}
+
+QVariant AlleleTableModel::MarkOf(int row) const
+{
+    const QStyle& style = *QApplication::style();
+    if (!ReasonsOf(row, m_pane.Problems()).isEmpty())
+        return style.standardIcon(QStyle::SP_MessageBoxWarning);
+    if (!ReasonsOf(row, m_pane.Warnings()).isEmpty())
+        return style.standardIcon(QStyle::SP_MessageBoxInformation);
+    return {};
+}
+
+QVariant AlleleTableModel::TruthOf(const QModelIndex& index, int role) const
+{
+    const AlleleColumn& column = AlleleColumns[index.column()];
+    const QString text = ToQString(column.Text(AlleleAt(index.row())));
+    switch (role)
+    {
+    case Qt::CheckStateRole: return text == "true" ? Qt::Checked : Qt::Unchecked;
+    case Qt::EditRole: return text;
+    case Qt::AccessibleTextRole: return ToQString(column.Title) + ": " + text;
     default: return {};
     }
 }
@@ -80,7 +176,7 @@ QVariant AlleleTableModel::data(const QModelIndex& index, int role) const
 QVariant AlleleTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
-        return QVariant(Qt::AlignVCenter | (section == 0 ? Qt::AlignLeft : Qt::AlignRight));
+        return QVariant(AlignmentOf(section));
     if (role != Qt::DisplayRole)
         return {};
     return orientation == Qt::Horizontal ? QVariant(ToQString(AlleleColumns[section].Title))
@@ -89,21 +185,24 @@ QVariant AlleleTableModel::headerData(int section, Qt::Orientation orientation, 
 
 Qt::ItemFlags AlleleTableModel::flags(const QModelIndex& index) const
 {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    const Qt::ItemFlags common = QAbstractTableModel::flags(index);
+    const AlleleColumn& column = AlleleColumns[index.column()];
+    if (column.SetText == nullptr)
+        return common;
+    return common | (column.Kind == CellKind::Truth ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
 }
 
 bool AlleleTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::EditRole)
+    if (role != Qt::EditRole && role != Qt::CheckStateRole)
         return false;
-    std::int32_t row = index.row() + 1;
-    const bool isDone = m_actions.Run([&] {
-        row = User::EditAllele(m_control, row, AlleleColumns[index.column()],
-                               FromQString(value.toString()));
+    const QString text = role == Qt::EditRole             ? value.toString()
+                         : value.toInt() == Qt::Unchecked ? "false"
+                                                          : "true";
+    return m_actions.Run([&] {
+        User::EditAllele(m_control, index.row() + 1, AlleleColumns[index.column()],
+                         FromQString(text));
     });
-    if (isDone && row != index.row() + 1 && onMoved)
-        onMoved(row - 1);
-    return isDone;
 }
 
 } // namespace Tamrivo

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/alleles/pane_user.h"
+#include "host/alleles/pane_user.h"
 
 #include <QAbstractTableModel>
-
-#include <functional>
 
 namespace Tamrivo
 {
@@ -17,7 +15,8 @@ class AlleleTableModel : public QAbstractTableModel
 public:
     AlleleTableModel(User::AllelePaneControl& pane, const Actions& actions, QObject* parent);
 
-    /// Takes over what has changed in the pane.
+    /// Takes over what has changed in the pane. Selection, current cell and an open editor stay
+    /// with their alleles.
     void Refresh();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -27,16 +26,20 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    /// An edit has moved its row to this place (0-based).
-    std::function<void(int row)> onMoved;
-
 private:
-    QString ProblemsOf(int row) const;
+    const Allele& AlleleAt(int row) const { return *m_rows[static_cast<std::size_t>(row)]; }
+    int RowOf(const std::shared_ptr<Allele>& allele) const;
+    /// The icon of a row in which something is wrong.
+    QVariant MarkOf(int row) const;
+    QVariant TruthOf(const QModelIndex& index, int role) const;
+    void RemoveAllBut(const AlleleRows& rows);
+    void Reorder(AlleleRows rows);
+    void InsertMissing(const AlleleRows& rows);
 
     User::AllelePaneControl& m_control;
     const Actions& m_actions;
     AllelePane& m_pane;
-    int m_rows = 0;
+    AlleleRows m_rows; ///< As the views know them.
 };
 
 } // namespace Tamrivo

@@ -1,7 +1,7 @@
 #include "desktop/alleles/bin_shapes.h"
 
 #include "core/numbers.h"
-#include "desktop/text.h"
+#include "desktop/common/text.h"
 
 #include <algorithm>
 
@@ -39,6 +39,8 @@ QString Describe(const BinShape& shape)
         text += "\nOverlaps another bin";
     else if (shape.State == BinState::OutOfRange)
         text += "\nLies outside the fragment range";
+    if (!shape.HasWidth())
+        text += "\nThe bin has no width";
     return text;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/alleles/allele_problems.h"
+#include "host/alleles/allele_problems.h"
 
 #include <QString>
 
@@ -33,6 +33,8 @@ struct BinShape
     double Size;
     BinState State;
     QString Name;
+
+    bool HasWidth() const { return From < To; }
 };
 
 /// The bins of a list in the order of its rows. A bin whose ends stand the wrong way round is shown

@@ -1,6 +1,7 @@
 #include "desktop/forms/appearance.h"
 
 #include "controls/text_field.h"
+#include "controls/user.h"
 
 #include <QApplication>
 #include <QFont>
@@ -24,7 +25,7 @@ QColor ColorOf(std::int32_t color)
 
 void ApplyReach(QWidget& widget, const Control& control)
 {
-    widget.setEnabled(control.Enabled());
+    widget.setEnabled(!User::Obstacle(control));
     widget.setVisible(control.Visible());
 }
 

@@ -13,7 +13,8 @@ namespace Tamrivo
 class Control;
 struct Font;
 
-/// Shows or hides, enables or greys the widget as the control says.
+/// Shows or hides the widget as the control says, and greys it when a person can't reach it: what
+/// would be refused looks so.
 void ApplyReach(QWidget& widget, const Control& control);
 
 /// Gives the widget what a declared font changes against the font of the form, in which sizes are

@@ -1,9 +1,9 @@
 #include "desktop/forms/button_views.h"
 
 #include "controls/user.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/text.h"
 
 #include <QKeyEvent>
 #include <QStyle>
@@ -84,8 +84,10 @@ ButtonView::ButtonView(CommandButton& button, QWidget& parent, const Actions& ac
     // A caption of signs alone tells nothing when read aloud.
     setAccessibleName(button.ToolTipText().empty() ? ToQString(button.Caption()).remove('&')
                                                    : toolTip());
-    connect(this, &QPushButton::clicked, this,
-            [this, &actions] { actions.Run([this] { User::Click(m_button); }); });
+    connect(this, &QPushButton::clicked, this, [this, &actions] {
+        if (!m_question || m_question())
+            actions.Run([this] { User::Click(m_button); });
+    });
 }
 
 void ButtonView::Refresh()

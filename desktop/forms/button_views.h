@@ -7,6 +7,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <functional>
+#include <utility>
+
 namespace Tamrivo
 {
 
@@ -60,8 +63,12 @@ public:
     void Refresh() override;
     QSize LeastSize() const override;
 
+    /// Asks before each click; only an answer of true lets it through.
+    void AskFirst(std::function<bool()> question) { m_question = std::move(question); }
+
 private:
     CommandButton& m_button;
+    std::function<bool()> m_question;
 };
 
 } // namespace Tamrivo

@@ -3,6 +3,7 @@
 #include <QSize>
 
 #include <functional>
+#include <vector>
 
 class QWidget;
 
@@ -44,6 +45,10 @@ public:
 
     /// The widget that takes the focus.
     virtual QWidget& FocusWidget() { return Widget(); }
+
+    /// The parts of a hosted control to which F6 goes, apart from the rest of the form. One that
+    /// contains another comes before it.
+    virtual std::vector<QWidget*> Areas() { return {}; }
 };
 
 /// Makes the view of a control that the host brought along; gives null for one that it doesn't

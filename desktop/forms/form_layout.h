@@ -38,27 +38,47 @@ public:
     QRect Rect(const Control& control, const ControlView& view, QSize formSize) const;
 
 private:
-    /// Where the form can grow in one direction, twips.
+    /// A part of a direction in which the form can grow, twips.
     struct Stretch
     {
         int From;
         int To;
     };
-    using Stretches = std::vector<Stretch>;
 
-    static void AddStretch(Stretches& stretches, Stretch added);
+    /// One direction of the form.
+    struct Axis
+    {
+        int Place::*Start;
+        int Place::*Length;
+        bool AlwaysShrinks; ///< Also when only one stretch could give up some of its room.
+        int Extent = 0;     ///< Of the form, twips.
+        std::vector<Stretch> Stretches = {};
+        double Scale = 1; ///< Pixels per twip.
+
+        int End(const Place& place) const { return place.*Start + place.*Length; }
+        int Pixels(int twips) const;
+        int LeastPixels() const;
+        void AddStretch(Stretch added);
+    };
+
+    /// From a pixel up to, and without, another one.
+    struct Span
+    {
+        int From;
+        int To;
+    };
+
     int RoomAcross(const Control& control) const;
     void FitControl(const Control& control, const ControlView& view);
     void FitChildren(const Container& container, const ControlView& view);
+    /// Where a control stands along an axis while the form has this extent, in pixels.
+    Span SpanOf(const Axis& axis, const Control& control, const ControlView& view,
+                int formExtent) const;
 
     const UserControl& m_form;
     Places m_places;
-    int m_width;
-    int m_height;
-    Stretches m_across;
-    Stretches m_down;
-    double m_scaleAcross = 1; ///< Pixels a twip.
-    double m_scaleDown = 1;
+    Axis m_across{&Place::Left, &Place::Width, false};
+    Axis m_down{&Place::Top, &Place::Height, true};
 };
 
 } // namespace Tamrivo

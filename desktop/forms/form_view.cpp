@@ -3,13 +3,18 @@
 #include "controls/label.h"
 #include "controls/user.h"
 #include "controls/user_control.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/accessible_name.h"
-#include "desktop/forms/actions.h"
-#include "desktop/text.h"
+#include "desktop/forms/button_views.h"
 
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -30,23 +35,29 @@ FormView::FormView(UserControl& form, const Actions& actions, const HostedViewFa
             m_views[control] = view;
     }
     for (const auto& [control, view] : m_views)
-    {
         NameControl(*control, *view);
-        view->Refresh();
-    }
+    RefreshAll();
     SetTabOrder();
     Fit();
-    m_form.ControlChanged = [this](Control& control) {
-        if (ControlView* view = ViewOf(control))
-            view->Refresh();
-        for (const auto& [other, view] : m_views)
-            view->FormChanged(control);
-    };
+    m_changes.On(m_form.ControlChanged, [this](Control& control) { ShowChange(control); });
+    m_changes.On(m_form.EnabledChanged, [this] { RefreshAll(); });
 }
 
-FormView::~FormView()
+void FormView::RefreshAll()
 {
-    m_form.ControlChanged = nullptr;
+    for (const auto& [control, view] : m_views)
+        view->Refresh();
+}
+
+void FormView::ShowChange(const Control& control)
+{
+    // What lies in a container is out of reach with it.
+    if (dynamic_cast<const Container*>(&control) != nullptr)
+        RefreshAll();
+    else if (ControlView* view = ViewOf(control))
+        view->Refresh();
+    for (const auto& [other, view] : m_views)
+        view->FormChanged(control);
 }
 
 ControlView* FormView::ViewOf(const Control& control) const
@@ -106,6 +117,11 @@ void FormView::BringToView(const Control& control)
     }
 }
 
+void FormView::AskBefore(const CommandButton& button, std::function<bool()> question)
+{
+    dynamic_cast<ButtonView&>(*ViewOf(button)).AskFirst(std::move(question));
+}
+
 void FormView::LeaveFocus(QWidget& to)
 {
     QWidget* focus = window()->focusWidget();
@@ -163,31 +179,55 @@ void FormView::showEvent(QShowEvent* event)
 void FormView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F6)
-        FocusNextHosted();
+        FocusNextArea(!(event->modifiers() & Qt::ShiftModifier));
     else
         QWidget::keyPressEvent(event);
 }
 
-void FormView::FocusNextHosted()
+std::vector<QWidget*> FormView::Areas() const
 {
-    // What the host brought along may be no stop of the Tab key, and must be in reach all the same.
-    QWidget* focus = window()->focusWidget();
-    bool isPast = false;
-    ControlView* first = nullptr;
-    for (const Control* control : m_form.Controls())
+    std::vector<QWidget*> areas;
+    for (const Control* control : m_form.InTabOrder())
     {
         ControlView* view = ViewOf(*control);
-        if (view == nullptr || !view->CanGrow())
-            continue;
-        if (first == nullptr)
-            first = view;
-        if (isPast)
-            return view->FocusWidget().setFocus(Qt::ShortcutFocusReason);
-        isPast =
-            focus != nullptr && (&view->Widget() == focus || view->Widget().isAncestorOf(focus));
+        if (view != nullptr && view->Widget().isVisible() && view->Widget().isEnabled())
+            std::ranges::copy(view->Areas(), std::back_inserter(areas));
     }
-    if (first != nullptr)
-        first->FocusWidget().setFocus(Qt::ShortcutFocusReason);
+    return areas;
+}
+
+void FormView::FocusNextArea(bool forward)
+{
+    QWidget* focus = window()->focusWidget();
+    const std::vector<QWidget*> areas = Areas();
+    // 0 is the form's own part.
+    std::size_t present = 0;
+    for (std::size_t i = 0; i < areas.size(); ++i)
+    {
+        if (areas[i] == focus || areas[i]->isAncestorOf(focus))
+            present = i + 1;
+    }
+    if (present == 0 && isAncestorOf(focus))
+        m_lastOwn = focus;
+    const std::size_t count = areas.size() + 1;
+    const std::size_t next = (present + (forward ? 1 : count - 1)) % count;
+    if (next == 0)
+        FocusOwn();
+    else
+        areas[next - 1]->setFocus(Qt::ShortcutFocusReason);
+}
+
+void FormView::FocusOwn()
+{
+    if (m_lastOwn && m_lastOwn->isEnabled() && m_lastOwn->isVisible())
+        return m_lastOwn->setFocus(Qt::ShortcutFocusReason);
+    for (const Control* control : m_form.FocusOrder())
+    {
+        ControlView* view = ViewOf(*control);
+        if (view != nullptr && view->Areas().empty() && view->FocusWidget().isEnabled() &&
+            view->FocusWidget().isVisible())
+            return view->FocusWidget().setFocus(Qt::ShortcutFocusReason);
+    }
 }
 
 } // namespace Tamrivo

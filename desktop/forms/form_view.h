@@ -1,15 +1,19 @@
 #pragma once
 
+#include "core/event.h"
 #include "desktop/forms/control_view.h"
 #include "desktop/forms/form_layout.h"
 
+#include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 
 namespace Tamrivo
 {
 
+class CommandButton;
 class UserControl;
 
 /// Draws a form from its declarations and keeps showing its state. Hears of the form's changes for
@@ -19,7 +23,6 @@ class FormView : public QWidget
 public:
     FormView(UserControl& form, const Actions& actions, const HostedViewFactory& hosted,
              QWidget* parent = nullptr);
-    ~FormView() override;
 
     UserControl& Form() const { return m_form; }
     /// The view of a control; null for one that isn't drawn.
@@ -29,6 +32,11 @@ public:
     void FocusFirst();
     /// Turns to the tab that the control lies on.
     void BringToView(const Control& control);
+    /// Goes from one part of the form to the next or the one before: the form's own controls, then
+    /// the areas of what the host brought along, such as a grid.
+    void FocusNextArea(bool forward);
+    /// Asks before each click of the button; only an answer of true lets it through.
+    void AskBefore(const CommandButton& button, std::function<bool()> question);
     /// Leaves the field that has the focus, which runs its repair; the focus goes to `to`.
     void LeaveFocus(QWidget& to);
 
@@ -44,14 +52,19 @@ protected:
 private:
     void NameControl(const Control& control, ControlView& view) const;
     void SetTabOrder();
+    void RefreshAll();
+    void ShowChange(const Control& control);
     void Fit();
     void Arrange();
-    void FocusNextHosted();
+    std::vector<QWidget*> Areas() const;
+    void FocusOwn();
 
     UserControl& m_form;
     const Actions& m_actions;
     FormLayout m_layout;
     std::map<const Control*, ControlView*> m_views;
+    QPointer<QWidget> m_lastOwn; ///< What had the focus when the form's own part was left.
+    Connections m_changes;
 };
 
 } // namespace Tamrivo

@@ -1,7 +1,7 @@
 #include "desktop/forms/label_view.h"
 
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/text.h"
 
 namespace Tamrivo
 {

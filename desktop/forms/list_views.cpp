@@ -1,9 +1,9 @@
 #include "desktop/forms/list_views.h"
 
 #include "controls/user.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/text.h"
 
 #include <QAbstractListModel>
 #include <QStyle>

@@ -2,13 +2,14 @@
 
 #include "controls/text_field.h"
 #include "controls/user.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/text.h"
 
 #include <QLineEdit>
 #include <QStyleOptionSpinBox>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 #include <cstdlib>
 
@@ -20,7 +21,9 @@ SpinView::SpinView(SpinButton& spin, QWidget& parent, const Actions& actions)
 {
     lineEdit()->setReadOnly(true);
     lineEdit()->hide();
-    setFocusPolicy(spin.IsTabStop() ? Qt::StrongFocus : Qt::NoFocus);
+    // A click on an arrow leaves the field that had the focus, whose repair may be due. The wheel
+    // takes no focus.
+    setFocusPolicy(spin.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void SpinView::Refresh()
@@ -36,6 +39,15 @@ void SpinView::stepBy(int steps)
     });
     if (m_spin.Linked() != nullptr)
         lineEdit()->setText(ToQString(m_spin.Linked()->Text()));
+}
+
+void SpinView::wheelEvent(QWheelEvent* event)
+{
+    // Scrolling the page must not step what the pointer happens to pass.
+    if (hasFocus())
+        QAbstractSpinBox::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 void SpinView::paintEvent(QPaintEvent* /*event*/)

@@ -24,6 +24,7 @@ public:
 protected:
     StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
     void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     SpinButton& m_spin;

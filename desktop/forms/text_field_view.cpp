@@ -1,9 +1,9 @@
 #include "desktop/forms/text_field_view.h"
 
 #include "core/text.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
-#include "desktop/text.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,13 +1,16 @@
 #include "desktop/front_end/desktop_front_end.h"
 
+#include "desktop/common/long_work.h"
+#include "desktop/common/text.h"
 #include "desktop/front_end/message_boxes.h"
 #include "desktop/front_end/popup_menu.h"
 #include "desktop/front_end/wizard_dialog.h"
-#include "desktop/text.h"
-#include "platform/framework/host_application.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/host_application.h"
+#include "host/framework/wizard_session.h"
 
 #include <QApplication>
+
+#include <optional>
 
 namespace Tamrivo
 {
@@ -35,10 +38,11 @@ DesktopFrontEnd::DesktopFrontEnd()
 void DesktopFrontEnd::SetHost(HostApplication* host)
 {
     m_host = host;
+    m_pointer.reset();
     if (host != nullptr)
     {
         Screen& screen = host->SharedScreen();
-        screen.MousePointerChanged = [this, &screen] { ShowPointer(screen); };
+        m_pointer = screen.MousePointerChanged.Connect([this, &screen] { ShowPointer(screen); });
     }
 }
 
@@ -54,10 +58,21 @@ void DesktopFrontEnd::ShowPointer(const Screen& screen)
         QApplication::restoreOverrideCursor();
 }
 
+void DesktopFrontEnd::RunOpening(const std::function<void()>& open)
+{
+    std::optional<LongWork> work;
+    if (m_host != nullptr)
+        work.emplace(m_host->Store(), "Opening the locus...", WindowOnTop());
+    open();
+}
+
 void DesktopFrontEnd::RunWizard(WizardSession& wizard)
 {
-    WizardDialog dialog(wizard, m_actions, WindowOnTop());
+    QWidget* below = WindowOnTop();
+    WizardDialog dialog(wizard, m_actions, below);
     dialog.exec();
+    if (auto* opener = dynamic_cast<WizardDialog*>(below))
+        opener->NoteSavedAs();
     // However the dialog was closed: who waits for the wizard must find it ended.
     if (!wizard.HasEnded())
         wizard.Cancel();

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "desktop/forms/actions.h"
-#include "platform/framework/front_end.h"
+#include "core/event.h"
+#include "desktop/common/actions.h"
+#include "host/framework/front_end.h"
 
 class QWidget;
 
@@ -25,6 +26,7 @@ public:
     /// What runs the person's actions, for as long as the front end lives.
     const Actions& UserActions() const { return m_actions; }
 
+    void RunOpening(const std::function<void()>& open) override;
     void RunWizard(WizardSession& wizard) override;
     void ShowMenu(UserControl& form, Menu& menu) override;
     MessageAnswer ShowMessage(const std::string& text, std::int32_t kind,
@@ -38,6 +40,7 @@ private:
     Actions m_actions;
     HostApplication* m_host = nullptr;
     bool m_isHourglass = false;
+    Connection m_pointer;
 };
 
 } // namespace Tamrivo

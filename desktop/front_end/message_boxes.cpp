@@ -1,7 +1,7 @@
 #include "desktop/front_end/message_boxes.h"
 
-#include "desktop/text.h"
-#include "platform/framework/environment.h"
+#include "desktop/common/text.h"
+#include "host/framework/environment.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>

@@ -2,8 +2,8 @@
 
 #include "controls/text_field.h"
 #include "controls/user_control.h"
-#include "desktop/text.h"
-#include "platform/alleles/pane_user.h"
+#include "desktop/common/text.h"
+#include "host/alleles/pane_user.h"
 
 #include <QStringList>
 

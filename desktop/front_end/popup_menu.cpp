@@ -2,7 +2,7 @@
 
 #include "controls/menu.h"
 #include "controls/user.h"
-#include "desktop/text.h"
+#include "desktop/common/text.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -1,21 +1,27 @@
 #include "desktop/front_end/wizard_dialog.h"
 
 #include "contracts/launcher.h"
+#include "contracts/parameters.h"
 #include "controls/text_field.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/settings.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/front_end/page_reasons.h"
-#include "desktop/settings.h"
-#include "desktop/text.h"
-#include "platform/framework/wizard_session.h"
+#include "desktop/front_end/questions.h"
+#include "editor/locus_editor_form.h"
+#include "host/alleles/pane_user.h"
+#include "host/framework/wizard_session.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShowEvent>
-#include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -31,11 +37,12 @@ struct WizardText
 {
     std::string_view Wizard;
     const char* Title;
-    const char* Invalid; ///< When the page marks no field.
+    const char* Invalid;       ///< When the page marks no field.
+    bool AsksToCancel = false; ///< When something was changed.
 };
 
 constexpr WizardText wizardTexts[] = {
-    {LocusEditorWizard.Name, "Locus", "The locus can't be stored as it is."},
+    {LocusEditorWizard.Name, "Locus", "The locus can't be stored as it is.", true},
     {SaveAsWizard.Name, "Save Locus Tag As", "Enter a tag that no other locus has."},
 };
 
@@ -63,18 +70,21 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
       m_wizard(wizard),
       m_actions(actions),
       m_page(new FormView(wizard.Page(), actions, NewHostedView)),
-      m_reasons(new QLabel(this))
+      m_reasons(new QLabel(this)),
+      m_stored(ContentOf(wizard.Page()))
 {
     setObjectName(ToQString(wizard.Name()));
     setWindowTitle(TextOf(wizard.Name()).Title);
     setSizeGripEnabled(true);
+    SetUpReasons();
+    LayOut();
+    AskAboutAlleles();
+    m_validated = m_wizard.Validated.Connect([this] { ShowReasons(); });
+    ShowReasons();
+}
 
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    // A click beside the controls leaves the focus where it is.
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(m_page);
+void WizardDialog::SetUpReasons()
+{
     m_reasons->setObjectName("reasons");
     m_reasons->setAccessibleName("Why the page can't be finished");
     m_reasons->setTextFormat(Qt::PlainText);
@@ -83,12 +93,23 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
     m_reasons->setAutoFillBackground(true);
     m_reasons->setPalette(ReasonPalette());
     m_reasons->hide();
+}
 
+void WizardDialog::LayOut()
+{
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    // A click beside the controls leaves the focus where it is.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(m_page);
+
+    // Their access keys are letters that no page has.
     auto* buttons = new QDialogButtonBox(this);
-    m_finish = buttons->addButton("&Finish", QDialogButtonBox::AcceptRole);
+    m_finish = buttons->addButton("F&inish", QDialogButtonBox::AcceptRole);
     m_finish->setObjectName("finish");
     m_finish->setDefault(true);
-    m_cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    m_cancel = buttons->addButton("&Cancel", QDialogButtonBox::RejectRole);
     m_cancel->setObjectName("cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -97,16 +118,22 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
     layout->addWidget(scroll, 1);
     layout->addWidget(m_reasons);
     layout->addWidget(buttons);
-
-    m_wizard.Validated = [this] { ShowReasons(); };
-    ShowReasons();
     const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
     RestorePlace(*this, natural.expandedTo(sizeHint()));
 }
 
+void WizardDialog::AskAboutAlleles()
+{
+    auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page());
+    if (editor == nullptr)
+        return;
+    m_page->AskBefore(editor->cmdGenAlleleList, [this, editor] {
+        return MayReplaceAlleles(this, User::AllelesOf(editor->ctlPaneAlleleList));
+    });
+}
+
 WizardDialog::~WizardDialog()
 {
-    m_wizard.Validated = nullptr;
     RememberPlace(*this);
 }
 
@@ -115,6 +142,14 @@ void WizardDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (!event->spontaneous())
         m_page->FocusFirst();
+}
+
+void WizardDialog::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F6)
+        m_page->FocusNextArea(!(event->modifiers() & Qt::ShiftModifier));
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void WizardDialog::ShowReasons()
@@ -148,9 +183,36 @@ void WizardDialog::accept()
     });
 }
 
+void WizardDialog::NoteSavedAs()
+{
+    // Once the click that has opened the other page has ended: it goes on to change this one.
+    QTimer::singleShot(0, this, [this] {
+        const auto& parameters = *m_wizard.Base().Parameters();
+        if (!parameters.KeyExists(ParameterKey::SaveLocusAs))
+            return;
+        const auto locus =
+            ParameterItem<std::shared_ptr<Locus>>(parameters, ParameterKey::SaveLocusAs);
+        if (locus->LocusID() > 0)
+            m_stored = ContentOf(m_wizard.Page());
+    });
+}
+
+bool WizardDialog::MayCancel()
+{
+    return !TextOf(m_wizard.Name()).AsksToCancel || ContentOf(m_wizard.Page()) == m_stored ||
+           MayDiscardChanges(this);
+}
+
 void WizardDialog::reject()
 {
+    const QPointer<QWidget> focus = focusWidget();
     m_page->LeaveFocus(*m_cancel);
+    if (!MayCancel())
+    {
+        if (focus)
+            focus->setFocus(Qt::OtherFocusReason);
+        return;
+    }
     m_actions.Run([this] { m_wizard.Cancel(); });
     QDialog::reject();
 }

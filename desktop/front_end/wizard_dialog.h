@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/event.h"
+#include "desktop/front_end/page_content.h"
+
 #include <QDialog>
 
 class QLabel;
@@ -13,7 +16,8 @@ class FormView;
 class WizardSession;
 
 /// A wizard with its page. Finish is refused while the page is not valid, and the reasons then
-/// stand above the buttons. Whatever ends the dialog ends the wizard.
+/// stand above the buttons. What would lose a person's work is asked first. Whatever ends the
+/// dialog ends the wizard.
 class WizardDialog : public QDialog
 {
 public:
@@ -22,13 +26,21 @@ public:
 
     FormView& Page() const { return *m_page; }
 
+    /// What another page has just stored of this one counts as stored.
+    void NoteSavedAs();
+
     void accept() override;
     void reject() override;
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void SetUpReasons();
+    void LayOut();
+    void AskAboutAlleles();
+    bool MayCancel();
     void ShowReasons();
     void FocusFault();
 
@@ -38,6 +50,8 @@ private:
     QLabel* m_reasons;
     QPushButton* m_finish;
     QPushButton* m_cancel;
+    PageContent m_stored; ///< The page as it is in the store.
+    Connection m_validated;
 };
 
 } // namespace Tamrivo

@@ -1,7 +1,7 @@
 #include "desktop/grids/grid_table_model.h"
 
-#include "desktop/text.h"
-#include "platform/grid/grid_model.h"
+#include "desktop/common/text.h"
+#include "host/grid/grid_model.h"
 
 namespace Tamrivo
 {
@@ -82,14 +82,12 @@ void GridTableModel::RowsChanged(std::int32_t first, std::int32_t last)
 
 void GridTableModel::HighlightChanged()
 {
-    if (onHighlightChanged)
-        onHighlightChanged();
+    emit NewHighlight();
 }
 
 void GridTableModel::LookChanged()
 {
-    if (onLookChanged)
-        onLookChanged();
+    emit NewLook();
 }
 
 } // namespace Tamrivo

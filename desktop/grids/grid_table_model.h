@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/grid/grid_updates.h"
+#include "host/grid/grid_updates.h"
 
 #include <QAbstractTableModel>
-
-#include <functional>
 
 namespace Tamrivo
 {
@@ -14,6 +12,8 @@ class GridModel;
 /// The cells of a grid for Qt's views, read where they are.
 class GridTableModel : public QAbstractTableModel, private GridObserver
 {
+    Q_OBJECT
+
 public:
     /// The grid must outlive the model, which becomes its observer.
     GridTableModel(GridModel& grid, QObject* parent);
@@ -24,9 +24,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// For the view: highlight, or colours and state, have changed.
-    std::function<void()> onHighlightChanged;
-    std::function<void()> onLookChanged;
+signals:
+    void NewHighlight();
+    /// The grid's colours or state have changed.
+    void NewLook();
 
 private:
     void BeginInsertRows(std::int32_t first, std::int32_t count) override;

@@ -1,9 +1,9 @@
 #include "desktop/grids/grid_view.h"
 
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
 #include "desktop/forms/appearance.h"
 #include "desktop/grids/grid_table_model.h"
-#include "platform/grid/grid_model.h"
+#include "host/grid/grid_model.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -56,8 +56,8 @@ GridView::GridView(User::GridControl& grid, QWidget& parent, const Actions& acti
     setWordWrap(false);
     setVerticalScrollMode(ScrollPerItem);
     ConnectHeader();
-    m_table->onHighlightChanged = [this] { ShowHighlight(); };
-    m_table->onLookChanged = [this] { ShowLook(); };
+    connect(m_table, &GridTableModel::NewHighlight, this, &GridView::ShowHighlight);
+    connect(m_table, &GridTableModel::NewLook, this, &GridView::ShowLook);
     connect(m_table, &QAbstractItemModel::modelReset, this, [this] {
         ShowHighlight();
         ShowOrder();

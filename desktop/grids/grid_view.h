@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/forms/control_view.h"
-#include "platform/grid/grid_user.h"
+#include "host/grid/grid_user.h"
 
 #include <QTableView>
 
@@ -27,6 +27,7 @@ public:
     void Refresh() override;
     QSize LeastSize() const override;
     bool CanGrow() const override { return true; }
+    std::vector<QWidget*> Areas() override { return {this}; }
 
     void keyboardSearch(const QString& search) override;
 

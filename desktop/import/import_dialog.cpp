@@ -1,15 +1,17 @@
 #include "desktop/import/import_dialog.h"
 
 #include "core/text.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/long_work.h"
+#include "desktop/common/settings.h"
+#include "desktop/common/text.h"
+#include "desktop/import/difference_view.h"
+#include "desktop/import/import_options.h"
 #include "desktop/import/import_preview_model.h"
-#include "desktop/long_work.h"
-#include "desktop/settings.h"
-#include "desktop/text.h"
-#include "platform/panels/counts.h"
-#include "platform/panels/import.h"
-#include "platform/panels/panel_file.h"
-#include "platform/store/store.h"
+#include "desktop/import/import_words.h"
+#include "host/panels/import.h"
+#include "host/panels/panel_files.h"
+#include "host/store/store.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,16 +31,6 @@
 namespace Tamrivo
 {
 
-namespace
-{
-
-QString Sentence(const std::string& start, const QString& end)
-{
-    return ToQString(start) + end;
-}
-
-} // namespace
-
 ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent)
     : QDialog(parent),
       m_store(store),
@@ -46,20 +38,27 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
       m_preview(new ImportPreviewModel(this)),
       m_source(new QLabel(this)),
       m_project(new QComboBox(this)),
+      m_options(new ImportOptions(this)),
       m_tree(new QTreeView(this)),
+      m_differences(new DifferenceView(this)),
       m_reasonsCaption(new QLabel(this)),
       m_reasons(new QPlainTextEdit(this)),
       m_partial(new QCheckBox(this)),
       m_status(new QLabel(this))
 {
     setObjectName("import");
-    setWindowTitle("Import Panel Table");
+    setWindowTitle("Import Panels");
     auto* layout = new QVBoxLayout(this);
     AddSourceRow(*layout);
     AddPreview(*layout);
     AddDecision(*layout);
 
-    m_preview->onChosen = [this] { m_actions.Run([this] { Plan(); }); };
+    m_options->onBinSet = [this] { m_actions.Run([this] { ReadTexts(); }); };
+    m_options->onPlan = [this] { m_actions.Run([this] { Plan(); }); };
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& row) { m_differences->Show(m_preview->PlannedAt(row)); });
+    connect(m_preview, &ImportPreviewModel::PanelsChosen, this,
+            [this] { m_actions.Run([this] { Plan(); }); });
     m_replan.setSingleShot(true);
     m_replan.setInterval(300);
     connect(&m_replan, &QTimer::timeout, this, [this] { m_actions.Run([this] { Plan(); }); });
@@ -106,6 +105,7 @@ void ImportDialog::AddPreview(QBoxLayout& layout)
     m_tree->setAlternatingRowColors(true);
     m_tree->setAllColumnsShowFocus(true);
     layout.addWidget(m_tree, 3);
+    layout.addWidget(m_differences, 1);
 
     m_reasonsCaption->setText("What can't come in, &line by line:");
     m_reasonsCaption->setBuddy(m_reasons);
@@ -124,6 +124,7 @@ void ImportDialog::AddDecision(QBoxLayout& layout)
     m_status->setObjectName("importStatus");
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
+    layout.addWidget(m_options);
     layout.addWidget(m_partial);
     layout.addWidget(m_status);
 
@@ -136,17 +137,33 @@ void ImportDialog::AddDecision(QBoxLayout& layout)
     layout.addWidget(buttons);
 }
 
-void ImportDialog::Preview(const QString& path)
+void ImportDialog::Preview(const QStringList& paths)
 {
-    m_path = path;
-    m_reading = ReadPanelFile(FromQString(path));
-    m_preview->SetMarkers(m_reading.Markers);
+    m_paths = paths;
+    m_texts.clear();
+    for (const QString& path : paths)
+    {
+        m_texts.push_back(LoadPanelFile(FromQString(path)));
+        m_texts.back().Name = FromQString(QFileInfo(path).fileName());
+    }
+    m_source->setToolTip(paths.join('\n'));
+    OfferProjects();
+    // Where a panel has several sets of bins one must be chosen before anything can be read.
+    m_options->OfferBinSets({});
+    m_options->OfferBinSets(ReadPanels(m_texts).BinSets);
+    ReadTexts();
+}
+
+void ImportDialog::ReadTexts()
+{
+    m_differences->Show(nullptr);
+    PanelReading reading = ReadPanels(m_texts, {.BinSet = m_options->BinSet()});
+    m_complaints = std::move(reading.Complaints);
+    m_preview->SetMarkers(std::move(reading.Markers));
     m_source->setText(QString("%1 (markers: %2, panels: %3)")
                           .arg(Source())
-                          .arg(m_reading.Markers.size())
+                          .arg(m_preview->Markers().size())
                           .arg(m_preview->PanelCount()));
-    m_source->setToolTip(path);
-    OfferProjects();
     Plan();
     m_tree->expandAll();
     m_tree->setCurrentIndex(m_preview->index(0, 0));
@@ -173,97 +190,65 @@ void ImportDialog::Plan()
     // Nothing of the former plan may stay in view if this one fails.
     ShowPlan({});
     const auto panels = m_preview->ChosenPanels();
-    if (m_reading.Complaints.empty() && !panels.empty())
+    if (m_complaints.empty() && !panels.empty())
     {
         LongWork work(m_store, "Comparing the table with the store...", this);
-        ShowPlan(PlanImport(m_reading.Markers,
-                            {panels, Trim(FromQString(m_project->currentText()))}, m_store,
+        ShowPlan(PlanImport(m_preview->Markers(),
+                            {.Panels = panels,
+                             .Project = Trim(FromQString(m_project->currentText())),
+                             .AddDyes = m_options->AddDyes(),
+                             .Update = m_options->Update()},
+                            m_store,
                             [&](std::size_t done, std::size_t total) { work.Show(done, total); }));
     }
 }
 
 void ImportDialog::ShowPlan(ImportPlan plan)
 {
-    m_plan = std::move(plan);
-    m_preview->SetPlan(m_plan);
+    m_preview->SetPlan(std::move(plan));
+    m_differences->Show(m_preview->PlannedAt(m_tree->currentIndex()));
+    m_options->ShowPlan(m_preview->Plan());
     ShowState();
 }
 
 void ImportDialog::ShowState()
 {
-    const QStringList reasons = Reasons();
+    const ImportPlan& plan = m_preview->Plan();
+    const QStringList reasons = ReasonsAgainst(m_complaints, plan);
     m_reasonsCaption->setVisible(!reasons.isEmpty());
     m_reasons->setVisible(!reasons.isEmpty());
     if (const QString text = reasons.join('\n'); text != m_reasons->toPlainText())
         m_reasons->setPlainText(text);
 
-    const std::size_t leftOut = m_plan.Count(ImportFate::LeftOut);
-    m_partial->setVisible(leftOut > 0);
-    m_partial->setText(Sentence("Leave out the " + CountOfLoci(leftOut) + " that can't come in, ",
-                                "and import the &rest"));
+    m_partial->setVisible(plan.Refused() > 0);
+    m_partial->setText(OfferToLeaveOut(plan));
     const QString obstacle = Obstacle();
     m_import->setEnabled(obstacle.isEmpty());
-    m_status->setText((Outlook() + " " + obstacle).trimmed());
+    m_status->setText((OutlookOf(plan) + " " + obstacle).trimmed());
 }
 
 QString ImportDialog::Source() const
 {
-    return QFileInfo(m_path).fileName();
-}
-
-QStringList ImportDialog::Reasons() const
-{
-    constexpr qsizetype mostReasons = 500;
-    QStringList reasons;
-    for (const PanelComplaint& complaint : m_reading.Complaints)
-        reasons.append(ToQString(complaint.Text()));
-    if (m_reading.Complaints.size() >= MaxPanelComplaints)
-        reasons.append("The rest of the table has not been read.");
-    qsizetype further = 0;
-    for (const PlannedLocus& locus : m_plan.Loci)
-    {
-        for (const std::string& obstacle : locus.Obstacles)
-        {
-            if (reasons.size() < mostReasons)
-                reasons.append(ToQString(locus.Place() + ": " + obstacle + "."));
-            else
-                ++further;
-        }
-    }
-    if (further > 0)
-        reasons.append(QString("And %1 more; each stands at its marker above.").arg(further));
-    return reasons;
-}
-
-QString ImportDialog::Outlook() const
-{
-    QStringList sentences;
-    if (const std::size_t added = m_plan.Count(ImportFate::New); added > 0)
-        sentences.append(
-            Sentence(CountOfLoci(added) + " with " + CountOfAlleles(m_plan.NewAlleles()),
-                     added == 1 ? " comes in." : " come in."));
-    if (const std::size_t present = m_plan.Count(ImportFate::Present); present > 0)
-        sentences.append(Sentence("The store has " + CountOfLoci(present),
-                                  " already, and they stay as they are."));
-    if (const std::size_t leftOut = m_plan.Count(ImportFate::LeftOut); leftOut > 0)
-        sentences.append(Sentence(CountOfLoci(leftOut), " can't come in."));
-    return sentences.join(' ');
+    QStringList names;
+    for (const QString& path : m_paths)
+        names.append(QFileInfo(path).fileName());
+    return names.join(", ");
 }
 
 QString ImportDialog::Obstacle() const
 {
-    if (!m_reading.Complaints.empty())
+    if (!m_complaints.empty())
         return "Nothing can be imported: the table has lines that can't be read. Mend them and "
                "import it again.";
-    if (m_reading.Markers.empty())
+    if (m_preview->Markers().empty())
         return "Nothing to import: the table has no markers.";
     if (m_preview->ChosenPanels().empty())
         return "Tick a panel to import.";
-    if (m_plan.Loci.empty())
+    if (m_preview->Plan().Loci.empty())
         return "The table wasn't compared with the store. Untick and tick a panel to try again.";
-    if (m_plan.Count(ImportFate::New) == 0)
+    if (!m_preview->Plan().IsAny())
         return "There is nothing new to import.";
-    if (m_plan.Count(ImportFate::LeftOut) > 0 && !m_partial->isChecked())
+    if (m_preview->Plan().Refused() > 0 && !m_partial->isChecked())
         return "Tick the box above to import the rest without them.";
     return {};
 }
@@ -277,7 +262,7 @@ void ImportDialog::Import()
     try
     {
         LongWork work(m_store, "Importing the loci...", this);
-        CarryOutImport(m_plan, m_store,
+        CarryOutImport(m_preview->Plan(), m_store,
                        [&](std::size_t done, std::size_t total) { work.Show(done, total); });
     }
     catch (const Cancelled&)
@@ -291,24 +276,21 @@ void ImportDialog::Import()
         m_replan.start();
         throw;
     }
-    m_result = Sentence("Imported " + CountOfLoci(m_plan.Count(ImportFate::New)) + " with " +
-                            CountOfAlleles(m_plan.NewAlleles()),
-                        ".");
-    if (const std::size_t leftOut = m_plan.Count(ImportFate::LeftOut); leftOut > 0)
-        m_result += Sentence(" Left out " + CountOfLoci(leftOut), ".");
+    m_result = ResultOf(m_preview->Plan());
     accept();
 }
 
-QString ImportPanelTable(Store& store, const Actions& actions, QWidget* parent)
+QString ImportPanelFiles(Store& store, const Actions& actions, QWidget* parent, QStringList paths)
 {
     QString result;
     actions.Run([&] {
-        const QString path = QFileDialog::getOpenFileName(
-            parent, "Import Panel Table", {}, "Panel tables (*.tsv *.txt);;All files (*)");
-        if (path.isEmpty())
+        if (paths.isEmpty())
+            paths = QFileDialog::getOpenFileNames(parent, "Import Panels", {},
+                                                  "Panel files (*.tsv *.txt *.xml);;All files (*)");
+        if (paths.isEmpty())
             return;
         ImportDialog dialog(store, actions, parent);
-        dialog.Preview(path);
+        dialog.Preview(paths);
         dialog.exec();
         result = dialog.Result();
     });

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/panels/import_plan.h"
-#include "platform/panels/panel_reader.h"
+#include "host/panels/import_plan.h"
+#include "host/panels/panel_files.h"
 
 #include <QDialog>
 #include <QTimer>
+
+#include <vector>
 
 class QBoxLayout;
 class QCheckBox;
@@ -18,9 +20,11 @@ namespace Tamrivo
 {
 
 class Actions;
+class DifferenceView;
+class ImportOptions;
 class ImportPreviewModel;
 
-/// Shows what the import of a panel table would do before it is done: each panel with a box to
+/// Shows what the import of panel files would do before it is done: each panel with a box to
 /// tick, each marker with what it becomes or why it can't come in. Imports all that was ticked or
 /// nothing; what can't come in is left out only when the person says so.
 class ImportDialog : public QDialog
@@ -30,9 +34,9 @@ public:
     ImportDialog(Store& store, const Actions& actions, QWidget* parent = nullptr);
     ~ImportDialog() override;
 
-    /// Reads a panel table and shows what would come in. Raises `ErrorNumber::InvalidArgument` when
-    /// the file can't be read, and failures of the store.
-    void Preview(const QString& path);
+    /// Reads files of any formats and shows what would come in. Raises
+    /// `ErrorNumber::InvalidArgument` when one can't be read, and failures of the store.
+    void Preview(const QStringList& paths);
 
     /// What has come in, or empty while nothing has: "Imported 17 loci with 223 alleles."
     const QString& Result() const { return m_result; }
@@ -42,29 +46,31 @@ private:
     void AddSourceRow(QBoxLayout& layout);
     void AddPreview(QBoxLayout& layout);
     void AddDecision(QBoxLayout& layout);
+    /// Reads the files' texts by what is chosen, and shows their markers.
+    void ReadTexts();
     /// Plans the import of what is ticked, and shows the plan.
     void Plan();
     void ShowPlan(ImportPlan plan);
     void ShowState();
     QString Source() const;
-    QStringList Reasons() const;
-    QString Outlook() const;
     /// Why the import can't begin; empty when it can.
     QString Obstacle() const;
     void Import();
 
     Store& m_store;
     const Actions& m_actions;
-    QString m_path;
+    QStringList m_paths;
+    std::vector<PanelText> m_texts;
     QString m_result;
-    PanelReading m_reading;
-    ImportPlan m_plan;
+    std::vector<PanelComplaint> m_complaints; ///< Of the table's lines.
     QTimer m_replan; ///< Runs while the name of the project is being typed.
 
     ImportPreviewModel* m_preview;
     QLabel* m_source;
     QComboBox* m_project;
+    ImportOptions* m_options;
     QTreeView* m_tree;
+    DifferenceView* m_differences;
     QLabel* m_reasonsCaption;
     QPlainTextEdit* m_reasons;
     QCheckBox* m_partial;
@@ -72,8 +78,9 @@ private:
     QPushButton* m_import;
 };
 
-/// Asks for a panel table and shows it in an import dialog. Gives what has come in, or an empty
-/// text. Failures go to the actions.
-QString ImportPanelTable(Store& store, const Actions& actions, QWidget* parent);
+/// Shows files in an import dialog; asks for them when none are given. Gives what has come in, or
+/// an empty text. Failures go to the actions.
+QString ImportPanelFiles(Store& store, const Actions& actions, QWidget* parent,
+                         QStringList paths = {});
 
 } // namespace Tamrivo

@@ -2,14 +2,15 @@
 
 #include "core/numbers.h"
 #include "core/text.h"
-#include "desktop/text.h"
-#include "platform/panels/dyes.h"
+#include "desktop/common/text.h"
+#include "host/loci/dyes.h"
 
 #include <QApplication>
 #include <QFont>
 #include <QStyle>
 
 #include <map>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -27,6 +28,7 @@ struct FateWords
 constexpr FateWords fateWords[] = {
     {"Comes in", QStyle::SP_DialogApplyButton},
     {"In the store already", QStyle::SP_CustomBase},
+    {"Is updated", QStyle::SP_BrowserReload},
     {"Can't come in", QStyle::SP_MessageBoxWarning},
 };
 
@@ -55,33 +57,36 @@ QString RemarksOn(const PlannedLocus& locus)
     return sentences.join(' ');
 }
 
-void ImportPreviewModel::SetMarkers(const std::vector<PanelMarker>& markers)
+void ImportPreviewModel::SetMarkers(std::vector<PanelMarker> markers)
 {
     beginResetModel();
-    m_markers = &markers;
+    m_markers = std::move(markers);
+    m_plan = {};
     m_panels.clear();
     m_panelOf.clear();
     std::map<std::string, std::size_t> panelOfName;
-    for (std::size_t marker = 0; marker < markers.size(); ++marker)
+    for (std::size_t marker = 0; marker < m_markers.size(); ++marker)
     {
-        const std::string name = Trim(markers[marker].Panel);
+        const std::string name = Trim(m_markers[marker].Panel);
         const auto [panel, isNew] = panelOfName.emplace(FoldCase(name), m_panels.size());
         if (isNew)
             m_panels.push_back({name, true, {}});
         m_panels[panel->second].Markers.push_back(marker);
         m_panelOf.push_back(panel->second);
     }
-    m_plannedFor.assign(markers.size(), nullptr);
+    m_plannedFor.assign(m_markers.size(), nullptr);
     endResetModel();
 }
 
-void ImportPreviewModel::SetPlan(const ImportPlan& plan)
+void ImportPreviewModel::SetPlan(ImportPlan plan)
 {
+    m_plan = std::move(plan);
     // The plan has the markers of the chosen panels, in the table's order.
-    auto planned = plan.Loci.begin();
+    auto planned = m_plan.Loci.cbegin();
     for (std::size_t marker = 0; marker < m_plannedFor.size(); ++marker)
     {
-        const bool isPlanned = m_panels[m_panelOf[marker]].IsChosen && planned != plan.Loci.end();
+        const bool isPlanned =
+            m_panels[m_panelOf[marker]].IsChosen && planned != m_plan.Loci.cend();
         m_plannedFor[marker] = isPlanned ? &*planned++ : nullptr;
     }
     for (int panel = 0; panel < rowCount(); ++panel)
@@ -90,6 +95,14 @@ void ImportPreviewModel::SetPlan(const ImportPlan& plan)
         emit dataChanged(parent, index(panel, ColumnCount - 1));
         emit dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, ColumnCount - 1, parent));
     }
+}
+
+const PlannedLocus* ImportPreviewModel::PlannedAt(const QModelIndex& index) const
+{
+    if (!index.isValid() || index.internalId() == panelRow)
+        return nullptr;
+    const Panel& panel = m_panels[static_cast<std::size_t>(index.internalId()) - 1];
+    return m_plannedFor[panel.Markers[static_cast<std::size_t>(index.row())]];
 }
 
 std::vector<std::string> ImportPreviewModel::ChosenPanels() const
@@ -205,7 +218,7 @@ QVariant ImportPreviewModel::MarkerData(std::size_t marker, int column, int role
 
 QString ImportPreviewModel::MarkerText(std::size_t marker, int column) const
 {
-    const PanelMarker& stated = (*m_markers)[marker];
+    const PanelMarker& stated = m_markers[marker];
     const PlannedLocus* planned = m_plannedFor[marker];
     switch (column)
     {
@@ -217,8 +230,8 @@ QString ImportPreviewModel::MarkerText(std::size_t marker, int column) const
     case Tag: return planned == nullptr ? QString() : ToQString(planned->Tag);
     case Dye:
     {
-        const auto dye = DyeOfColor(stated.Color);
-        return ToQString(dye ? DyeColor(*dye) : Trim(stated.Color));
+        const KnownColor* color = FindColor(stated.Color);
+        return ToQString(color != nullptr ? std::string(color->Name) : Trim(stated.Color));
     }
     case Range:
         return planned == nullptr ? RangeText(stated.RangeStart, stated.RangeEnd)
@@ -235,8 +248,7 @@ bool ImportPreviewModel::setData(const QModelIndex& index, const QVariant& value
         return false;
     m_panels[static_cast<std::size_t>(index.row())].IsChosen = value.toInt() == Qt::Checked;
     emit dataChanged(index, index);
-    if (onChosen)
-        onChosen();
+    emit PanelsChosen();
     return true;
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/panels/import_plan.h"
+#include "host/panels/import_plan.h"
 
 #include <QAbstractItemModel>
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 namespace Tamrivo
@@ -14,6 +13,8 @@ namespace Tamrivo
 /// Panels with a box to tick each, and below them their markers with what an import would do.
 class ImportPreviewModel : public QAbstractItemModel
 {
+    Q_OBJECT
+
 public:
     enum Column
     {
@@ -30,17 +31,19 @@ public:
 
     using QAbstractItemModel::QAbstractItemModel;
 
-    /// Shows the markers of a table, all panels ticked. They must stay where they are.
-    void SetMarkers(const std::vector<PanelMarker>& markers);
-    /// Takes over what a plan for `ChosenPanels` says; it must stay where it is.
-    void SetPlan(const ImportPlan& plan);
+    /// Shows the markers of a table, all panels ticked and nothing planned.
+    void SetMarkers(std::vector<PanelMarker> markers);
+    const std::vector<PanelMarker>& Markers() const { return m_markers; }
+    /// Shows what a plan for `ChosenPanels` says.
+    void SetPlan(ImportPlan plan);
+    const ImportPlan& Plan() const { return m_plan; }
+
+    /// The plan of the marker in a row; null for a panel, and for a marker that isn't planned.
+    const PlannedLocus* PlannedAt(const QModelIndex& index) const;
 
     /// The ticked panels; the table's first spelling of each name.
     std::vector<std::string> ChosenPanels() const;
     std::size_t PanelCount() const { return m_panels.size(); }
-
-    /// The person has ticked a panel or taken a tick away.
-    std::function<void()> onChosen;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -50,6 +53,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+signals:
+    /// The person has ticked a panel or taken a tick away.
+    void PanelsChosen();
 
 private:
     struct Panel
@@ -64,10 +71,11 @@ private:
     QString MarkerText(std::size_t marker, int column) const;
     QString SummaryOf(const Panel& panel) const;
 
-    const std::vector<PanelMarker>* m_markers = nullptr;
+    std::vector<PanelMarker> m_markers;
+    ImportPlan m_plan;
     std::vector<Panel> m_panels;
     std::vector<std::size_t> m_panelOf;            ///< Of each marker.
-    std::vector<const PlannedLocus*> m_plannedFor; ///< Each marker; null when not chosen.
+    std::vector<const PlannedLocus*> m_plannedFor; ///< In the plan; null when not chosen.
 };
 
 /// Why a locus can't come in, or what is noteworthy about it, in sentences; may be empty.

@@ -1,8 +1,7 @@
 #include "desktop/lanes/lane_drawing.h"
 
-#include "desktop/pictures/colors.h"
-#include "desktop/text.h"
-#include "platform/panels/dyes.h"
+#include "desktop/common/dye_shade.h"
+#include "desktop/common/text.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -18,20 +17,10 @@ namespace
 constexpr int padding = 6;
 constexpr int rowGap = 4;
 
-QString TitleOf(const Lane& lane)
-{
-    return ToQString(DyeName(lane.DyeIndex) + " (" + DyeColor(lane.DyeIndex) + ")");
-}
-
 int HeightOf(const Lane& lane, const QFontMetrics& font)
 {
     const int rows = static_cast<int>(lane.Rows.size());
     return rows * (LaneDrawing::RowHeight(font) + rowGap) - rowGap + 2 * padding;
-}
-
-bool IsDark(const QPalette& palette)
-{
-    return qGray(palette.color(QPalette::Base).rgb()) < 128;
 }
 
 QColor Mixed(const QColor& ground, const QColor& color, double share)
@@ -90,8 +79,11 @@ void DrawName(QPainter& painter, const QString& name, const LaneBar& bar, const 
 
 } // namespace
 
-LaneDrawing::LaneDrawing(std::vector<LaneLocus> loci, LocusOverlaps overlaps)
-    : m_loci(std::move(loci)), m_overlaps(std::move(overlaps)), m_lanes(LayOutLanes(m_loci))
+LaneDrawing::LaneDrawing(std::vector<LaneLocus> loci, LocusOverlaps overlaps, Dyes dyes)
+    : m_loci(std::move(loci)),
+      m_overlaps(std::move(overlaps)),
+      m_dyes(std::move(dyes)),
+      m_lanes(LayOutLanes(m_loci))
 {
     if (m_loci.empty())
         return;
@@ -118,6 +110,14 @@ int LaneDrawing::LanesHeight(const QFontMetrics& font) const
     for (const Lane& lane : m_lanes)
         height += HeightOf(lane, font);
     return height;
+}
+
+QString LaneDrawing::TitleOf(const Lane& lane) const
+{
+    const auto dye = static_cast<std::size_t>(lane.DyeIndex);
+    const bool isNamed = dye < m_dyes.All().size() && !m_dyes.All()[dye].Name.empty();
+    return ToQString(DyeEntry(lane.DyeIndex) + " (" + m_dyes.ColorOf(lane.DyeIndex) +
+                     (isNamed ? ", " + m_dyes.All()[dye].Name : "") + ")");
 }
 
 int LaneDrawing::TitleWidth(const QFontMetrics& font) const
@@ -246,12 +246,10 @@ void LaneDrawing::DrawBar(QPainter& painter, const LaneBar& bar, const LengthAxi
                           const QPalette& palette) const
 {
     const LaneLocus& locus = m_loci[bar.Locus];
-    const bool isDark = IsDark(palette);
     const bool isOverlapped = m_overlaps.IsOverlapped[bar.Locus];
-    const QColor color = isOverlapped ? SafeColor::Vermillion
-                         : isDark     ? SafeColor::SkyBlue
-                                      : SafeColor::Blue;
-    const QColor ground = Mixed(palette.color(QPalette::Base), color, isDark ? 0.35 : 0.2);
+    const QColor color = DyeShade(m_dyes, locus.DyeIndex, palette);
+    const QColor ground =
+        Mixed(palette.color(QPalette::Base), color, IsDarkTheme(palette) ? 0.35 : 0.2);
     painter.fillRect(bar.Rect, ground);
 
     auto stretch = std::ranges::lower_bound(
@@ -266,7 +264,7 @@ void LaneDrawing::DrawBar(QPainter& painter, const LaneBar& bar, const LengthAxi
         const double least = std::max(left + 2, right);
         Hatch(painter, {left, bar.Rect.top(), least - left, bar.Rect.height()}, color);
     }
-    painter.setPen(QPen(color, isOverlapped ? 2 : 1));
+    painter.setPen(QPen(color, isOverlapped ? 3 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(bar.Rect);
     DrawName(painter, ToQString(locus.Tag), bar, palette.color(QPalette::Text), ground);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "desktop/common/length_axis.h"
 #include "desktop/lanes/lane_order.h"
-#include "desktop/pictures/length_axis.h"
+#include "host/loci/dyes.h"
 
 #include <QFontMetrics>
 #include <QPalette>
@@ -30,7 +31,8 @@ struct LaneBar
 class LaneDrawing
 {
 public:
-    LaneDrawing(std::vector<LaneLocus> loci, LocusOverlaps overlaps);
+    /// @param dyes those of the store, whose colours the bars have
+    LaneDrawing(std::vector<LaneLocus> loci, LocusOverlaps overlaps, Dyes dyes = {});
 
     const std::vector<LaneLocus>& Loci() const { return m_loci; }
     const LocusOverlaps& Overlaps() const { return m_overlaps; }
@@ -52,6 +54,7 @@ public:
 
 private:
     LengthAxis AxisIn(QSize size, const QFontMetrics& font) const;
+    QString TitleOf(const Lane& lane) const;
     int TitleWidth(const QFontMetrics& font) const;
     void DrawGrounds(QPainter& painter, QSize size, int scrolled, const QPalette& palette) const;
     void DrawBar(QPainter& painter, const LaneBar& bar, const LengthAxis& axis,
@@ -59,6 +62,7 @@ private:
 
     std::vector<LaneLocus> m_loci;
     LocusOverlaps m_overlaps;
+    Dyes m_dyes;
     std::vector<Lane> m_lanes;
     double m_low = 0;
     double m_high = 1;

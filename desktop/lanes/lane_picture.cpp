@@ -1,14 +1,15 @@
 #include "desktop/lanes/lane_picture.h"
 
 #include "core/error.h"
-#include "desktop/pictures/picture_role.h"
-#include "desktop/text.h"
+#include "desktop/common/picture_role.h"
+#include "desktop/common/text.h"
 
 #include <QAccessible>
 #include <QBuffer>
 #include <QHelpEvent>
 #include <QImage>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSvgGenerator>
@@ -163,25 +164,41 @@ QString LanePicture::TipOf(std::size_t position) const
                       .arg(ToQString(locus.Tag))
                       .arg(locus.From)
                       .arg(locus.To)
-                      .arg(ToQString(DyeName(locus.DyeIndex)));
+                      .arg(ToQString(DyeEntry(locus.DyeIndex)));
     if (m_drawing.Overlaps().IsOverlapped[position])
         tip += "\nOverlaps another locus of this dye";
     return tip;
 }
 
+std::optional<std::size_t> LanePicture::LocusAt(QPoint place) const
+{
+    if (place.y() >= viewport()->height() - LaneDrawing::AxisHeight(fontMetrics()))
+        return std::nullopt;
+    for (const LaneBar& bar : Bars())
+    {
+        if (bar.Rect.adjusted(-2, 0, 2, 0).contains(place))
+            return bar.Locus;
+    }
+    return std::nullopt;
+}
+
 bool LanePicture::viewportEvent(QEvent* event)
 {
+    const bool isClick = event->type() == QEvent::MouseButtonPress;
+    if (isClick || event->type() == QEvent::MouseButtonDblClick)
+    {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const auto locus = LocusAt(mouse->position().toPoint());
+        const auto& handler = isClick ? onClicked : onDoubleClicked;
+        if (locus && handler && mouse->button() == Qt::LeftButton)
+            handler(*locus);
+        return QAbstractScrollArea::viewportEvent(event);
+    }
     if (event->type() != QEvent::ToolTip)
         return QAbstractScrollArea::viewportEvent(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    const bool isOnLanes =
-        help->pos().y() < viewport()->height() - LaneDrawing::AxisHeight(fontMetrics());
-    const auto bars = Bars();
-    const auto bar = std::ranges::find_if(bars, [&](const LaneBar& shown) {
-        return isOnLanes && shown.Rect.adjusted(-2, 0, 2, 0).contains(help->pos());
-    });
-    QToolTip::showText(help->globalPos(), bar != bars.end() ? TipOf(bar->Locus) : QString(),
-                       viewport());
+    const auto locus = LocusAt(help->pos());
+    QToolTip::showText(help->globalPos(), locus ? TipOf(*locus) : QString(), viewport());
     return true;
 }
 

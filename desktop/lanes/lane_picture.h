@@ -4,6 +4,8 @@
 
 #include <QAbstractScrollArea>
 
+#include <functional>
+
 namespace Tamrivo
 {
 
@@ -24,6 +26,11 @@ public:
     QByteArray AsPng() const;
     QByteArray AsSvg() const;
 
+    /// The person has clicked the bar of a locus, or double clicked one. Positions in the list of
+    /// loci.
+    std::function<void(std::size_t locus)> onClicked;
+    std::function<void(std::size_t locus)> onDoubleClicked;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -40,6 +47,8 @@ private:
     QSize WholeSize() const;
     QString TipOf(std::size_t locus) const;
     std::vector<LaneBar> Bars() const;
+    /// The locus whose bar is at a place of the viewport.
+    std::optional<std::size_t> LocusAt(QPoint place) const;
     void GoTo(std::size_t locus);
 
     LaneDrawing m_drawing{{}, {}};

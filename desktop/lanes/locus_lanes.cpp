@@ -1,10 +1,10 @@
 #include "desktop/lanes/locus_lanes.h"
 
-#include "desktop/forms/actions.h"
-#include "desktop/icons.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/icons.h"
+#include "desktop/common/save_file.h"
+#include "desktop/common/text.h"
 #include "desktop/lanes/lane_picture.h"
-#include "desktop/save_file.h"
-#include "desktop/text.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -53,6 +53,14 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
     m_list->setReadOnly(true);
     m_list->setTabChangesFocus(true);
 
+    m_picture->onClicked = [this](std::size_t locus) {
+        if (onClicked)
+            onClicked(m_picture->Drawing().Loci()[locus].Tag);
+    };
+    m_picture->onDoubleClicked = [this](std::size_t locus) {
+        if (onDoubleClicked)
+            onDoubleClicked(m_picture->Drawing().Loci()[locus].Tag);
+    };
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_picture, 1);
@@ -61,11 +69,11 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
     SetLoci({});
 }
 
-void LocusLanes::SetLoci(std::vector<LaneLocus> loci)
+void LocusLanes::SetLoci(std::vector<LaneLocus> loci, Dyes dyes)
 {
     LocusOverlaps overlaps = FindOverlaps(loci, mostListed);
     ShowOverlaps(overlaps, loci);
-    m_picture->Show({std::move(loci), std::move(overlaps)});
+    m_picture->Show({std::move(loci), std::move(overlaps), std::move(dyes)});
 }
 
 void LocusLanes::ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<LaneLocus>& loci)

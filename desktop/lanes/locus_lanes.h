@@ -1,8 +1,12 @@
 #pragma once
 
 #include "desktop/lanes/locus_overlaps.h"
+#include "host/loci/dyes.h"
 
 #include <QWidget>
+
+#include <functional>
+#include <string>
 
 class QLabel;
 class QPlainTextEdit;
@@ -21,8 +25,12 @@ public:
     /// The actions must outlive the widget.
     explicit LocusLanes(const Actions& actions, QWidget* parent = nullptr);
 
-    /// Shows these loci instead of those before.
-    void SetLoci(std::vector<LaneLocus> loci);
+    /// Shows these loci instead of those before, in the colours of the dyes.
+    void SetLoci(std::vector<LaneLocus> loci, Dyes dyes = {});
+
+    /// The person has clicked a locus, or double clicked one.
+    std::function<void(const std::string& tag)> onClicked;
+    std::function<void(const std::string& tag)> onDoubleClicked;
 
     /// Asks where to, and saves the picture.
     void SavePictureAs();

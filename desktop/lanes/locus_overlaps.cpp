@@ -1,6 +1,7 @@
 #include "desktop/lanes/locus_overlaps.h"
 
 #include "desktop/lanes/lane_order.h"
+#include "host/loci/dyes.h"
 
 #include <algorithm>
 #include <span>
@@ -83,11 +84,6 @@ private:
 
 } // namespace
 
-std::string DyeName(std::int32_t dyeIndex)
-{
-    return "D" + std::to_string(dyeIndex + 1);
-}
-
 LocusOverlaps FindOverlaps(const std::vector<LaneLocus>& loci, std::size_t most)
 {
     LocusOverlaps overlaps;
@@ -102,7 +98,7 @@ std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& 
 {
     return loci[overlap.First].Tag + " and " + loci[overlap.Second].Tag + " overlap from " +
            std::to_string(overlap.From) + " to " + std::to_string(overlap.To) + " nt on dye " +
-           DyeName(loci[overlap.First].DyeIndex) + ": they can't be told apart in one run";
+           DyeEntry(loci[overlap.First].DyeIndex) + ": they can't be told apart in one run";
 }
 
 } // namespace Tamrivo

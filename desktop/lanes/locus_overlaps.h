@@ -17,9 +17,6 @@ struct LaneLocus
     std::int32_t To = 0;       ///< End of the range, nt; not before `From`.
 };
 
-/// "D1", as the editor's list of dyes has it.
-std::string DyeName(std::int32_t dyeIndex);
-
 /// Two loci of one dye, as positions in the list of loci, and the lengths that both may have.
 struct LocusOverlap
 {

@@ -1,7 +1,7 @@
 #include "desktop/reports/report_table_model.h"
 
-#include "desktop/text.h"
-#include "platform/grid/sort_key.h"
+#include "desktop/common/text.h"
+#include "host/grid/sort_key.h"
 
 #include <algorithm>
 #include <functional>
@@ -76,7 +76,7 @@ void ReportTableModel::sort(int column, Qt::SortOrder order)
     else
         std::ranges::stable_sort(keys, std::ranges::greater(), byKey);
 
-    Report sorted{m_report.Subject, {}, {}};
+    Report sorted{m_report.Subject, {}, {}, m_report.OfStore};
     for (const auto& [key, row] : keys)
     {
         sorted.Keys.push_back(m_report.Keys[row]);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/reports/report.h"
+#include "host/reports/report.h"
 
 #include <QAbstractTableModel>
 

@@ -1,53 +1,35 @@
 #include "desktop/reports/reports_window.h"
 
-#include "desktop/forms/actions.h"
-#include "desktop/icons.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/icons.h"
+#include "desktop/common/long_work.h"
+#include "desktop/common/save_file.h"
+#include "desktop/common/settings.h"
+#include "desktop/common/text.h"
+#include "desktop/reports/report_output.h"
 #include "desktop/reports/report_table_model.h"
-#include "desktop/reports/table_printer.h"
-#include "desktop/save_file.h"
-#include "desktop/settings.h"
-#include "desktop/text.h"
-#include "platform/framework/host_application.h"
-#include "platform/panels/counts.h"
+#include "host/framework/host_application.h"
+#include "host/loci/counts.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QBuffer>
 #include <QComboBox>
 #include <QEvent>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProgressDialog>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <sstream>
 
 namespace Tamrivo
 {
 
 namespace
 {
-
-struct SaveFormat
-{
-    const char* Suffix;
-    const char* Filter;
-};
-
-constexpr SaveFormat formats[] = {
-    {"pdf", "PDF, to read and print (*.pdf)"},
-    {"html", "HTML, a web page (*.html)"},
-    {"tsv", "TSV, for other programs (*.tsv)"},
-};
 
 QLabel* Caption(const QString& text, QWidget* buddy)
 {
@@ -75,19 +57,7 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
     m_type->setAccessibleName("Report on");
     m_scope->setObjectName("reportScope");
     m_scope->setAccessibleName("Loci");
-    m_table->setObjectName("reportTable");
-    m_table->setAccessibleName("Report");
-    m_table->setModel(m_model);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setTabKeyNavigation(false);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setHighlightSections(false);
-    // The order of the service until the person asks for another.
-    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    m_table->setSortingEnabled(true);
+    SetUpTable();
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(MakeTopRow());
@@ -104,6 +74,23 @@ ReportsWindow::ReportsWindow(HostApplication& host, const Actions& actions, QWid
 ReportsWindow::~ReportsWindow()
 {
     RememberPlace(*this);
+}
+
+void ReportsWindow::SetUpTable()
+{
+    m_table->setObjectName("reportTable");
+    m_table->setAccessibleName("Report");
+    m_table->setModel(m_model);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setTabKeyNavigation(false);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setHighlightSections(false);
+    // The order of the service until the person asks for another.
+    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_table->setSortingEnabled(true);
 }
 
 void ReportsWindow::FitRows()
@@ -180,25 +167,18 @@ void ReportsWindow::OfferScopes()
 
 void ReportsWindow::Load()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-    m_types = m_host.ContextTypes();
+    const LongWork work(m_host.Store(), "Reading the loci...", this);
+    const std::vector<ContextKind> kinds = m_host.ContextKinds();
     const int chosen = std::max(m_type->currentIndex(), 0);
     m_type->clear();
-    const HostReportContextType* type = nullptr;
-    for (const auto& offered : m_types)
-    {
-        const auto& hostType = dynamic_cast<const HostReportContextType&>(*offered);
-        if (m_type->count() == chosen)
-            type = &hostType;
-        m_type->addItem(ToQString(hostType.Name()));
-    }
+    for (const ContextKind& kind : kinds)
+        m_type->addItem(ToQString(kind.Name));
     m_type->setCurrentIndex(chosen);
     m_type->setEnabled(m_type->count() > 1);
 
     Report report;
-    if (type != nullptr)
-        report = ContextsOf(m_host, *type);
+    if (chosen < std::ssize(kinds))
+        report = ContextsOf(m_host, kinds[static_cast<std::size_t>(chosen)]);
     if (m_parameter && m_scope->currentIndex() == 1)
     {
         report = OnlyKeys(report, m_parameter->Tags);
@@ -213,11 +193,6 @@ void ReportsWindow::Load()
     ShowStatus();
 }
 
-QString ReportsWindow::Heading() const
-{
-    return ToQString(m_model->Shown().Heading());
-}
-
 void ReportsWindow::ShowStatus(const QString& done)
 {
     const std::size_t loci = m_model->Shown().Items.size();
@@ -230,87 +205,32 @@ void ReportsWindow::ShowStatus(const QString& done)
 
 void ReportsWindow::SaveAs()
 {
-    QStringList filters;
-    for (const SaveFormat& format : formats)
-        filters.append(format.Filter);
-    QString chosen = filters.front();
-    QString path =
-        QFileDialog::getSaveFileName(this, "Save Report", "loci.pdf", filters.join(";;"), &chosen);
-    if (path.isEmpty())
-        return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QString(".") + formats[std::max<qsizetype>(filters.indexOf(chosen), 0)].Suffix;
-    Save(path);
+    const QString path = AskForReportFile(this);
+    if (!path.isEmpty())
+        Save(path);
 }
 
 void ReportsWindow::Save(const QString& path)
 {
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    const Report& report = m_model->Shown();
-    std::ostringstream text;
-    QByteArray content;
-    if (suffix == "pdf")
-    {
-        content = AsPdf();
-        if (content.isEmpty())
-            return;
-    }
-    else if (suffix == "html" || suffix == "htm")
-        PrintHtmlPage(text, {{FromQString(Heading()), TableOf(report, Audience::People)}});
-    else if (suffix == "tsv")
-        PrintTsv(text, TableOf(report, Audience::Programs));
-    else
-        throw Failure(ErrorNumber::InvalidArgument, "Reports",
-                      "The report wasn't saved: \"" + FromQString(QFileInfo(path).fileName()) +
-                          "\" should end in .pdf, .html or .tsv");
-    SaveFile(path, content.isEmpty() ? QByteArray::fromStdString(text.str()) : content);
+    const auto content = ReportFileContent(m_model->Shown(), path, this);
+    if (!content)
+        return ShowStatus("Cancelled.");
+    SaveFile(path, *content);
     ShowStatus("Saved to " + path + ".");
-}
-
-QByteArray ReportsWindow::AsPdf()
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
-                                     QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter));
-    writer.setTitle(Heading());
-    writer.setCreator("Tamrivo");
-    return PrintOn(writer, 1, 0) ? buffer.data() : QByteArray();
 }
 
 void ReportsWindow::Print()
 {
     QPrinter printer;
     printer.setPageOrientation(QPageLayout::Landscape);
-    printer.setDocName(Heading());
+    printer.setDocName(ToQString(m_model->Shown().Heading()));
     QPrintDialog dialog(&printer, this);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (PrintOn(printer, std::max(printer.fromPage(), 1), printer.toPage()))
-        ShowStatus("Sent to the printer.");
-}
-
-bool ReportsWindow::PrintOn(QPagedPaintDevice& device, int first, int last)
-{
-    const Table table = TableOf(m_model->Shown(), Audience::People);
-    TablePrinter printer(table, Heading(), device);
-    const int end = last > 0 ? std::min(last, printer.Pages()) : printer.Pages();
-    QProgressDialog progress("Setting the pages...", "Cancel", 0, 1, this);
-    progress.setWindowModality(Qt::WindowModal);
-    const bool isDone = printer.Print(std::min(first, end), end, [&](int done, int pages) {
-        progress.setMaximum(pages);
-        progress.setValue(done);
-        if (!progress.wasCanceled())
-            return true;
-        if (auto* paper = dynamic_cast<QPrinter*>(&device))
-            paper->abort();
-        return false;
-    });
-    if (!isDone)
-        ShowStatus("Cancelled.");
-    return isDone;
+    const PageRange pages{std::max(printer.fromPage(), 1), printer.toPage()};
+    ShowStatus(PrintReport(m_model->Shown(), printer, pages, this) ? "Sent to the printer."
+                                                                   : "Cancelled.");
 }
 
 } // namespace Tamrivo

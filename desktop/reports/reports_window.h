@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contracts/service_base.h"
-#include "platform/reports/report.h"
+#include "host/reports/report.h"
 
 #include <QWidget>
 
@@ -9,7 +9,6 @@
 
 class QComboBox;
 class QLabel;
-class QPagedPaintDevice;
 class QTableView;
 
 namespace Tamrivo
@@ -52,21 +51,16 @@ private:
         std::vector<std::string> Tags;
     };
 
+    void SetUpTable();
     void FitRows();
     QLayout* MakeTopRow();
     void OfferScopes();
     void Load();
     void ShowStatus(const QString& done = {});
-    QString Heading() const;
-    /// Prints pages, counted from 1; 0 for the last means all. Gives whether the person let it come
-    /// to its end.
-    bool PrintOn(QPagedPaintDevice& device, int first, int last);
-    QByteArray AsPdf();
 
     HostApplication& m_host;
     const Actions& m_actions;
     std::optional<Parameter> m_parameter;
-    ReportContextTypes m_types;
 
     QComboBox* m_type;
     QComboBox* m_scope;

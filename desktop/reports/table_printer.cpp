@@ -1,7 +1,7 @@
 #include "desktop/reports/table_printer.h"
 
 #include "core/error.h"
-#include "desktop/text.h"
+#include "desktop/common/text.h"
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>

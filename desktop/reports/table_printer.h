@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/reports/table.h"
+#include "host/reports/table.h"
 
 #include <QFont>
 #include <QString>

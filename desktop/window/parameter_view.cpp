@@ -1,23 +1,20 @@
 #include "desktop/window/parameter_view.h"
 
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/long_work.h"
+#include "desktop/common/text.h"
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/hosted_views.h"
-#include "desktop/icons.h"
 #include "desktop/lanes/locus_lanes.h"
-#include "desktop/long_work.h"
-#include "desktop/text.h"
-#include "platform/framework/host_application.h"
-#include "platform/framework/parameter_page.h"
-#include "platform/grid/grid_model.h"
-#include "platform/grid/grid_user.h"
+#include "host/framework/host_application.h"
+#include "host/framework/parameter_page.h"
+#include "host/grid/grid_model.h"
+#include "host/grid/grid_user.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTableView>
+#include <QVBoxLayout>
 
 namespace Tamrivo
 {
@@ -59,17 +56,8 @@ ParameterView::ParameterView(HostApplication& host, const Actions& actions, cons
       m_actions(actions),
       m_name(name),
       m_splitter(new QSplitter(Qt::Vertical, this)),
-      m_lanes(new LocusLanes(actions, this)),
-      m_save(new QPushButton(ThemeIcon("document-save"), "&Save", this)),
-      m_revert(new QPushButton(ThemeIcon("document-revert"), "Re&vert", this))
+      m_lanes(new LocusLanes(actions, this))
 {
-    m_save->setObjectName("save");
-    m_save->setToolTip("Store the selection in the analysis parameter");
-    m_revert->setObjectName("revert");
-    m_revert->setToolTip("Go back to the selection that is stored");
-    connect(m_save, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Save(); }); });
-    connect(m_revert, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Revert(); }); });
-
     auto* scroll = new QScrollArea(m_splitter);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -80,17 +68,8 @@ ParameterView::ParameterView(HostApplication& host, const Actions& actions, cons
     m_splitter->setStretchFactor(1, 2);
     m_splitter->setChildrenCollapsible(false);
 
-    auto* title = new QLabel(ToQString(name), this);
-    title->setTextFormat(Qt::PlainText);
-    QFont large = title->font();
-    large.setBold(true);
-    title->setFont(large);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(title, 1);
-    buttons->addWidget(m_save);
-    buttons->addWidget(m_revert);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(buttons);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_splitter, 1);
 
     // Changes of many rows come one by one.
@@ -111,10 +90,8 @@ ParameterView::~ParameterView()
 
 void ParameterView::Open()
 {
-    LongWork work(m_host.Store(), "Reading the loci...", this);
+    const LongWork work(m_host.Store(), "Reading the loci...", this);
     auto page = std::make_unique<ParameterPage>(m_host, m_host.Parameters().Open(m_name));
-    // The selector fills its lists without the store.
-    work.GoOn();
     delete m_form;
     m_page = std::move(page);
     m_form = new FormView(m_page->Selector(), m_actions, NewHostedView);
@@ -139,10 +116,8 @@ void ParameterView::ShowSelection()
     std::vector<LaneLocus> loci;
     for (const auto& locus : m_page->Selector().SelectedLocusTags())
         loci.push_back({locus->LocusTag(), locus->DyeIndex, locus->FragStart, locus->FragEnd});
-    m_lanes->SetLoci(std::move(loci));
+    m_lanes->SetLoci(std::move(loci), m_host.Store().Dyes());
     m_isChanged = m_page->IsChanged();
-    m_save->setEnabled(m_isChanged);
-    m_revert->setEnabled(m_isChanged);
     if (onChanged)
         onChanged();
 }
@@ -171,11 +146,11 @@ void ParameterView::Reload()
     const auto tags = SelectedTags();
     Open();
     if (wasChanged)
-        Select({tags.begin(), tags.end()});
+        SelectOnly({tags.begin(), tags.end()});
     ShowSelection();
 }
 
-void ParameterView::Select(const std::set<std::string>& tags)
+void ParameterView::SelectOnly(const std::set<std::string>& tags)
 {
     STRLocusTagSelector& selector = m_page->Selector();
     MoveRows(selector.gridSelected, selector.cmdRemoveSingle,
@@ -193,20 +168,33 @@ std::vector<std::string> ParameterView::SelectedTags() const
     return tags;
 }
 
-std::optional<std::string> ParameterView::HighlightedTag() const
+std::vector<std::string> ParameterView::HighlightedTags() const
 {
-    std::optional<std::string> tag;
+    std::vector<std::string> tags;
     for (const auto* grid : {&m_page->Selector().gridAvailable, &m_page->Selector().gridSelected})
     {
         const GridModel& rows = ModelOf(grid->Object());
-        const auto highlighted = rows.HighlightedRows();
-        if (highlighted.empty())
-            continue;
-        if (tag || highlighted.size() > 1)
-            return std::nullopt;
-        tag = rows.Cell(highlighted.front(), tagColumn);
+        for (const std::int32_t row : rows.HighlightedRows())
+            tags.push_back(rows.Cell(row, tagColumn));
     }
-    return tag;
+    return tags;
+}
+
+std::vector<std::shared_ptr<Locus>> ParameterView::SelectedLoci() const
+{
+    const auto selected = m_page->Selector().SelectedLocusTags();
+    return {selected.begin(), selected.end()};
+}
+
+void ParameterView::Select(const std::vector<std::string>& tags, bool isSelected)
+{
+    STRLocusTagSelector& selector = m_page->Selector();
+    const std::set<std::string> moved(tags.begin(), tags.end());
+    const auto moves = [&](const std::string& tag) { return moved.contains(tag); };
+    if (isSelected)
+        MoveRows(selector.gridAvailable, selector.cmdAddSingle, moves);
+    else
+        MoveRows(selector.gridSelected, selector.cmdRemoveSingle, moves);
 }
 
 } // namespace Tamrivo

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "contracts/locus.h"
+
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
-class QPushButton;
 class QSplitter;
 class QTableView;
 
@@ -43,8 +43,14 @@ public:
 
     /// Tags of the selection, in the order of its rows.
     std::vector<std::string> SelectedTags() const;
-    /// The tag of the one row that is highlighted in the grids; none when it isn't exactly one.
-    std::optional<std::string> HighlightedTag() const;
+    /// The loci of the selection, in no order that matters.
+    std::vector<std::shared_ptr<Locus>> SelectedLoci() const;
+    /// The tags of the rows that are highlighted in the grids.
+    std::vector<std::string> HighlightedTags() const;
+
+    /// Adds loci to the selection or takes them out, by the selector's own buttons. Tags that the
+    /// selector doesn't have are left out.
+    void Select(const std::vector<std::string>& tags, bool isSelected);
 
     FormView& Selector() const { return *m_form; }
     LocusLanes& Picture() const { return *m_lanes; }
@@ -56,7 +62,7 @@ private:
     void Open();
     void WatchSelection();
     void ShowSelection();
-    void Select(const std::set<std::string>& tags);
+    void SelectOnly(const std::set<std::string>& tags);
 
     HostApplication& m_host;
     const Actions& m_actions;
@@ -65,8 +71,6 @@ private:
     FormView* m_form = nullptr;
     QSplitter* m_splitter;
     LocusLanes* m_lanes;
-    QPushButton* m_save;
-    QPushButton* m_revert;
     QTimer m_selectionChanged;
     bool m_isChanged = false; ///< As long as the timer doesn't run.
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/framework/host_application.h"
+#include "host/framework/host_application.h"
 
 #include <string>
 

@@ -18,7 +18,7 @@ namespace
     throw std::runtime_error(what);
 }
 
-void* Open(const std::string& path)
+void* Open(const std::filesystem::path& path)
 {
     void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     return module ? module : (Fail(dlerror()), nullptr);
@@ -31,15 +31,30 @@ Function* Entry(void* module, const char* name)
     return address ? reinterpret_cast<Function*>(address) : (Fail(dlerror()), nullptr);
 }
 
+/// Why the module's last call failed, behind a colon; nothing when it doesn't say.
+std::string Reason(const Pointer<Tamrivo::IHostSite>& site)
+{
+    Tamrivo::ErrorRecord failure;
+    return site->GetLastFailure(&failure) == S_OK ? ": " + failure.Description : "";
+}
+
 } // namespace
 
-ModuleLoader::~ModuleLoader()
+LoadedModule::LoadedModule(const std::filesystem::path& path)
+    : m_handle(Open(path)),
+      m_getClassObject(Entry<HRESULT(REFCLSID, REFIID, void**)>(m_handle, "DllGetClassObject")),
+      m_canUnloadNow(Entry<HRESULT()>(m_handle, "DllCanUnloadNow"))
+{}
+
+LoadedModule::~LoadedModule()
 {
-    for (const auto& [path, module] : m_modules)
-    {
-        if (Entry<HRESULT()>(module, "DllCanUnloadNow")() == S_OK)
-            dlclose(module);
-    }
+    if (m_canUnloadNow() == S_OK)
+        dlclose(m_handle);
+}
+
+HRESULT LoadedModule::Call(const char* function) const
+{
+    return Entry<HRESULT()>(m_handle, function)();
 }
 
 Created ModuleLoader::Create(const std::string& className)
@@ -51,34 +66,28 @@ Created ModuleLoader::Create(const std::string& className)
     if (!classId)
         Fail(className + " is registered under " + entry->ClassId + ", which is no identifier");
 
-    using GetClassObject = HRESULT(REFCLSID, REFIID, void**);
-    auto* const getClassObject =
-        Entry<GetClassObject>(Load(entry->ModulePath), "DllGetClassObject");
+    const auto& module = m_modules.try_emplace(entry->ModulePath, entry->ModulePath).first->second;
     Pointer<IClassFactory> factory;
     Pointer<Tamrivo::IHostSite> site;
-    if (getClassObject(*classId, IID_IClassFactory, factory.Out()) != S_OK ||
+    if (module.GetClassObject(*classId, IID_IClassFactory, factory.Out()) != S_OK ||
         factory->QueryInterface(Tamrivo::IHostSite::Id, site.Out()) != S_OK)
-        Fail(entry->ModulePath + " doesn't know " + className);
+        Fail(Tamrivo::Registry::PathText(entry->ModulePath) + " doesn't know " + className);
     site->SetHost(&m_host);
 
     Pointer<IUnknown> object;
     if (factory->CreateInstance(nullptr, IID_IUnknown, object.Out()) != S_OK)
-        Fail(className + " can't be created");
+        Fail(className + " can't be created" + Reason(site));
     return {className, std::move(object)};
-}
-
-void* ModuleLoader::Load(const std::string& path)
-{
-    void*& module = m_modules[path];
-    if (!module)
-        module = Open(path);
-    return module;
 }
 
 void CallRegistration(const std::string& modulePath, const char* function)
 {
-    if (Entry<HRESULT()>(Open(modulePath), function)() != S_OK)
-        Fail(modulePath + ": " + function + " failed");
+    const LoadedModule module(modulePath);
+    if (module.Call(function) == S_OK)
+        return;
+    Pointer<Tamrivo::IHostSite> site;
+    module.GetClassObject(Tamrivo::ClassId::Service, Tamrivo::IHostSite::Id, site.Out());
+    Fail(modulePath + ": " + function + " failed" + Reason(site));
 }
 
 } // namespace Embed

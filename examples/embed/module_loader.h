@@ -2,6 +2,7 @@
 
 #include "component/component.h"
 
+#include <filesystem>
 #include <map>
 #include <string>
 
@@ -59,25 +60,46 @@ private:
     Pointer<IUnknown> m_object;
 };
 
+/// A module with the entry points that every one has.
+class LoadedModule
+{
+public:
+    /// Raises `std::runtime_error` when there is no such module, or it lacks an entry point.
+    explicit LoadedModule(const std::filesystem::path& path);
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+    /// Unloads the module unless something that it created is alive.
+    ~LoadedModule();
+
+    HRESULT GetClassObject(REFCLSID classId, REFIID iid, void** object) const
+    {
+        return m_getClassObject(classId, iid, object);
+    }
+    /// Calls an entry point without arguments.
+    HRESULT Call(const char* function) const;
+
+private:
+    void* m_handle;
+    HRESULT (*m_getClassObject)(REFCLSID, REFIID, void**);
+    HRESULT (*m_canUnloadNow)();
+};
+
 /// Finds classes by name in the registry file and loads the modules that they stand in.
 class ModuleLoader
 {
 public:
     explicit ModuleLoader(Tamrivo::Host& host) : m_host(host) {}
-    /// Unloads the modules; whatever they created must be gone.
-    ~ModuleLoader();
 
     /// A new object of the class. Raises `std::runtime_error` that says what is missing.
     Created Create(const std::string& className);
 
 private:
-    void* Load(const std::string& path);
-
     Tamrivo::Host& m_host;
-    std::map<std::string, void*> m_modules;
+    std::map<std::filesystem::path, LoadedModule> m_modules;
 };
 
-/// Calls `DllRegisterServer` or `DllUnregisterServer` of a module.
+/// Calls `DllRegisterServer` or `DllUnregisterServer` of a module. Raises `std::runtime_error` that
+/// says why it failed.
 void CallRegistration(const std::string& modulePath, const char* function);
 
 } // namespace Embed

@@ -1,7 +1,7 @@
 #include "controls/user.h"
 #include "controls/user_control.h"
-#include "platform/alleles/allele_pane.h"
-#include "platform/alleles/pane_user.h"
+#include "host/alleles/allele_pane.h"
+#include "host/alleles/pane_user.h"
 #include "tests/fakes/fake_host.h"
 #include "tests/fakes/locales.h"
 
@@ -19,6 +19,7 @@ const AlleleColumn& NameColumn = AlleleColumns[0];
 const AlleleColumn& SizeColumn = AlleleColumns[1];
 const AlleleColumn& FromColumn = AlleleColumns[2];
 const AlleleColumn& ToColumn = AlleleColumns[3];
+const AlleleColumn& VirtualColumn = AlleleColumns[4];
 
 std::vector<AlleleFields> Contents(const AllelePane& pane)
 {
@@ -50,13 +51,13 @@ protected:
         AddAllele("10", 68);
         AddAllele("8", 60);
         AddAllele("9", 64);
-        Pane->AlleleEdited = [this](Allele& allele) {
+        m_connections.On(Pane->AlleleEdited, [this](Allele& allele) {
             Events.push_back("edited " + allele.AlleleText1);
-        };
-        Pane->ListChanged = [this] { Events.push_back("list"); };
-        Pane->ValidityChanged = [this](bool& isValid) {
+        });
+        m_connections.On(Pane->ListChanged, [this] { Events.push_back("list"); });
+        m_connections.On(Pane->ValidityChanged, [this](bool& isValid) {
             Events.push_back(isValid ? "valid" : "invalid");
-        };
+        });
     }
 
     void AddAllele(const std::string& name, double size)
@@ -85,6 +86,7 @@ protected:
     std::shared_ptr<AllelePane> Pane = std::make_shared<AllelePane>(Host);
     PaneForm Form{Pane};
     List Events;
+    Connections m_connections;
 };
 
 TEST_F(AllelePaneTest, ShowsTheRowsBySizeAndLeavesTheLocusAlone)
@@ -102,14 +104,18 @@ TEST_F(AllelePaneTest, ShowsTheRowsBySizeAndLeavesTheLocusAlone)
 TEST_F(AllelePaneTest, EditsReachTheLocusAndKeepTheOrder)
 {
     Pane->SetLocus(Locus);
-    EXPECT_EQ(User::EditAllele(Form.Alleles, 1, NameColumn, " 8.3 "), 1);
+    User::EditAllele(Form.Alleles, 1, NameColumn, " 8.3 ");
     EXPECT_EQ(TakeEvents(), (List{"edited 8.3"}));
-    EXPECT_EQ(User::EditAllele(Form.Alleles, 1, ToColumn, "75"), 1);
+    User::EditAllele(Form.Alleles, 1, ToColumn, "75");
     EXPECT_EQ(TakeEvents(), (List{"edited 8.3", "invalid"}));
-    EXPECT_EQ(User::EditAllele(Form.Alleles, 1, SizeColumn, "72"), 3);
-    EXPECT_EQ(User::EditAllele(Form.Alleles, 3, FromColumn, "71.5"), 3);
+    User::EditAllele(Form.Alleles, 1, SizeColumn, "72");
+    EXPECT_EQ(Names(), (List{"8.3", "9", "10"})) << "the row stays until it is left";
+    User::EditAllele(Form.Alleles, 1, FromColumn, "71.5");
     EXPECT_EQ(TakeEvents(), (List{"edited 8.3", "edited 8.3", "valid"}));
+    User::LeaveAllele(Form.Alleles);
     EXPECT_EQ(Names(), (List{"9", "10", "8.3"}));
+    EXPECT_TRUE(std::ranges::equal(Pane->Rows(), Locus->AlleleList.Objects));
+    EXPECT_EQ(TakeEvents(), List{}) << "the edit has been told";
 
     const auto edited = As<Allele>(Locus->AlleleList.Item("8.3"));
     EXPECT_EQ(edited->AlleleReal1, 72);
@@ -139,14 +145,58 @@ TEST_F(AllelePaneTest, AddsAndRemovesRows)
     EXPECT_EQ(Names(), (List{"8", "10", "11"}));
     EXPECT_FALSE(Locus->AlleleList.KeyExists("9"));
 
+    EXPECT_EQ(User::AddAllele(Form.Alleles, 2), 3);
+    EXPECT_EQ(Pane->Rows()[2]->AlleleReal1, 70) << "half-way from 68 to 72";
     Locus->UserSpecifiedConfInt = 1;
     Locus->ConfInt = 0.25;
     Locus->RepeatsInShortestAllele = "7";
-    User::RemoveAlleles(Form.Alleles, {1, 2, 3});
+    User::RemoveAlleles(Form.Alleles, {1, 2, 3, 4});
     User::AddAllele(Form.Alleles);
     User::AddAllele(Form.Alleles);
     EXPECT_EQ(Pane->Rows()[0]->AlleleReal1 + Pane->Rows()[0]->AlleleReal3, 60 + 60.25);
     EXPECT_EQ(Pane->Rows()[1]->AlleleReal4, 8);
+}
+
+TEST_F(AllelePaneTest, RepeatsFollowNameAndSizeInOneStep)
+{
+    Pane->SetLocus(Locus);
+    Locus->RepeatsInShortestAllele = "8";
+    const auto add = User::AddAllele(Form.Alleles);
+    for (const auto& [column, text, repeats] :
+         std::initializer_list<std::tuple<const AlleleColumn*, const char*, double>>{
+             {&NameColumn, "9.2", 9.2},
+             {&NameColumn, "9.4", 11}, // No count: four nt are a repeat.
+             {&SizeColumn, "66", 9.2},
+             {&NameColumn, "66", 9.2}, // A size.
+             {&NameColumn, "OL", 9.2},
+             {&SizeColumn, "55", 6.3},
+             {&NameColumn, "10", 10},
+             {&VirtualColumn, " True ", 10}})
+    {
+        User::EditAllele(Form.Alleles, add, *column, text);
+        EXPECT_DOUBLE_EQ(Pane->Rows().back()->AlleleReal4, repeats) << text;
+    }
+    EXPECT_EQ(Pane->Rows().back()->AlleleInt2, 1);
+    User::UndoAlleles(Form.Alleles);
+    User::UndoAlleles(Form.Alleles);
+    EXPECT_EQ(Pane->Rows().front()->AlleleText1 + " at 55", "OL at 55") << "and is left";
+    EXPECT_DOUBLE_EQ(Pane->Rows().front()->AlleleReal4, 6.3);
+
+    Pane->Rows().front()->AlleleReal4 = 0;
+    User::EditAllele(Form.Alleles, 1, NameColumn, "X");
+    EXPECT_EQ(Pane->Rows().front()->AlleleReal4, 0) << "what isn't known isn't invented";
+    Locus->AlleleNamingConventionTypeID = AlleleNamingConvention::Numeric;
+    User::EditAllele(Form.Alleles, 2, NameColumn, "2");
+    EXPECT_EQ(Pane->Rows()[1]->AlleleReal4, 0) << "numbers from 1 on, repeats from 8 on";
+}
+
+TEST_F(AllelePaneTest, WarnsOfBinsWithoutWidthAndStaysValid)
+{
+    Pane->SetLocus(Locus);
+    User::EditAllele(Form.Alleles, 2, FromColumn, "64");
+    User::EditAllele(Form.Alleles, 2, ToColumn, "64");
+    EXPECT_EQ(Pane->Warnings(), (std::vector<AlleleProblem>{{2, "The bin has no width"}}));
+    EXPECT_TRUE(Pane->IsValid());
 }
 
 TEST_F(AllelePaneTest, ABlockOfCellsOrRowsIsOneStep)
@@ -156,7 +206,7 @@ TEST_F(AllelePaneTest, ABlockOfCellsOrRowsIsOneStep)
     User::PasteAlleles(Form.Alleles, 3, 0, cells);
     EXPECT_EQ(Names(), (List{"8", "9", "10.2", "11"}));
     EXPECT_EQ(Pane->Rows()[2]->AlleleInt1, AlleleOrigin::Edited);
-    EXPECT_EQ(TakeEvents(), (List{"list"}));
+    EXPECT_EQ(TakeEvents(), (List{"edited 10.2", "list"}));
     EXPECT_THROW(User::PasteAlleles(Form.Alleles, 4, 1, {{"80"}, {"x"}}), User::Refusal);
     EXPECT_THROW(User::PasteAlleles(Form.Alleles, 4, 2, {{"80", "81", "82"}}), User::Refusal);
     EXPECT_EQ(Pane->Rows()[3]->AlleleReal1, 72) << "nothing is entered when a cell can't be";
@@ -190,6 +240,13 @@ TEST_F(AllelePaneTest, AGenerationReplacesTheRowsAndCanBeUndone)
     User::UndoAlleles(Form.Alleles);
     EXPECT_EQ(Names(), (List{"8", "9", "10"}));
     EXPECT_THROW(User::UndoAlleles(Form.Alleles), User::Refusal);
+    User::EditAllele(Form.Alleles, 1, NameColumn, "");
+    Locus->GenerateAlleles();
+    TakeEvents();
+    Pane->RefreshAlleles();
+    EXPECT_EQ(TakeEvents(), (List{"list", "valid"})) << "the generation mends the list";
+    User::UndoAlleles(Form.Alleles);
+    User::UndoAlleles(Form.Alleles);
     TakeEvents();
 
     Pane->RefreshAlleles();
@@ -198,6 +255,12 @@ TEST_F(AllelePaneTest, AGenerationReplacesTheRowsAndCanBeUndone)
     Locus->GenerateAlleles();
     Pane->RefreshAlleles();
     EXPECT_FALSE(Pane->CanRedo());
+
+    User::EditAllele(Form.Alleles, 1, NameColumn, "");
+    TakeEvents();
+    Locus->GenerateAlleles();
+    Pane->RefreshAlleles();
+    EXPECT_EQ(TakeEvents(), (List{"list", "valid"})) << "it has mended the list";
 }
 
 TEST_F(AllelePaneTest, AnnouncesTheValidityOfEachLocusOnce)
@@ -207,9 +270,10 @@ TEST_F(AllelePaneTest, AnnouncesTheValidityOfEachLocusOnce)
     EXPECT_EQ(TakeEvents(), (List{"invalid"}));
     User::EditAllele(Form.Alleles, 2, NameColumn, "");
     EXPECT_EQ(TakeEvents(), (List{"edited "})) << "invalid before and after";
+    User::UndoAlleles(Form.Alleles);
     Pane->SetLocus(Locus);
-    EXPECT_FALSE(Pane->CanUndo());
-    EXPECT_EQ(TakeEvents(), List{});
+    EXPECT_FALSE(Pane->CanUndo() || Pane->CanRedo()) << "changes of what was on show before";
+    TakeEvents();
     Pane->SetLocus(std::make_shared<Fakes::FakeLocus>());
     EXPECT_EQ(TakeEvents(), (List{"valid"}));
 }
@@ -249,7 +313,7 @@ TEST_F(AllelePaneTest, RefusesWhatCantBe)
 
     Form.Alleles.SetEnabled(true);
     EXPECT_EQ(refusal(1, SizeColumn, "60,25"), "not refused");
-    EXPECT_EQ(CellText(*Pane->Rows()[0], SizeColumn), "60,25");
+    EXPECT_EQ(SizeColumn.Text(*Pane->Rows()[0]), "60,25");
 }
 
 TEST_F(AllelePaneTest, AFailingStoreChangesNothing)
@@ -278,6 +342,7 @@ bool ActAtRandom(const User::AllelePaneControl& pane, std::mt19937& random)
         case 3: User::RedoAlleles(pane); break;
         default: User::EditAllele(pane, row, AlleleColumns[below(4)], std::to_string(below(20)));
         }
+        User::LeaveAllele(pane);
     }
     catch (const User::Refusal&)
     {
@@ -290,10 +355,10 @@ TEST_F(AllelePaneTest, WhatWasDoneCanBeTakenBackAndDoneAgain)
 {
     Pane->SetLocus(Locus);
     bool announced = true;
-    Pane->ValidityChanged = [&](bool& isValid) {
+    const Connection watch = Pane->ValidityChanged.Connect([&](bool& isValid) {
         EXPECT_NE(announced, isValid);
         announced = isValid;
-    };
+    });
     const auto start = Contents(*Pane);
     std::mt19937 random(20);
     int done = 0;

@@ -1,4 +1,4 @@
-#include "platform/alleles/allele_problems.h"
+#include "host/alleles/allele_problems.h"
 #include "tests/fakes/fake_objects.h"
 
 #include <gtest/gtest.h>

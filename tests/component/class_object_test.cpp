@@ -1,11 +1,5 @@
-#include "component/guid_text.h"
-#include "component/registry_file.h"
-#include "examples/embed/memory_grid.h"
-#include "tests/component/module_under_test.h"
-#include "tests/fakes/fake_host.h"
+#include "tests/component/component_test.h"
 #include "tests/fakes/locales.h"
-
-#include <gtest/gtest.h>
 
 namespace Tamrivo
 {
@@ -13,53 +7,7 @@ namespace Tamrivo
 namespace
 {
 
-class EmbeddingHost : public Fakes::FakeHost
-{
-public:
-    std::shared_ptr<ServiceBase> NewServiceBase() override
-    {
-        Objects.Before("NewServiceBase");
-        return std::make_shared<ServiceBase>();
-    }
-    GridHelper& SharedGridHelper() override { return m_gridHelper; }
-    std::shared_ptr<Gridocx> NewGrid() override { return std::make_shared<Embed::MemoryGrid>(); }
-
-private:
-    Embed::MemoryGridHelper m_gridHelper;
-};
-
-class ClassObjects : public testing::Test
-{
-protected:
-    ClassObjects() { EXPECT_EQ(Module.Call("DllRegisterServer"), S_OK); }
-    ~ClassObjects() override
-    {
-        Held<IHostSite> site;
-        GetFactory("Tamrivo.Service", IHostSite::Id, site.Out());
-        site->SetHost(nullptr);
-        site.Drop();
-        EXPECT_EQ(Module.Call("DllCanUnloadNow"), S_OK) << "something was never released";
-    }
-
-    void GetFactory(const char* name, const IID& iid, void** object)
-    {
-        const GUID classId = *GuidFromText(Registry::Find(name)->ClassId);
-        ASSERT_EQ(Module.GetClassObject(classId, iid, object), S_OK);
-    }
-    void Create(const char* name, const IID& iid, void** object)
-    {
-        Held<IHostSite> site;
-        Held<IClassFactory> factory;
-        GetFactory(name, IHostSite::Id, site.Out());
-        site->SetHost(&Host);
-        ASSERT_EQ(site->QueryInterface(IID_IClassFactory, factory.Out()), S_OK);
-        ASSERT_EQ(factory->CreateInstance(nullptr, iid, object), S_OK);
-    }
-
-    DataDirectory Data;
-    EmbeddingHost Host;
-    LoadedModule Module;
-};
+using ClassObjects = ComponentTest;
 
 TEST_F(ClassObjects, TheModuleExportsItsEntryPointsAlone)
 {
@@ -87,6 +35,8 @@ TEST_F(ClassObjects, AnswerWithThePublishedCodes)
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, &object), E_NoHost);
     Held<IHostSite> site;
     factory->QueryInterface(IHostSite::Id, site.Out());
+    ErrorRecord failure;
+    EXPECT_EQ(site->GetLastFailure(&failure), S_FALSE);
     site->SetHost(&Host);
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
     object = &place;
@@ -97,8 +47,16 @@ TEST_F(ClassObjects, AnswerWithThePublishedCodes)
 
     Host.Objects.Before = [](const std::string&) { throw Failure(7, "store", "gone"); };
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, &object), E_FAIL);
-    EXPECT_EQ(Host.Utility.Reports,
-              (std::vector<Fakes::Report>{{"Class_Initialize", false}, {"CreateInstance", true}}));
+    EXPECT_EQ(Host.Utility.Reports, (std::vector<Fakes::Report>{{"Class_Initialize", false}}));
+    EXPECT_EQ(site->GetLastFailure(&failure), S_OK);
+    EXPECT_EQ(failure, (ErrorRecord{7, "store", "gone", "", 0}));
+    EXPECT_EQ(site->GetLastFailure(nullptr), E_POINTER);
+
+    struct Cancelled
+    {};
+    Host.Objects.Before = [](const std::string&) { throw Cancelled(); };
+    EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, &object), E_ABORT);
+    EXPECT_EQ(Host.Utility.Reports.size(), 1U) << "to cancel is no failure";
 }
 
 TEST_F(ClassObjects, StayLoadedWhileAnythingLives)

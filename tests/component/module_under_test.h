@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -23,7 +24,14 @@ public:
     }
     LoadedModule(const LoadedModule&) = delete;
     LoadedModule& operator=(const LoadedModule&) = delete;
-    ~LoadedModule() { dlclose(m_handle); }
+    ~LoadedModule() { Unload(); }
+
+    bool IsLoaded() const { return m_handle != nullptr; }
+    void Unload()
+    {
+        if (m_handle)
+            dlclose(std::exchange(m_handle, nullptr));
+    }
 
     HRESULT Call(const char* function) const { return Entry<HRESULT()>(function)(); }
 

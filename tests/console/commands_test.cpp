@@ -72,8 +72,9 @@ TEST_F(Commands, ShowWhatWasImported)
 {
     EXPECT_TRUE(Json({"list"}).empty());
     EXPECT_EQ(Run({"import", Write("panels.tsv", table)}), 0);
-    EXPECT_THAT(m_out, AllOf(HasSubstr("line 4: TH01 of Q is stored under the tag \"TH01 (Q)\"."),
-                             HasSubstr("Imported 3 loci with 3 alleles.\n")));
+    EXPECT_THAT(m_out,
+                AllOf(HasSubstr("2 loci are stored under tags with the name of their panel."),
+                      HasSubstr("Imported 3 loci with 3 alleles.\n")));
     EXPECT_EQ(Run({"import", Path("panels.tsv")}), 0);
     EXPECT_THAT(m_out, StartsWith("Nothing to import: the store has 3 loci"));
 
@@ -91,9 +92,9 @@ TEST_F(Commands, NameWhatIsWrongWithATableAndImportNothing)
     EXPECT_THAT(m_err, AllOf(HasSubstr("mixed.tsv, line 5: SE33 of Q: The colour purple"),
                              HasSubstr("Nothing was imported: 1 locus can't come in")));
     EXPECT_TRUE(Json({"list"}).empty());
-    EXPECT_EQ(Run({"import", Write("bad.tsv", table + "P\tA\t8\tx\n"), "--partial"}), 1);
-    EXPECT_THAT(m_err, AllOf(HasSubstr("bad.tsv, line 5, column Size: \"x\""),
-                             HasSubstr("bad.tsv, line 5, column Repeat: nothing")));
+    EXPECT_EQ(Run({"import", Write("bad.tsv", table + "P\tA\t8\tx\n")}), 1);
+    EXPECT_THAT(m_err, AllOf(HasSubstr("bad.tsv, line 5: A of P: line 5, column Size: \"x\""),
+                             HasSubstr("line 5, column Repeat: nothing")));
     EXPECT_EQ(Run({"import", mixed, "--panel", "R"}), 1);
     EXPECT_EQ(Run({"import", Path("none.tsv")}), 1);
     EXPECT_TRUE(Json({"list"}).empty());
@@ -102,6 +103,38 @@ TEST_F(Commands, NameWhatIsWrongWithATableAndImportNothing)
               0);
     EXPECT_THAT(m_out, HasSubstr("Left out 1 locus.\n"));
     EXPECT_EQ(Json({"list"})[2]["ProjectName"], "X");
+}
+
+TEST_F(Commands, ExchangeLociWithOtherPrograms)
+{
+    const std::string file = Write("mixed.tsv", table + purple);
+    EXPECT_EQ(Run({"import", file}), 1);
+    EXPECT_THAT(m_err, HasSubstr("--add-dyes adds the dyes that 1 of them need"));
+    EXPECT_EQ(Run({"import", "-", "--add-dyes", "--verbose"}, table + purple), 0);
+    EXPECT_THAT(m_out,
+                AllOf(HasSubstr("Added the dye D5, purple."),
+                      HasSubstr("  line 4: TH01 of Q is stored under the tag \"TH01 (Q)\".")));
+    EXPECT_EQ(Run({"dyes", "--format", "tsv"}), 0);
+    EXPECT_THAT(m_out, HasSubstr("D5\t\tpurple\t1\n"));
+    EXPECT_EQ(Run({"dyes", "set", "blue", "green", "yellow", "red"}), 1);
+    EXPECT_THAT(m_err, HasSubstr("SE33"));
+
+    std::string other = table + purple;
+    other.replace(other.find("94.05"), 5, "94.10");
+    EXPECT_EQ(Run({"import", Write("other.tsv", other), "--dry-run", "--format", "tsv"}), 1);
+    EXPECT_THAT(m_out, HasSubstr("D3S1358\trefused\tSize\t8\t94.05\t94.1\n"));
+    EXPECT_EQ(Run({"import", Path("other.tsv"), "--update"}), 0);
+    EXPECT_THAT(m_out, HasSubstr("Updated 1 locus.\nThe store had 3 loci already."));
+
+    EXPECT_EQ(
+        Run({"export", Path("p.txt"), Path("b.txt"), "--format", "panels-bins", "--panel", "q"}),
+        0);
+    EXPECT_EQ(Run({"import", Path("b.txt"), Path("p.txt"), "--dry-run"}), 0);
+    EXPECT_THAT(m_out, HasSubstr("New: 0, same: 2, changed: 0, refused: 0."));
+    EXPECT_EQ(Run({"export", "--format", "kit-table", "--tag", "SE33"}), 0);
+    EXPECT_THAT(m_out, HasSubstr("\tQ\tQ\tFALSE\tFALSE\tFALSE\n"));
+    EXPECT_EQ(Run({"export", "--format", "osiris-kit"}), 1);
+    EXPECT_EQ(Run({"export", "--format", "panels-bins"}), 2);
 }
 
 TEST_F(Commands, SuggestTagsForOneThatIsNotThere)
@@ -115,6 +148,27 @@ TEST_F(Commands, SuggestTagsForOneThatIsNotThere)
         EXPECT_THAT(m_err, Not(HasSubstr("did you mean")));
     }
     EXPECT_EQ(Json({"list"}).size(), 3U);
+}
+
+TEST_F(Commands, ChangeAndFindLoci)
+{
+    Run({"import", Write("panels.tsv", table)});
+    EXPECT_EQ(Run({"rename", "TH01 (q)", "TH01-green"}), 0);
+    EXPECT_EQ(m_out, "Renamed TH01 (Q) to TH01-green.\n");
+    EXPECT_EQ(Run({"rename", "D3S1358", "th01-green"}), 1);
+    EXPECT_EQ(Run({"duplicate", "TH01-green", "Copy"}), 0);
+    EXPECT_EQ(Run({"set", "copy", "D3S1358", "--dye", "Red", "--project", "New"}), 0);
+    EXPECT_EQ(m_out, "Changed 2 loci.\n");
+    EXPECT_EQ(Run({"set", "copy", "--dye", "pink"}), 1);
+    EXPECT_THAT(m_err, HasSubstr("the store has no dye \"pink\". There are blue"));
+    EXPECT_EQ(Run({"set", "copy"}), 2);
+    EXPECT_EQ(Json({"list", "--where", "dye:red project:new allele:9.3"})[0]["LocusTag"], "Copy");
+    EXPECT_EQ(Run({"list", "--where", "colour:red"}), 1);
+    EXPECT_THAT(m_err, HasSubstr("--where \"colour:red\": There is no such term"));
+    EXPECT_EQ(Run({"delete", "copy", "nothing"}), 1);
+    EXPECT_EQ(Run({"delete", "copy", "d3s1358"}), 0);
+    EXPECT_EQ(m_out, "Deleted Copy with 1 allele.\nDeleted D3S1358 with 1 allele.\n");
+    EXPECT_EQ(Json({"list"}).size(), 2U);
 }
 
 TEST_F(Commands, BringADeletedLocusBack)
@@ -172,6 +226,38 @@ TEST(AlignedTable, CountsColumnsOfTheTerminal)
                          "-----  ----\n"
                          "\xE4\xBD\x8D\xE7\xBD\xAE      9\n"
                          "a\xEF\xBF\xBD[1m   100\n");
+}
+
+TEST_F(Commands, CheckFindsMistakesInStoreAndFile)
+{
+    std::string rows = table;
+    for (int repeats = 5; repeats < 10; ++repeats)
+    {
+        const int size = 200 + 4 * repeats + (repeats == 7 ? 1 : 0);
+        rows += "P\tFGA\t" + std::to_string(repeats) + '\t' + std::to_string(size) + '\t' +
+                std::to_string(size) + '\t' + std::to_string(size + 1) + "\tblue\t4\t210\t240\n";
+    }
+    const std::string file = Write("wrong.tsv", rows);
+    const std::string line = "error\tsize-name\tFGA\t7\t\tThe size of 229 nt doesn't fit the name "
+                             "7; by its neighbours it would be 228 nt, 1 nt less\n";
+    const std::string header = "Severity\tRule\tTag\tAllele\tField\tMessage\n";
+    EXPECT_EQ(Run({"check", "--file", file, "--format", "tsv"}), 1) << m_err;
+    EXPECT_EQ(m_out, header + line);
+    EXPECT_FALSE(std::filesystem::exists(Path("loci.sqlite")));
+    EXPECT_EQ(Run({"check", "--file", file, "--without", "size-name", "--format", "tsv"}), 0);
+    EXPECT_EQ(m_out, header);
+
+    EXPECT_EQ(Run({"import", file}), 0) << m_err;
+    EXPECT_EQ(Run({"check", "--panel", "p", "--format", "tsv"}), 1);
+    EXPECT_THAT(m_out, HasSubstr(line));
+    EXPECT_EQ(Run({"check", "TH01 (P)", "--without", "convention"}), 0);
+    EXPECT_EQ(m_out, "Checked 1 locus: no errors and no warnings.\n");
+    EXPECT_EQ(Run({"check", "FGB"}), 1);
+    EXPECT_EQ(m_out, "");
+    EXPECT_THAT(m_err, HasSubstr("did you mean FGA?"));
+    EXPECT_EQ(Run({"check", "--panel", "R"}), 1);
+    EXPECT_EQ(m_out, "");
+    EXPECT_EQ(Run({"check", "--without", "spelling"}), 2);
 }
 
 } // namespace

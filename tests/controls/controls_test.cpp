@@ -43,10 +43,11 @@ TEST(Controls, AWriteRaisesItsEventOnlyWhenTheValueChanges)
 {
     SampleForm form;
     std::string log;
-    form.txt.Change = [&] { log += "[" + form.txt.Text() + "]"; };
-    form.chk.Click = [&] { log += std::to_string(form.chk.Value()); };
-    form.opt.Item(0).Click = [&] { log += "A"; };
-    form.opt.Item(2).Click = [&] { log += form.opt.Item(0).Value() ? "?" : "B"; };
+    Connections connections;
+    connections.On(form.txt.Change, [&] { log += "[" + form.txt.Text() + "]"; });
+    connections.On(form.chk.Click, [&] { log += std::to_string(form.chk.Value()); });
+    connections.On(form.opt.Item(0).Click, [&] { log += "A"; });
+    connections.On(form.opt.Item(2).Click, [&] { log += form.opt.Item(0).Value() ? "?" : "B"; });
 
     for (int twice = 0; twice < 2; ++twice)
     {
@@ -63,7 +64,8 @@ TEST(Controls, AnObserverHearsOfEveryChangeOfState)
 {
     SampleForm form;
     std::string log;
-    form.ControlChanged = [&](Control& control) { log += control.Name() + " "; };
+    Connections connections;
+    connections.On(form.ControlChanged, [&](Control& control) { log += control.Name() + " "; });
     form.lbl.SetCaption("other");
     form.lbl.SetCaption("other");
     form.txt.SetBackColor(Color::Yellow);
@@ -71,6 +73,23 @@ TEST(Controls, AnObserverHearsOfEveryChangeOfState)
     form.fra.SetVisible(false);
     form.cmb.AddItem("D3");
     EXPECT_EQ(log, "lbl txt ud fra cmb ");
+}
+
+TEST(Controls, NoObserverSeesTwoChosenOptions)
+{
+    SampleForm form;
+    form.opt.Item(0).SetValue(true);
+    std::string log;
+    Connections connections;
+    connections.On(form.ControlChanged, [&](Control& control) {
+        log += control.Name();
+        EXPECT_FALSE(form.opt.Item(0).Value()) << log;
+        EXPECT_TRUE(form.opt.Item(2).Value()) << log;
+        throw std::runtime_error("can't draw");
+    });
+    EXPECT_THROW(form.opt.Item(2).SetValue(true), std::runtime_error);
+    EXPECT_EQ(log, "opt(0)");
+    EXPECT_FALSE(form.opt.Item(0).Value());
 }
 
 TEST(Controls, ListsKeepTheirEntries)
@@ -133,8 +152,10 @@ TEST(User, KeysPassTheFilterAndRespectTheLimit)
 {
     SampleForm form;
     int changes = 0;
-    form.txt.KeyPress = [](std::int16_t& key) { key = key == 'x' ? std::int16_t{0} : key; };
-    form.txt.Change = [&] { ++changes; };
+    Connections connections;
+    connections.On(form.txt.KeyPress,
+                   [](std::int16_t& key) { key = key == 'x' ? std::int16_t{0} : key; });
+    connections.On(form.txt.Change, [&] { ++changes; });
 
     User::Type(form.txt, "x\r\n\x03");
     EXPECT_EQ(changes, 0);

@@ -1,12 +1,14 @@
 #include "core/collection.h"
 #include "core/dates.h"
 #include "core/error.h"
+#include "core/narrowing.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "tests/fakes/locales.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace Tamrivo
@@ -57,6 +59,7 @@ TEST(Numbers, AreReadInTheClassicNotation)
         {"nan", "no number"},
         {"inf", "no number"},
         {"1e999", "no number"},
+        {"-1e-400", "0"},
         {"\xE2\x80\x8F"
          "7",
          "no number"},
@@ -113,6 +116,18 @@ TEST(Numbers, DoublesComeBackFromTheirText)
     for (const auto& [value, text] : texts)
         EXPECT_EQ(DoubleText(value), text);
     EXPECT_EQ(TwoDecimals(0.5), "0.50");
+}
+
+TEST(Numbers, DontWrapInASmallerType)
+{
+    EXPECT_EQ(ToInteger(2147483647.4), 2147483647);
+    EXPECT_EQ(ToShortInteger(-32768), -32768);
+    EXPECT_EQ(ToSingle(-3.4e38), -3.4e38F);
+    const double tooLarge[] = {2147483648., -1e300, HUGE_VAL, NAN};
+    for (const double value : tooLarge)
+        EXPECT_THROW(ToInteger(value), Failure) << value;
+    EXPECT_THROW(ToShortInteger(32768), Failure);
+    EXPECT_THROW(ToSingle(3.5e38), Failure);
 }
 
 TEST(Dates, ComeBackFromTheirTextAndNeverIsEmpty)

@@ -94,7 +94,7 @@ TEST(Guard, ReportsEndsAndRetriesByItsForm)
         EXPECT_EQ(breaks, expected.Breaks);
         EXPECT_EQ(reporter.Reports, (std::vector<Fakes::Report>{{"Run", expected.Final}}));
         EXPECT_EQ(reporter.Reports.front().Error, Cause);
-        EXPECT_EQ(reporter.Title + "." + reporter.ClassName, "Tamrivo.Sample");
+        EXPECT_EQ(reporter.Headings, std::set<std::string>{"Tamrivo|Sample|"});
     }
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/alleles/allele_pane_view.h"
 #include "desktop/alleles/allele_picture.h"
-#include "desktop/pictures/colors.h"
+#include "desktop/common/colors.h"
 #include "desktop_test.h"
 
 #include <QApplication>
@@ -34,7 +34,7 @@ protected:
                     m_picture = picture;
             }
             act();
-            editor.reject();
+            Discard(editor);
         });
     }
 
@@ -111,6 +111,7 @@ TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
 
         EXPECT_EQ(StateOf(14), BinState::InOrder) << "136 nt, its bin up to 136.5";
         EditCell(14, 1, "140");
+        m_table->clearFocus();
         EXPECT_EQ(StateOf(14), BinState::OutOfRange);
         EXPECT_GT(Pixels(SafeColor::Orange), 0);
 
@@ -119,9 +120,88 @@ TEST_F(AllelePaneTest, CellsAreEditedInPlaceAndThePictureFollows)
         EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().contains("Row 3"); }, 1000));
 
         EditCell(0, 1, "137");
+        EXPECT_EQ(Cell(0, 1), "137") << "the row stays while the person is there";
+        m_table->setCurrentIndex(m_table->model()->index(4, 1));
         EXPECT_EQ(Cell(13, 1), "137") << "rows stand by size";
-        QTest::qWait(20);
-        EXPECT_EQ(m_table->currentIndex().row(), 13) << "and the person stays with the row";
+        EXPECT_EQ(m_table->currentIndex().row(), 3) << "the person is where they went";
+    });
+}
+
+TEST_F(AllelePaneTest, AnAlleleIsTypedInAfterTheChosenOne)
+{
+    OnPane([this] {
+        auto& range = Named(*m_view->window(), "txtFragEnd");
+        Focus(range);
+        QTest::keyClick(&range, Qt::Key_F6);
+        EXPECT_EQ(QApplication::focusWidget(), m_table);
+        m_table->selectRow(14);
+        QTest::keyClick(m_table, Qt::Key_Insert);
+        for (const char* text : {"9.2", "114", "113.5", "114.5"})
+        {
+            QTest::keyClicks(QApplication::focusWidget(), text);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(QApplication::focusWidget(), m_table);
+        EXPECT_EQ(m_table->currentIndex(), m_table->model()->index(15, 4)) << "still at its row";
+        QTest::keyClick(m_table, Qt::Key_Space);
+        QTest::keyClick(m_table, Qt::Key_F6);
+        EXPECT_EQ(QApplication::focusWidget(), m_picture);
+        QString row;
+        for (int column = 0; column < m_table->model()->columnCount(); ++column)
+            row += m_table->model()->index(9, column).data(Qt::EditRole).toString() + ' ';
+        EXPECT_EQ(row, "9.2 114 113.5 114.5 true 9.2 edited ");
+        EXPECT_EQ(m_table->currentIndex().row(), 9) << "the selection stays with its allele";
+        EXPECT_TRUE(m_pane->IsValid());
+
+        QTest::keyClick(m_picture, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(m_pane->Rows()[9]->AlleleInt2, 0) << "one action";
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(m_picture, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(m_table->currentIndex().row(), 15) << "back at 140 nt, with its allele";
+        EXPECT_DOUBLE_EQ(m_pane->Rows()[15]->AlleleReal4, 9.2) << "by its name";
+    });
+}
+
+TEST_F(AllelePaneTest, TheKeyboardGoesToTableButtonsAndPicture)
+{
+    OnPane([this] {
+        auto& field = Named(*m_view->window(), "txtRepeat");
+        Focus(field);
+        QTest::keyClick(&field, Qt::Key_F6, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::focusWidget(), m_picture);
+        QTest::keyClick(m_picture, Qt::Key_End);
+        QTest::keyClick(m_picture, Qt::Key_Left);
+        EXPECT_EQ(m_table->currentIndex().row(), 13);
+        QTest::keyClick(m_picture, Qt::Key_F6);
+        EXPECT_TRUE(field.hasFocus()) << "where the person was";
+
+        QTest::keyClick(&field, Qt::Key_F6);
+        QTest::keyClick(m_table, Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "Add allele");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(m_table->model()->rowCount(), 16);
+        EXPECT_EQ(m_table->currentIndex().row(), 14) << "after the chosen one";
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QTest::keyClick(m_table, Qt::Key_Tab, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::focusWidget(), m_picture);
+        QTest::keyClick(m_picture, Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), m_table);
+    });
+}
+
+TEST_F(AllelePaneTest, ABinWithoutWidthIsDrawnAsALineAndWarnedOf)
+{
+    OnPane([this] {
+        const int blue = Pixels(SafeColor::Blue);
+        for (int row = 0; row < 15; ++row)
+        {
+            m_pane->EditCell(row + 1, AlleleColumns[2], Cell(row, 1).toStdString());
+            m_pane->EditCell(row + 1, AlleleColumns[3], Cell(row, 1).toStdString());
+        }
+        EXPECT_LT(Pixels(SafeColor::Blue), blue / 2);
+        EXPECT_EQ(Named<QLabel>(*m_view, "alleleState").text(),
+                  "Row 1: The bin has no width (and 14 more)");
+        EXPECT_TRUE(m_pane->IsValid());
     });
 }
 
@@ -154,7 +234,7 @@ TEST_F(AllelePaneTest, CellsAreExchangedWithOtherPrograms)
                                                    QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
         QTest::keyClick(m_table, Qt::Key_C, Qt::ControlModifier);
-        EXPECT_EQ(QApplication::clipboard()->text(), "1\t80\t79.5\t80.5\n");
+        EXPECT_EQ(QApplication::clipboard()->text(), "1\t80\t79.5\t80.5\tfalse\t1\tgenerated\n");
 
         QApplication::clipboard()->setText("x\t135\t134.5\t135.5\r\ny\t139\t138.5\t139.5\r\n");
         m_table->setCurrentIndex(m_table->model()->index(14, 0));
@@ -192,7 +272,7 @@ TEST_F(AllelePaneTest, AnInvalidListKeepsTheWizardOpenAndTellsWhy)
         EXPECT_EQ(reasons.text(), "Allele list, row 1: The name is missing.");
         QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
         EXPECT_TRUE(editor.isVisible());
-        editor.reject();
+        Discard(editor);
     });
 }
 

@@ -7,15 +7,24 @@
 namespace Tamrivo::Testing
 {
 
+namespace
+{
+
+constexpr const char* awaitedModal = "awaitedModal";
+
+} // namespace
+
 void OnModal(std::function<void(QDialog&)> act)
 {
     auto* timer = new QTimer(qApp);
+    timer->setObjectName(awaitedModal);
     const QWidget* before = QApplication::activeModalWidget();
     QObject::connect(timer, &QTimer::timeout, timer, [timer, before, act = std::move(act)] {
         auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr || dialog == before || !dialog->isVisible())
             return;
         timer->stop();
+        timer->setObjectName({});
         timer->deleteLater();
         QApplication::setActiveWindow(dialog);
         act(*dialog);
@@ -39,6 +48,18 @@ void Press(QDialog& dialog, const QString& text)
     ADD_FAILURE() << "There is no button " << text.toStdString();
 }
 
+void Discard(WizardDialog& editor)
+{
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, &editor, [&] {
+        auto* question = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        if (question != nullptr && question != &editor)
+            Press(*question, "Discard Changes");
+    });
+    answer.start(5);
+    editor.reject();
+}
+
 void Type(QWidget& widget, const QString& text)
 {
     for (const QChar character : text)
@@ -56,6 +77,15 @@ DesktopTest::DesktopTest() : m_session(std::make_unique<StoreSession>(Address(),
     AddLocus("D3S1358", 0, 80, 136);
     AddLocus("TH01", 0, 120, 180);
     AddLocus("FGA", 1, 200, 300);
+}
+
+DesktopTest::~DesktopTest()
+{
+    for (QTimer* timer : qApp->findChildren<QTimer*>(awaitedModal))
+    {
+        ADD_FAILURE() << "A dialog was awaited and never opened";
+        delete timer;
+    }
 }
 
 void DesktopTest::AddLocus(const std::string& tag, int dye, int from, int to)

@@ -17,11 +17,15 @@
 namespace Tamrivo::Testing
 {
 
-/// Does something with the next modal dialog that opens, and complains if it is still open after.
+/// Does something with the next modal dialog that opens, and complains if it is still open after,
+/// or if none has opened by the end of the test.
 void OnModal(std::function<void(QDialog&)> act);
 
 /// Presses the button of a message box or dialog that bears the text (its access key left out).
 void Press(QDialog& dialog, const QString& text);
+
+/// Closes the editor without saving, whatever was changed.
+void Discard(WizardDialog& editor);
 
 /// The widget with an object name, below another.
 template <class Kind = QWidget>
@@ -45,6 +49,7 @@ class DesktopTest : public testing::Test
 {
 protected:
     DesktopTest();
+    ~DesktopTest() override;
 
     HostApplication& Host() { return m_session->Host(); }
     std::string Address() const { return m_directory.filePath("store.sqlite").toStdString(); }

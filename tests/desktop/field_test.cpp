@@ -26,10 +26,10 @@ class FieldTest : public testing::Test
 protected:
     FieldTest()
     {
-        m_form.txtDigits.KeyPress = [](std::int16_t& key) {
+        m_connections.On(m_form.txtDigits.KeyPress, [](std::int16_t& key) {
             const bool isDigit = '0' <= key && key <= '9';
             key = isDigit || key == User::Backspace ? key : std::int16_t{0};
-        };
+        });
         m_view.show();
         QApplication::setActiveWindow(&m_view);
         Focus(Plain());
@@ -48,6 +48,7 @@ protected:
     OneFieldForm m_form;
     Actions m_actions{[](const ErrorRecord& error) { ADD_FAILURE() << error.Description; }};
     FormView m_view{m_form, m_actions, {}};
+    Connections m_connections;
 };
 
 } // namespace
@@ -148,7 +149,7 @@ TEST_F(FieldTest, WritesOfTheLogicShowAtOnce)
 
 TEST_F(FieldTest, ARepairRunsWhenTheFieldIsLeftAndShowsAtOnce)
 {
-    m_form.txtPlain.LostFocus = [this] { m_form.txtPlain.SetText("0"); };
+    m_connections.On(m_form.txtPlain.LostFocus, [this] { m_form.txtPlain.SetText("0"); });
     Type(Plain(), "ab");
     QTest::keyClick(&Plain(), Qt::Key_Tab);
     EXPECT_EQ(Plain().text(), "0");

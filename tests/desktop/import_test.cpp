@@ -1,20 +1,25 @@
 #include "core/text.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
+#include "desktop/import/export_dialog.h"
 #include "desktop/import/import_dialog.h"
-#include "desktop/text.h"
-#include "platform/store/store.h"
+#include "desktop/window/dyes_dialog.h"
+#include "host/store/store.h"
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
+#include <QTreeWidget>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -45,7 +50,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(QByteArray::fromStdString(header + rows));
         file.close();
-        m_dialog.Preview(file.fileName());
+        m_dialog.Preview({file.fileName()});
         m_dialog.show();
     }
 
@@ -137,7 +142,7 @@ TEST_F(ImportDialogTest, RefusesWhatBringsNothing)
 {
     Preview(d3OfQ + "P\tFGA\t12.2\tmuch\t257.95\t258.95\t0\tYellow\t4\t257\t420\t208\n");
     EXPECT_FALSE(ImportButton().isEnabled());
-    EXPECT_THAT(Status(), HasSubstr("lines that can't be read"));
+    EXPECT_THAT(Status(), HasSubstr("1 locus can't come in"));
     EXPECT_THAT(Find<QPlainTextEdit>("importReasons").toPlainText().toStdString(),
                 HasSubstr("line 3, column Size: "));
 
@@ -194,6 +199,56 @@ TEST_F(ImportDialogTest, TellsWhenSomeoneElseTookTheTag)
     EXPECT_THAT(m_failures, ElementsAre(HasSubstr("D3S1358")));
     EXPECT_TRUE(m_dialog.isVisible());
     EXPECT_TRUE(QTest::qWaitFor([this] { return Cell(0, 0, "Tag") == "D3S1358 (P)"; }));
+}
+
+TEST_F(ImportDialogTest, AddsDyesAndUpdatesLociThatDiffer)
+{
+    Preview(d3 + purple);
+    QTest::keyClick(&Find<QCheckBox>("importAddDyes"), Qt::Key_Space);
+    QTest::mouseClick(&ImportButton(), Qt::LeftButton);
+    EXPECT_EQ(m_store.Dyes().ColorOf(4), "purple");
+
+    std::string changed = d3 + purple;
+    changed.replace(changed.find("94.05"), 5, "94.25");
+    Preview(changed);
+    EXPECT_FALSE(ImportButton().isEnabled());
+    auto& tree = Find<QTreeView>("importPreview");
+    tree.setCurrentIndex(tree.model()->index(0, 0, tree.model()->index(0, 0)));
+    auto& differences = Find<QTreeWidget>("importDifferences");
+    ASSERT_EQ(differences.topLevelItemCount(), 1);
+    EXPECT_EQ(differences.topLevelItem(0)->text(0), "8");
+    EXPECT_EQ(differences.topLevelItem(0)->text(3), "94.25");
+    QTest::keyClick(&Find<QCheckBox>("importUpdate"), Qt::Key_Space);
+    EXPECT_EQ(Cell(0, 0, "What happens"), "Is updated");
+    QTest::mouseClick(&ImportButton(), Qt::LeftButton);
+    EXPECT_EQ(As<Allele>(m_store.FindLocus("D3S1358")->Alleles().Item(1))->AlleleReal1, 94.25);
+
+    // What was written is read back as it was.
+    ExportDialog dialog(m_store, m_actions);
+    auto* format = dialog.findChild<QComboBox*>("exportFormat");
+    format->setCurrentIndex(3);
+    EXPECT_FALSE(dialog.findChild<QPushButton*>("exportNow")->isEnabled());
+    EXPECT_TRUE(dialog.findChild<QLabel*>("exportOutlook")->text().contains("size standards"));
+    format->setCurrentIndex(2);
+    dialog.Write(m_directory.filePath("p.txt"), m_directory.filePath("b.txt"));
+    m_dialog.Preview({m_directory.filePath("b.txt"), m_directory.filePath("p.txt")});
+    EXPECT_EQ(Cell(0, 1, "What happens"), "In the store already");
+}
+
+TEST_F(ImportDialogTest, StorePropertiesHaveTheDyes)
+{
+    DyesDialog dialog(m_store, m_actions);
+    QTest::mouseClick(dialog.findChild<QPushButton*>("addDye"), Qt::LeftButton);
+    auto* table = dialog.findChild<QTableWidget*>("dyes");
+    table->item(4, 2)->setText("Dye5");
+    EXPECT_EQ(dialog.Chosen().TitleOf(4), "purple (Dye5)");
+    dynamic_cast<QComboBox*>(table->cellWidget(4, 1))->setCurrentText("blue");
+    auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    QTest::mouseClick(ok, Qt::LeftButton);
+    EXPECT_THAT(m_failures, ElementsAre(HasSubstr("two of them are blue")));
+    dynamic_cast<QComboBox*>(table->cellWidget(4, 1))->setCurrentText("cyan");
+    QTest::mouseClick(ok, Qt::LeftButton);
+    EXPECT_EQ(m_store.Dyes().TitleOf(4), "cyan (Dye5)");
 }
 
 } // namespace

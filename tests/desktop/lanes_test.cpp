@@ -1,5 +1,5 @@
 #include "core/error.h"
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
 #include "desktop/lanes/lane_order.h"
 #include "desktop/lanes/lane_picture.h"
 #include "desktop/lanes/locus_lanes.h"

@@ -4,7 +4,7 @@
 #include "controls/user_control.h"
 #include "desktop/front_end/hosted_views.h"
 #include "desktop_test.h"
-#include "platform/framework/parameter_page.h"
+#include "host/framework/parameter_page.h"
 
 #include <QApplication>
 #include <QLabel>

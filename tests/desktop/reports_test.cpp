@@ -1,8 +1,8 @@
-#include "desktop/forms/actions.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
 #include "desktop/reports/reports_window.h"
-#include "desktop/text.h"
-#include "platform/framework/host_application.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/host_application.h"
+#include "host/framework/wizard_session.h"
 
 #include <QComboBox>
 #include <QFile>

@@ -1,21 +1,28 @@
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/message_boxes.h"
+#include "desktop/import/export_dialog.h"
 #include "desktop/import/import_dialog.h"
+#include "desktop/library/library_table.h"
 #include "desktop/reports/reports_window.h"
+#include "desktop/window/dyes_dialog.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/parameter_view.h"
-#include "platform/grid/grid_user.h"
-#include "platform/panels/import.h"
-#include "platform/panels/panel_file.h"
-#include "platform/parameters/parameter_store.h"
-#include "platform/store/store.h"
+#include "host/grid/grid_user.h"
+#include "host/panels/import.h"
+#include "host/panels/panel_files.h"
+#include "host/store/parameter_store.h"
+#include "host/store/store.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -33,20 +40,6 @@ namespace
 {
 
 using namespace Tamrivo;
-
-QPalette DarkPalette()
-{
-    QPalette palette(QColor(53, 53, 53));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    palette.setColor(QPalette::Highlight, QColor(61, 126, 214));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, QColor(70, 70, 70));
-    palette.setColor(QPalette::ToolTipText, Qt::white);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
-    return palette;
-}
 
 class Photographer
 {
@@ -66,17 +59,23 @@ public:
         Take(window, "start");
         window.OpenStore(Address());
         Settle();
-        Take(window, "main");
-        QApplication::setPalette(DarkPalette());
+        TakeLibrary(window);
+        window.findChild<QAction*>("darkTheme")->trigger();
         Settle();
-        Take(window, "main-dark");
+        Take(window, "library-dark");
+        window.findChild<QAction*>("selectLoci")->trigger();
+        Settle();
+        Take(window, "selector-dark");
         TakeEditor(window, "-dark");
-        QApplication::setPalette(QApplication::style()->standardPalette());
+        window.findChild<QAction*>("lightTheme")->trigger();
+        Settle();
+        Take(window, "selector");
         TakeEditor(window, "");
         TakeMenu(window);
-        TakePicker(window);
+        window.findChild<QAction*>("selectLoci")->trigger();
         TakeFailure(window);
         TakeImport(window);
+        TakeExport(window);
         window.findChild<QAction*>("report")->trigger();
         Settle();
         for (QWidget* top : QApplication::topLevelWidgets())
@@ -96,7 +95,8 @@ private:
     void FillStore()
     {
         Store store(Address());
-        const PanelReading reading = ReadPanelFile(m_table.toStdString());
+        const PanelText text = LoadPanelFile(m_table.toStdString());
+        const PanelReading reading = ReadPanels({&text, 1});
         CarryOutImport(PlanImport(reading.Markers, {}, store), store);
         ParameterStore parameters(store);
         parameters.Create("Paternity", TagLists::OneEmpty);
@@ -127,16 +127,36 @@ private:
     {
         auto* timer = new QTimer;
         const QWidget* before = QApplication::activeModalWidget();
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, before, act = std::move(act)] {
-            auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || dialog == before)
-                return;
-            timer->stop();
-            timer->deleteLater();
-            act(*dialog);
-            dialog->reject();
-        });
+        QObject::connect(
+            timer, &QTimer::timeout, timer, [this, timer, before, act = std::move(act)] {
+                auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+                if (dialog == nullptr || dialog == before)
+                    return;
+                timer->stop();
+                timer->deleteLater();
+                act(*dialog);
+                Close(*dialog);
+            });
         timer->start(20);
+    }
+
+    /// Closes a dialog, and the question whether what was changed may be lost.
+    void Close(QDialog& dialog)
+    {
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, &dialog, [&] {
+            auto* question = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (question == nullptr || question == &dialog)
+                return;
+            Take(*question, "discard");
+            for (QAbstractButton* button : question->buttons())
+            {
+                if (question->buttonRole(button) == QMessageBox::DestructiveRole)
+                    button->click();
+            }
+        });
+        answer.start(100);
+        dialog.reject();
     }
 
     /// Highlights the first selected locus, so that the commands are about it.
@@ -198,15 +218,52 @@ private:
         QApplication::sendEvent(grid->viewport(), &event);
     }
 
-    void TakePicker(MainWindow& window)
+    void ChooseRows(MainWindow& window, const std::vector<int>& rows)
     {
-        auto* grid = window.findChild<QTableView*>("gridAvailable");
-        QTest::keyClick(grid, Qt::Key_A, Qt::ControlModifier);
-        OnModal([&](QDialog& picker) {
+        window.findChild<LibraryTable*>("loci")->ChooseRows(rows);
+        Settle();
+    }
+
+    void TakeLibrary(MainWindow& window)
+    {
+        auto* preview = window.findChild<QTabWidget*>("preview");
+        ChooseRows(window, {2});
+        Take(window, "library");
+        preview->setCurrentIndex(1);
+        Settle();
+        Take(window, "library-lanes");
+        preview->setCurrentIndex(2);
+        Settle();
+        Take(window, "library-details");
+        ChooseRows(window, {2, 5});
+        window.findChild<QAction*>("compare")->trigger();
+        Settle();
+        Take(window, "library-compare");
+        auto* search = window.findChild<QLineEdit*>("search");
+        search->setText("dye:blue range:100-200");
+        Settle();
+        Take(window, "library-search");
+        search->setText("dye:pink");
+        Settle();
+        Take(window, "library-search-error");
+        search->clear();
+        preview->setCurrentIndex(0);
+        ChooseRows(window, {4, 5, 6});
+        window.resize(1024, 700);
+        Settle();
+        Take(window, "library-small");
+        window.resize(1240, 900);
+        OnModal([&](QDialog& list) {
             Settle();
-            Take(picker, "pick-locus");
+            Take(list, "commands");
         });
-        window.findChild<QAction*>("editLocus")->trigger();
+        window.findChild<QAction*>("commands")->trigger();
+        OnModal([&](QDialog& question) {
+            Settle();
+            Take(question, "delete");
+        });
+        window.findChild<QAction*>("deleteLocus")->trigger();
+        ChooseRows(window, {3});
     }
 
     void TakeFailure(MainWindow& window)
@@ -222,10 +279,25 @@ private:
     {
         Store store(m_home.filePath("other.sqlite").toStdString());
         ImportDialog dialog(store, m_frontEnd.UserActions(), &window);
-        dialog.Preview(m_table);
+        dialog.Preview({m_table});
         dialog.show();
         Settle();
         Take(dialog, "import");
+    }
+
+    void TakeExport(MainWindow& window)
+    {
+        Store store(Address());
+        ExportDialog dialog(store, m_frontEnd.UserActions(), &window);
+        dialog.findChild<QComboBox*>("exportFormat")->setCurrentIndex(1);
+        dialog.show();
+        Settle();
+        Take(dialog, "export");
+        DyesDialog dyes(store, m_frontEnd.UserActions(), &window);
+        dyes.findChild<QPushButton*>("addDye")->click();
+        dyes.show();
+        Settle();
+        Take(dyes, "store-properties");
     }
 
     QString m_table;

@@ -1,8 +1,8 @@
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/grids/grid_view.h"
 #include "desktop_test.h"
-#include "platform/framework/parameter_page.h"
-#include "platform/grid/grid_model.h"
+#include "host/framework/parameter_page.h"
+#include "host/grid/grid_model.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -120,6 +120,7 @@ TEST_F(SelectorViewTest, TheMouseHighlightsAndMoves)
     Press("cmdAddSingle");
     EXPECT_EQ(Tags(Available()), "FGA");
     EXPECT_EQ(Tags(Selected()), "D3S1358 TH01");
+    EXPECT_TRUE(m_page.Selector().mnuEditAvailable.Enabled()) << "one row is highlighted again";
 
     QTest::mouseDClick(Selected().viewport(), Qt::LeftButton, Qt::NoModifier,
                        Selected().visualRect(Selected().model()->index(0, 0)).center());
@@ -187,7 +188,11 @@ TEST_F(SelectorViewTest, ADisabledSelectorIsGreyedAndStays)
     EXPECT_EQ(Available().palette().color(QPalette::Base),
               QApplication::palette().color(QPalette::Button));
     EXPECT_FALSE(Named(m_view, "cmdNewSTRLocus").isEnabled());
+    m_page.Selector().cmdAddAll.SetEnabled(true);
+    EXPECT_FALSE(Named(m_view, "cmdAddAll").isEnabled()) << "what would be refused is grey";
     m_page.Selector().SetEnabled(true);
+    EXPECT_TRUE(Named(m_view, "cmdAddAll").isEnabled());
+    EXPECT_TRUE(Named(m_view, "cmdNewSTRLocus").isEnabled());
     EXPECT_EQ(Available().palette().color(QPalette::Base),
               QApplication::palette().color(QPalette::Base));
 }

@@ -1,14 +1,18 @@
 #include "controls/text_field.h"
 #include "desktop/forms/accessible_name.h"
 #include "desktop_test.h"
+#include "editor/locus_editor_form.h"
+#include "host/alleles/pane_user.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QWheelEvent>
 
 namespace Tamrivo::Testing
 {
@@ -70,6 +74,7 @@ TEST_F(WizardTest, EnterFinishesAndEscapeCancelsAfterTheRepair)
     std::string repaired;
     const auto outcome = Edit("D3S1358", [&](WizardDialog& editor) {
         Replace(editor, "txtRepeat", "0");
+        OnModal([](QDialog& question) { Press(question, "Discard Changes"); });
         QTest::keyClick(&Named(editor, "txtRepeat"), Qt::Key_Escape);
         repaired = Named<QLineEdit>(editor, "txtRepeat").text().toStdString();
     });
@@ -111,7 +116,7 @@ TEST_F(WizardTest, EveryKindOfFaultIsMarkedExplainedAndKeepsTheWizardOpen)
                           QPoint(8, 8));
         Replace(editor, "txtStartAtNumeric", "0");
         EXPECT_TRUE(isYellow("txtStartAtNumeric"));
-        editor.reject();
+        Discard(editor);
     });
 }
 
@@ -146,7 +151,7 @@ TEST_F(WizardTest, TabStopsAreTheDeclaredOnes)
             }
             EXPECT_EQ(visited, expected);
         }
-        editor.reject();
+        Discard(editor);
     });
 }
 
@@ -170,7 +175,7 @@ TEST_F(WizardTest, EveryControlHasANameAndARole)
         };
         for (const auto& [control, name] : names)
             EXPECT_EQ(AccessibleName(*page.Find(control)), name) << control;
-        editor.reject();
+        Discard(editor);
     });
 }
 
@@ -191,10 +196,12 @@ TEST_F(WizardTest, SaveAsUnderAnotherTagAndOverTheSame)
     ASSERT_TRUE(Stored("Copy"));
     EXPECT_EQ(Stored("Copy")->FragEnd, 136);
 
-    Edit({}, [](WizardDialog& editor) {
-        Replace(editor, "txtLocusTag", "Fresh");
-        Replace(editor, "txtFragStart", "100");
-        Replace(editor, "txtFragEnd", "200");
+    // A tag that the locus bears without being current is none that is taken.
+    const auto unused = Stored("TH01");
+    unused->SetIsCurrent(false);
+    Host().Store().Manager().Save(*unused, true);
+    Edit("TH01", [](WizardDialog& editor) {
+        Replace(editor, "txtFragEnd", "190");
         OnModal([](QDialog& saveAs) {
             OnModal([](QDialog& question) {
                 auto& box = dynamic_cast<QMessageBox&>(question);
@@ -203,12 +210,91 @@ TEST_F(WizardTest, SaveAsUnderAnotherTagAndOverTheSame)
                 EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
                 QTest::keyClick(&box, Qt::Key_Return);
             });
-            Type(Named(saveAs, "txtLocusName"), "Fresh");
+            Type(Named(saveAs, "txtLocusName"), "TH01");
             QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
         });
-        if (Named(editor, "cmdSaveAs").isEnabled())
-            QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
-        editor.reject();
+        QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
+        Discard(editor);
+    });
+    EXPECT_EQ(Stored("TH01")->FragEnd, 190) << "stored at once";
+}
+
+TEST_F(WizardTest, AsksBeforeWorkIsLost)
+{
+    Edit("D3S1358", [](WizardDialog& editor) { editor.close(); });
+
+    Edit({}, [](WizardDialog& editor) {
+        Replace(editor, "txtLocusTag", "Whole new");
+        OnModal([](QDialog& question) { QTest::keyClick(&question, Qt::Key_Escape); });
+        QTest::keyClick(&Named(editor, "txtLocusTag"), Qt::Key_Escape);
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(editor.focusWidget(), &Named(editor, "txtLocusTag"));
+
+        auto& pane =
+            User::AllelesOf(dynamic_cast<LocusEditorForm&>(editor.Page().Form()).ctlPaneAlleleList);
+        auto& generate = Named(editor, "cmdGenAlleleList");
+        QTest::mouseClick(&generate, Qt::LeftButton);
+        EXPECT_EQ(pane.Rows()[0]->AlleleReal3, 60.5) << "as wide as the page shows";
+        pane.EditCell(1, AlleleColumns[0], "mine");
+        for (const bool replaces : {false, true})
+        {
+            OnModal([=](QDialog& question) {
+                Press(question, replaces ? "Replace" : "Keep the List");
+            });
+            QTest::mouseClick(&generate, Qt::LeftButton);
+            EXPECT_EQ(pane.Rows()[0]->AlleleText1, replaces ? "60" : "mine");
+        }
+        OnModal([](QDialog& question) { Press(question, "Discard Changes"); });
+        editor.close();
+    });
+}
+
+TEST_F(WizardTest, AccessKeysOfTheWizardAreNotThoseOfThePages)
+{
+    const auto letterOf = [](const QString& caption) {
+        return caption[caption.indexOf('&') + 1].toLower();
+    };
+    Edit("D3S1358", [&](WizardDialog& editor) {
+        for (const char* button : {"finish", "cancel"})
+        {
+            const QString own = Named<QPushButton>(editor, button).text();
+            for (const auto* other : editor.Page().findChildren<QAbstractButton*>())
+                EXPECT_TRUE(!other->text().contains('&') ||
+                            letterOf(other->text()) != letterOf(own))
+                    << own.toStdString() << " and " << other->text().toStdString();
+        }
+        Focus(Named(editor, "txtRepeat"));
+        QTest::keyClick(editor.focusWidget(), Qt::Key_F, Qt::AltModifier);
+        const auto& forward = Named<QAbstractButton>(editor, "optPrimerLabel(0)");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return forward.isChecked(); }));
+        QTest::keyClick(editor.focusWidget(), Qt::Key_I, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.isVisible(); }));
+    });
+}
+
+TEST_F(WizardTest, AnArrowTakesTheFocusAndTheWheelNothing)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        auto& spin = Named(editor, "udShortestAlleleSize");
+        const auto& size = Named<QLineEdit>(editor, "txtShortestAlleleSize");
+        Replace(editor, "txtFragEnd", "82");
+        for (int i = 0; i < 5; ++i)
+            QTest::mouseClick(&spin, Qt::LeftButton, Qt::NoModifier,
+                              QPoint(spin.width() / 2, spin.height() / 4));
+        EXPECT_EQ(size.text(), "82") << "the range was mended first";
+        EXPECT_TRUE(spin.hasFocus());
+
+        const auto turnWheel = [&] {
+            QWheelEvent wheel(QPointF(5, 5), spin.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&spin, &wheel);
+        };
+        turnWheel();
+        EXPECT_EQ(size.text(), "81");
+        Focus(Named(editor, "txtRepeat"));
+        turnWheel();
+        EXPECT_EQ(size.text(), "81");
+        Discard(editor);
     });
 }
 
@@ -231,7 +317,7 @@ TEST_F(WizardTest, AFailureIsTakenInPlainWordsAndNothingIsLost)
         if (editor.isVisible())
         {
             EXPECT_EQ(Named<QLineEdit>(editor, "txtFragEnd").text(), "150");
-            editor.reject();
+            Discard(editor);
         }
     });
 }

@@ -100,6 +100,47 @@ TEST_F(BindingTest, EveryPropertyIsShownByItsField)
     EXPECT_EQ(Page.chkDetLongStutter.Value(), 1);
 }
 
+TEST_F(BindingTest, EachBoxStandsForItsOwnProperty)
+{
+    struct Row
+    {
+        CheckBox LocusEditorForm::*Box;
+        bool LocusFields::*Property;
+    };
+    const Row rows[] = {
+        {&LocusEditorForm::chkSearchForStutter, &LocusFields::SearchForStutter},
+        {&LocusEditorForm::chkDetShortStutter, &LocusFields::DetShortStutter},
+        {&LocusEditorForm::chkDetLongStutter, &LocusFields::DetLongStutter},
+        {&LocusEditorForm::chkApparentSizeIncludesA, &LocusFields::ApparentSizeIncludesA},
+        {&LocusEditorForm::chkDetectA, &LocusFields::DetectA},
+        {&LocusEditorForm::chkUseA, &LocusFields::UseA},
+        {&LocusEditorForm::chkDetectSpuriousPeaks, &LocusFields::DetectSpuriousPeaks},
+    };
+    for (const Row& alone : rows)
+    {
+        for (const Row& row : rows)
+            (*Locus).*row.Property = &row == &alone;
+        Open(Mode::New);
+        std::string shown;
+        std::string stored;
+        std::string expected;
+        for (const Row& row : rows)
+        {
+            shown += std::to_string((Page.*row.Box).Value());
+            expected += &row == &alone ? "1" : "0";
+        }
+        EXPECT_EQ(shown, expected);
+        SetMode(Mode::Edit);
+        OpenAgain();
+        for (const Row& row : rows)
+            (*Locus).*row.Property = &row != &alone;
+        Host.Base->Save();
+        for (const Row& row : rows)
+            stored += (*Locus).*row.Property ? "1" : "0";
+        EXPECT_EQ(stored, expected);
+    }
+}
+
 TEST_F(BindingTest, ANewLocusShowsItsOwnDefaults)
 {
     static_cast<LocusFields&>(*Locus) = UnusualFields();
@@ -155,7 +196,6 @@ TEST_F(BindingTest, AnUnknownConventionIsToldTwiceAndStopsTheLoading)
               (Tamrivo::Reports{{"LoadLocusData", false}, {"m_oPageBase_Initialize", false}}));
     EXPECT_EQ(Reports()[1].Error, (ErrorRecord{-2147221504, "Select AlleleNamingConventionTypeID",
                                                "Invalid ID: 999", "", 0}));
-    EXPECT_EQ(Host.Utility.ClassName, "LocusEditorPage");
     EXPECT_EQ(Page.txtGenBank.Text(), " untrimmed ");
 }
 

@@ -34,6 +34,12 @@ public:
         Locus->AddAllele("stored");
     }
 
+    ~EditorHost()
+    {
+        for (const std::string& heading : Host.Utility.Headings)
+            EXPECT_EQ(heading, "Tamrivo|LocusEditorPage|");
+    }
+
     void SetMode(Mode mode)
     {
         const bool isNew = mode == Mode::New || mode == Mode::NewBinning;
@@ -48,9 +54,13 @@ public:
     LocusEditorPage& Open(Mode mode)
     {
         SetMode(mode);
+        OpenAgain();
+        return Page;
+    }
+    void OpenAgain()
+    {
         Parameters().Add(std::static_pointer_cast<Tamrivo::Locus>(Locus), "Locus");
         Initialize();
-        return Page;
     }
 
     ParameterCollection& Parameters() const { return *Host.Base->Collection; }

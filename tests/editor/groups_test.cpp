@@ -44,10 +44,11 @@ TEST_F(GroupsTest, TheLetterSpinStepsByTheLocus)
 TEST_F(GroupsTest, ATagOfBlanksTakesTheLocusOutOfUse)
 {
     Open(Mode::Edit);
-    Host.Base->Validate = [&](bool&) { EXPECT_TRUE(Locus->Current); };
+    Connection validation =
+        Host.Base->Validate.Connect([&](bool&) { EXPECT_TRUE(Locus->Current); });
     Page.txtLocusTag.SetText("  ");
     EXPECT_FALSE(Locus->Current);
-    Host.Base->Validate = nullptr;
+    validation.reset();
     Page.txtLocusTag.SetText("back");
     EXPECT_FALSE(Locus->Current);
 }
@@ -71,10 +72,11 @@ TEST_F(GroupsTest, ABoxSwitchesItsDependentsAndLeavesTheirContent)
         for (const bool on : {true, false})
         {
             std::vector<Control*> switched;
-            Page.ControlChanged = [&, master = box](Control& control) {
-                if (&control != master)
-                    switched.push_back(&control);
-            };
+            const Connection observer =
+                Page.ControlChanged.Connect([&, master = box](Control& control) {
+                    if (&control != master)
+                        switched.push_back(&control);
+                });
             User::Click(*box);
             for (const Control* dependent : dependents)
                 EXPECT_EQ(dependent->Enabled(), on) << dependent->Name();
@@ -163,55 +165,115 @@ TEST_F(GroupsTest, InBinningTheHostHearsOfChangedAlleles)
     EXPECT_TRUE(Binning->Changed);
 }
 
-TEST_F(GroupsTest, EveryGuardTellsItsOwnName)
+struct GuardRow
+{
+    Mode Opened;
+    const char* Undrawn; ///< A control whose changes can't be shown.
+    void (*Act)(EditorHost& editor);
+    const char* Guards;
+};
+
+const GuardRow GuardRows[] = {
+    {Mode::Edit, "txtFragStart", [](EditorHost& e) { e.OpenAgain(); },
+     "ClearInformation propagating, m_oPageBase_Initialize propagating"},
+    {Mode::Edit, "txtShortestAlleleSize", [](EditorHost& e) { e.OpenAgain(); },
+     "LoadDefaults propagating, m_oPageBase_Initialize propagating"},
+    {Mode::Edit, "cmbProjects", [](EditorHost& e) { e.OpenAgain(); },
+     "LoadProjects propagating, m_oPageBase_Initialize propagating"},
+    {Mode::Edit, "optAlleleNaming(1)", [](EditorHost& e) { e.OpenAgain(); },
+     "LoadLocusData propagating, m_oPageBase_Initialize propagating"},
+    {Mode::BinningTagged, "optAlleleNaming(1)", [](EditorHost& e) { e.Host.Base->Activate(); },
+     "m_oPageBase_Activate propagating"},
+    {Mode::BinningTagged, "", [](EditorHost& e) { e.Host.Base->Deactivate(); }, ""},
+    {Mode::Edit, "", [](EditorHost& e) { e.Host.Base->Save(); },
+     "UpdateLocus propagating, m_oPageBase_Save propagating"},
+    {Mode::Edit, "", [](EditorHost& e) { e.Page.cmdSaveAs.Click(); },
+     "UpdateLocus propagating, cmdSaveAs_Click terminal"},
+    {Mode::Edit, "", [](EditorHost& e) { e.Page.cmdGenAlleleList.Click(); },
+     "cmdGenAlleleList_Click terminal"},
+    {Mode::Edit, "", [](EditorHost& e) { e.Host.Base->PageChanged(); },
+     "m_oPageBase_Validate propagating"},
+    {Mode::Edit, "", [](EditorHost& e) { e.Page.txtLocusTag.Change(); },
+     "m_oPageBase_Validate propagating, txtLocusTag_Change terminal"},
+    {Mode::Edit, "", [](EditorHost& e) { e.Page.txtStartAtNumeric.Change(); },
+     "m_oPageBase_Validate propagating"},
+    {Mode::Edit, "txtStartAtAlphanumeric",
+     [](EditorHost& e) { e.Page.udStartAtAlphanumeric.UpClick(); },
+     "udStartAtAlphanumeric_UpClick terminal"},
+    {Mode::Edit, "txtStartAtAlphanumeric",
+     [](EditorHost& e) { e.Page.udStartAtAlphanumeric.DownClick(); },
+     "udStartAtAlphanumeric_DownClick terminal"},
+    {Mode::Edit, "lblStartAtAlphanumeric",
+     [](EditorHost& e) { e.Page.optAlleleNaming.Item(1).Click(); },
+     "StartAtAlphanumeric (Let) propagating, optAlleleNaming_Click terminal"},
+    {Mode::Edit, "lblStartAtNumeric", [](EditorHost& e) { e.Page.optAlleleNaming.Item(2).Click(); },
+     "StartAtNumeric (Let) propagating, optAlleleNaming_Click terminal"},
+    {Mode::Edit, "UpDown1", [](EditorHost& e) { e.Page.chkSearchForStutter.SetValue(1); },
+     "DisplaySearchForStutter propagating, chkSearchForStutter_Click terminal"},
+    {Mode::Edit, "UpDown3", [](EditorHost& e) { e.Page.chkDetectSpuriousPeaks.SetValue(1); },
+     "DisplayDetectSpuriousPeaks propagating, chkDetectSpuriousPeaks_Click terminal"},
+    {Mode::Edit, "txtConfInt", [](EditorHost& e) { e.Page.chkUserSpecified.SetValue(1); },
+     "DisplayUserSpecified propagating, chkUserSpecified_Click terminal"},
+    {Mode::Edit, "txtShortestAlleleSize",
+     [](EditorHost& e) { e.Page.txtShortestAlleleSize.LostFocus(); }, ""},
+};
+
+TEST(LocusEditorPage, EachGuardTellsItsNameAndForm)
+{
+    for (const auto& [mode, undrawn, act, guards] : GuardRows)
+    {
+        EditorHost editor;
+        editor.Open(mode);
+        editor.Locus->AlleleNamingConventionTypeID = AlleleNamingConvention::Alphabetic;
+        const std::string failing = undrawn;
+        if (failing.empty())
+            editor.Page.txtFragEnd.SetText("99999999999");
+        editor.Page.txtShortestAlleleSize.SetText("1");
+        const Connection observer = editor.Page.ControlChanged.Connect([&](Control& control) {
+            if (control.Name() == failing)
+                throw Failure(1, "test", "no drawing");
+        });
+        EXPECT_EQ(editor.Host.Utility.GuardsOf([&, does = act] { does(editor); }), guards)
+            << failing;
+    }
+
+    struct Baseless : Fakes::FakeHost
+    {
+        std::shared_ptr<PageBase> NewPageBase() override { throw Failure(1, "host", "none"); }
+    } baseless;
+    EXPECT_EQ(baseless.Utility.GuardsOf([&] { LocusEditorPage page(baseless); }),
+              "UserControl_Initialize terminal");
+}
+
+TEST_F(GroupsTest, EachRepairTellsItsNameAndForm)
 {
     Open(Mode::Edit);
-    struct Case
+    std::string told;
+    for (Control* control : Page.Controls())
     {
-        Control& Victim;
-        void (*Act)(LocusEditorPage&);
-        Tamrivo::Reports Expected;
-    };
-    using Form = LocusEditorPage;
-    const Case cases[] = {
-        {Page.UpDown1,
-         [](Form& page) { page.chkSearchForStutter.SetValue(1); },
-         {{"DisplaySearchForStutter", false}, {"chkSearchForStutter_Click", true}}},
-        {Page.UpDown3,
-         [](Form& page) { page.chkDetectSpuriousPeaks.SetValue(1); },
-         {{"DisplayDetectSpuriousPeaks", false}, {"chkDetectSpuriousPeaks_Click", true}}},
-        {Page.txtConfInt,
-         [](Form& page) { page.chkUserSpecified.SetValue(1); },
-         {{"DisplayUserSpecified", false}, {"chkUserSpecified_Click", true}}},
-        {Page.udStartAtNumeric,
-         [](Form& page) { page.optAlleleNaming.Item(2).SetValue(true); },
-         {{"StartAtNumeric (Let)", false}, {"optAlleleNaming_Click", true}}},
-        {Page.txtConfInt,
-         [](Form& page) { page.txtConfInt.LostFocus(); },
-         {{"txtConfChoice_LostFocus", true}}},
-        {Page.txtRepeat,
-         [](Form& page) { page.txtRepeat.LostFocus(); },
-         {{"txtRepeat_LostFocus", true}}},
-        {Page.txtFragEnd,
-         [](Form& page) { page.txtFragEnd.LostFocus(); },
-         {{"txtFragEnd_LostFocus", true}}},
-        {Page.txtStartAtNumeric,
-         [](Form& page) { page.txtStartAtNumeric.LostFocus(); },
-         {{"txtStartAtNumeric_LostFocus", true}}},
-    };
-    for (TextField* field :
-         {&Page.txtConfInt, &Page.txtRepeat, &Page.txtFragEnd, &Page.txtStartAtNumeric})
+        auto* field = dynamic_cast<TextField*>(control);
+        if (field == nullptr)
+            continue;
         field->SetText("");
-    for (const auto& [victim, act, expected] : cases)
-    {
-        Reports().clear();
-        Page.ControlChanged = [&failing = victim](Control& control) {
-            if (&control == &failing)
+        const Connection observer = Page.ControlChanged.Connect([&](Control& changed) {
+            if (&changed == field)
                 throw Failure(1, "test", "no drawing");
-        };
-        act(Page);
-        EXPECT_EQ(Reports(), expected);
+        });
+        const std::string guards = Host.Utility.GuardsOf([&] { field->LostFocus(); });
+        told += guards.empty() ? "" : guards + "\n";
     }
+    EXPECT_EQ(told, R"(txtFragStart_LostFocus terminal
+txtFragEnd_LostFocus terminal
+txtRepeat_LostFocus terminal
+txtRepeatsInShortestAllele_LostFocus terminal
+txtPloidy_LostFocus terminal
+txtStartAtAlphanumeric_LostFocus terminal
+txtStartAtNumeric_LostFocus terminal
+txtStutterWidth_LostFocus terminal
+txtRelStutter_LostFocus terminal
+txtMaxSpurHeight_LostFocus terminal
+txtConfChoice_LostFocus terminal
+)");
 }
 
 } // namespace

@@ -176,16 +176,5 @@ TEST_F(InputRulesTest, WhatDoesNotConvertEndsInTheGuardOfItsHandler)
               (Tamrivo::Reports{{"txtFragStart_LostFocus", true}, {"txtPloidy_LostFocus", true}}));
 }
 
-TEST_F(InputRulesTest, AFailingValidationIsToldByWhoeverHasAGuard)
-{
-    Open(Mode::Edit);
-    Page.txtFragStart.SetText("99999999999");
-    EXPECT_EQ(FailureOf([&] { Page.txtStartAtNumeric.SetText("3"); }), ErrorNumber::OutOfRange);
-    Page.txtLocusTag.SetText("other");
-    EXPECT_EQ(Reports(), (Tamrivo::Reports{{"m_oPageBase_Validate", false},
-                                           {"m_oPageBase_Validate", false},
-                                           {"txtLocusTag_Change", true}}));
-}
-
 } // namespace
 } // namespace Tamrivo

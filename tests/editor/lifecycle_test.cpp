@@ -51,9 +51,12 @@ TEST_P(EditorModes, ShowTheControlsOfTheMode)
     EXPECT_EQ(Host.Base->Changes > changes, !row.GeneratesOnceActive);
     EXPECT_EQ(Host.Pane->Shown == Locus, !row.GeneratesOnceActive);
 
+    Locus->AddAllele("edited");
     Host.Base->Deactivate();
+    Host.Objects.Requests.clear();
     Host.Base->Save();
-    EXPECT_EQ(Host.Objects.Saved, std::vector<const BusinessObject*>{Locus.get()});
+    EXPECT_EQ(Host.Objects.Requests, std::vector<std::string>{"Save " + Locus->Tag + " true"});
+    EXPECT_EQ(Names(Locus->Alleles()), row.GeneratesOnceActive ? "stored " : "stored edited ");
     EXPECT_EQ(Parameters().KeyExists("NewLocus"), Locus->TagId < 1);
     EXPECT_TRUE(Reports().empty());
 }
@@ -83,6 +86,8 @@ TEST_F(LifecycleTest, OpensOnceAndTakesTheLocusAway)
 {
     Open(Mode::Edit);
     EXPECT_FALSE(Parameters().KeyExists("Locus"));
+    EXPECT_EQ(Host.Objects.Requests, (std::vector<std::string>{"Query CurrentLoci Name \"\" 0 true",
+                                                               "Query Projects  \"\" 0 true"}));
     Page.txtRepeat.SetText("9");
     Initialize();
     EXPECT_EQ(Page.txtRepeat.Text(), "9");

@@ -36,7 +36,8 @@ TEST_F(SaveAsTest, AnotherTagMakesTheNewLocusTheOneOfThePage)
     NameIt("TPOX 2");
     User::Click(Page.cmdSaveAs);
 
-    EXPECT_EQ(Host.Launcher.Started, std::vector<std::string>{"SaveLocusTagAs 1"});
+    EXPECT_EQ(Host.Launcher.Started,
+              std::vector<std::string>{"SaveLocusTagAs - 1 -1 -1 -1 -1 -1 \"\" 0 0"});
     ASSERT_EQ(NewLocus->Alleles().Count(), 1);
     const auto copy = As<Fakes::FakeAllele>(NewLocus->Alleles().Item(1));
     EXPECT_EQ(static_cast<const AlleleFields&>(*copy), fields);
@@ -70,6 +71,17 @@ TEST_F(SaveAsTest, TheSameTagSavesThePresentLocus)
     EXPECT_EQ(Locus->Tag + Locus->GenBank, "TPOXtyped");
     EXPECT_FALSE(Parameters().KeyExists("SaveTimes"));
     EXPECT_FALSE(Page.txtLocusTag.Visible());
+}
+
+TEST_F(SaveAsTest, TheSameTagAfterAnotherIsNoNewLocusAnyMore)
+{
+    NameIt("Fresh");
+    User::Click(Page.cmdSaveAs);
+    NameIt("FRESH");
+    User::Click(Page.cmdSaveAs);
+    Host.Base->Save();
+    EXPECT_FALSE(Parameters().KeyExists("NewSaveAs"));
+    EXPECT_EQ(SaveTimes(), 1);
 }
 
 TEST_F(SaveAsTest, ACancelledWizardLeavesTheLocusAlone)

@@ -112,6 +112,9 @@ TEST_F(ValidationTest, MarksAllFaultsInOnePassButNoneWhileTheListIsInvalid)
     EXPECT_FALSE(Host.Base->IsValid);
     EXPECT_EQ(Mark(Page.txtLocusTag), Required);
     EXPECT_EQ(Mark(Page.txtFragStart), Range);
+    Page.optAlleleNaming.Item(2).SetValue(true);
+    Page.txtStartAtNumeric.SetText("0");
+    EXPECT_EQ(Mark(Page.txtStartAtNumeric), Start);
 }
 
 } // namespace

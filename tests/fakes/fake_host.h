@@ -10,6 +10,8 @@
 #include <cmath>
 #include <functional>
 #include <ostream>
+#include <set>
+#include <sstream>
 
 namespace Tamrivo::Fakes
 {
@@ -20,6 +22,7 @@ struct Report
     std::string Procedure;
     bool Final;
     ErrorRecord Error = {};
+    bool OfferedStop = false;
 
     bool operator==(const Report& other) const
     {
@@ -36,15 +39,19 @@ class FakeUtility : public Utility
 {
 public:
     void ReportError(std::string_view title, std::string_view className,
-                     std::string_view procedureName, const ErrorRecord& error, std::string_view,
-                     bool bFinal) override
+                     std::string_view procedureName, const ErrorRecord& error,
+                     std::string_view extra, bool bFinal) override
     {
-        Title = title;
-        ClassName = className;
+        Headings.insert(std::string(title) + "|" + std::string(className) + "|" +
+                        std::string(extra));
         Reports.push_back({std::string(procedureName), bFinal, error});
     }
     bool DebugMode() const override { return OnDebugBreak != nullptr; }
-    bool DebugBreak(std::int32_t) override { return OnDebugBreak(); }
+    bool DebugBreak(std::int32_t) override
+    {
+        Reports.back().OfferedStop = true;
+        return OnDebugBreak();
+    }
     bool KeyExists(const Keyed& container, const std::string& key) const override
     {
         return container.KeyExists(TrimRight(key));
@@ -58,8 +65,30 @@ public:
         return value == std::trunc(value) && low <= value && value <= high;
     }
 
-    std::string Title;
-    std::string ClassName;
+    /// The guards that tell of a failure of the action, with their forms, in debug mode and without
+    /// a stop: "UpdateLocus propagating, cmdSaveAs_Click terminal".
+    template <class Action>
+    std::string GuardsOf(Action action)
+    {
+        Reports.clear();
+        OnDebugBreak = [] { return false; };
+        try
+        {
+            action();
+        }
+        catch (const Failure&)
+        {}
+        OnDebugBreak = nullptr;
+        std::string guards;
+        for (const Report& report : std::exchange(Reports, {}))
+            guards += (guards.empty() ? "" : ", ") + report.Procedure +
+                      (!report.Final        ? report.OfferedStop ? " propagating" : " unasked"
+                       : report.OfferedStop ? " terminal"
+                                            : " reporting");
+        return guards;
+    }
+
+    std::set<std::string> Headings; ///< Title, class and extra text of each report.
     std::vector<Report> Reports;
     /// The stop for the debugger; without one there is no debug mode.
     std::function<bool()> OnDebugBreak;
@@ -102,12 +131,18 @@ class FakeLauncher : public Launcher
 public:
     std::shared_ptr<LauncherResult> Start(std::string_view wizard,
                                           const std::shared_ptr<ParameterCollection>& parameters,
-                                          const std::shared_ptr<BusinessObject>&, std::int32_t mode,
-                                          std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-                                          std::int32_t, std::string_view, std::int32_t,
-                                          std::int32_t) override
+                                          const std::shared_ptr<BusinessObject>& object,
+                                          std::int32_t mode, std::int32_t a, std::int32_t b,
+                                          std::int32_t c, std::int32_t d, std::int32_t e,
+                                          std::string_view text, std::int32_t f,
+                                          std::int32_t g) override
     {
-        Started.push_back(std::string(wizard) + " " + std::to_string(mode));
+        std::ostringstream call;
+        call << wizard << (object ? " object " : " - ") << mode;
+        for (const std::int32_t number : {a, b, c, d, e})
+            call << ' ' << number;
+        call << " \"" << text << "\" " << f << ' ' << g;
+        Started.push_back(call.str());
         return std::make_shared<FakeResult>(!Run(*parameters));
     }
 
@@ -156,9 +191,10 @@ public:
     std::shared_ptr<LocusTagEntry> NewLocusTagEntry() override { return nullptr; }
     std::shared_ptr<PaneAlleleList> NewPaneAlleleList() override { return Pane; }
     std::shared_ptr<Gridocx> NewGrid() override { throw std::logic_error("no grid"); }
-    MessageAnswer ShowMessage(const std::string& text, std::int32_t, const std::string&) override
+    MessageAnswer ShowMessage(const std::string& text, std::int32_t kind,
+                              const std::string& title) override
     {
-        Messages.push_back(text);
+        Messages.push_back(title + "|" + text + "|" + std::to_string(kind));
         return Answer;
     }
 

@@ -50,7 +50,7 @@ private:
     std::vector<std::shared_ptr<BusinessObject>>::const_iterator Find(const std::string& key) const
     {
         return std::ranges::find_if(Objects, [&](const auto& object) {
-            return EqualNoCase(TrimRight(object->Name()), TrimRight(key));
+            return object && EqualNoCase(TrimRight(object->Name()), TrimRight(key));
         });
     }
 };
@@ -89,14 +89,19 @@ public:
             clone->AlleleList.Add(std::make_shared<FakeAllele>(*As<FakeAllele>(member)));
         return clone;
     }
-    /// A row for each step of the repeat unit, named by its size.
+    /// A row for each step of the repeat unit, named by its size, with a bin of 1 nt.
     void GenerateAlleles() override
     {
         if (RepeatLength < 1)
             throw Failure(ErrorNumber::InvalidArgument, "FakeLocus", "no repeat unit");
         AlleleList.Objects.clear();
         for (std::int32_t size = ShortestAlleleSize; size <= FragEnd; size += RepeatLength)
-            AddAllele(std::to_string(size));
+        {
+            const auto allele = AddAllele(std::to_string(size));
+            allele->AlleleReal1 = size;
+            allele->AlleleReal2 = size - 0.5;
+            allele->AlleleReal3 = size + 0.5;
+        }
     }
     std::string NextStartAt(const std::string& text) const override { return Stepped(text, 1); }
     std::string PreviousStartAt(const std::string& text) const override
@@ -157,22 +162,25 @@ class FakeObjectManager : public ObjectManager
 public:
     std::shared_ptr<BusinessObject> Create(std::string_view key) override
     {
-        Before("Create " + std::string(key));
+        Request("Create " + std::string(key), "");
         if (key == "Allele")
             return std::make_shared<FakeAllele>();
         if (key == "Grid")
             return std::make_shared<FakeLayout>();
         return std::make_shared<FakeLocus>();
     }
-    std::shared_ptr<ObjectList> Query(std::string_view name, std::string_view, std::string_view,
-                                      std::string_view ordering, std::int32_t, bool) override
+    std::shared_ptr<ObjectList> Query(std::string_view name, std::string_view a, std::string_view b,
+                                      std::string_view ordering, std::int32_t number,
+                                      bool flag) override
     {
-        Before("Query " + std::string(name) + " " + std::string(ordering));
+        Request("Query " + std::string(name) + " " + std::string(ordering),
+                " \"" + std::string(a) + std::string(b) + "\" " + std::to_string(number) +
+                    (flag ? " true" : " false"));
         return std::make_shared<FakeObjectList>(Lists[std::string(name)]);
     }
-    void Save(BusinessObject& object, bool) override
+    void Save(BusinessObject& object, bool flag) override
     {
-        Before("Save " + object.Name());
+        Request("Save " + object.Name(), flag ? " true" : " false");
         Saved.push_back(&object);
     }
 
@@ -190,8 +198,16 @@ public:
 
     std::map<std::string, FakeObjectList> Lists; ///< What each query gives.
     std::vector<const BusinessObject*> Saved;
+    std::vector<std::string> Requests; ///< With all that they were given.
     /// Called with every request, for example "Save TPOX"; may raise a failure in its place.
     std::function<void(const std::string&)> Before = [](const std::string&) {};
+
+private:
+    void Request(const std::string& what, const std::string& constants)
+    {
+        Requests.push_back(what + constants);
+        Before(what);
+    }
 };
 
 } // namespace Tamrivo::Fakes

@@ -1,7 +1,7 @@
 #include "controls/text_field.h"
 #include "controls/user_control.h"
 #include "core/collection.h"
-#include "platform/framework/host_utility.h"
+#include "host/framework/host_utility.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -65,6 +65,17 @@ TEST_F(HostUtilityTest, KeyExistsMindsNeitherCaseNorTrailingBlanks)
         EXPECT_TRUE(m_utility.KeyExists(collection, key)) << key;
     for (const char* key : {" Locus", "Loc", ""})
         EXPECT_FALSE(m_utility.KeyExists(collection, key)) << key;
+}
+
+TEST_F(HostUtilityTest, StopsForNobodyUnlessADebuggerIsMeantAndThere)
+{
+    for (const char* meant : {"", "0", "1"})
+    {
+        setenv("TAMRIVO_DEBUG", meant, 1);
+        EXPECT_EQ(m_utility.DebugMode(), meant == std::string("1"));
+        EXPECT_FALSE(m_utility.DebugBreak(0)) << "no debugger is there";
+    }
+    unsetenv("TAMRIVO_DEBUG");
 }
 
 TEST_F(HostUtilityTest, ReportsAreShownAndLogged)

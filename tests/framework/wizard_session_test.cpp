@@ -1,5 +1,6 @@
 #include "core/error.h"
-#include "platform/framework/wizard_session.h"
+#include "host/framework/wizard_session.h"
+#include "host/loci/progress.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,16 +19,17 @@ class WizardSessionTest : public testing::Test
 protected:
     WizardSessionTest()
     {
-        m_base->Initialize = [this](const auto&) { Note("Initialize", m_onInitialize); };
-        m_base->Activate = [this] { Note("Activate", {}); };
-        m_base->Validate = [this](bool& isValid) {
+        m_connections.On(m_base->Initialize,
+                         [this](const auto&) { Note("Initialize", m_onInitialize); });
+        m_connections.On(m_base->Activate, [this] { Note("Activate", {}); });
+        m_connections.On(m_base->Validate, [this](bool& isValid) {
             isValid = m_isValid;
             Note("Validate", m_onValidate);
-        };
-        m_base->Save = [this] { Note("Save", m_onSave); };
-        m_session.ValidateFailed = [this](const ErrorRecord& error) {
+        });
+        m_connections.On(m_base->Save, [this] { Note("Save", m_onSave); });
+        m_connections.On(m_session.ValidateFailed, [this](const ErrorRecord& error) {
             m_events.push_back("failed: " + error.Description);
-        };
+        });
     }
 
     void Note(const std::string& event, const std::function<void()>& action)
@@ -44,6 +46,7 @@ protected:
     bool m_isValid = true;
     std::vector<std::string> m_events;
     WizardSession m_session{"Wizard", std::make_shared<UserControl>("Page", 0, 0), m_base};
+    Connections m_connections;
 };
 
 [[noreturn]] void Fail()
@@ -68,9 +71,8 @@ TEST_F(WizardSessionTest, AsksAPageThatChangedWhileItWasInitializedOnceItStands)
 TEST_F(WizardSessionTest, AnswersAChangeAtOnce)
 {
     m_session.Initialize();
-    m_session.Validated = [this] {
-        m_events.emplace_back(m_session.IsValid() ? "valid" : "invalid");
-    };
+    m_connections.On(m_session.Validated,
+                     [this] { m_events.emplace_back(m_session.IsValid() ? "valid" : "invalid"); });
     m_isValid = false;
     m_base->PageChanged();
     m_isValid = true;
@@ -86,6 +88,8 @@ TEST_F(WizardSessionTest, KeepsAFailingValidateFromThePageThatAskedForIt)
     EXPECT_THAT(m_events, ElementsAre("Initialize", "Validate", "failed: no"));
     EXPECT_THROW(m_session.Validate(), Failure);
     EXPECT_FALSE(m_session.HasEnded());
+    m_onValidate = [] { throw Cancelled(); };
+    EXPECT_THROW(m_base->PageChanged(), Cancelled) << "to cancel is no failure";
 }
 
 TEST_F(WizardSessionTest, StaysOpenUnlessThePageIsValidAndSaved)

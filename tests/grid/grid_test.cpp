@@ -1,6 +1,6 @@
 #include "core/dates.h"
-#include "platform/grid/grid_model.h"
-#include "platform/grid/grid_model_helper.h"
+#include "host/grid/grid_model.h"
+#include "host/grid/grid_model_helper.h"
 #include "tests/fakes/fake_objects.h"
 
 #include <gmock/gmock.h>

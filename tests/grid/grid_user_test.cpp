@@ -1,6 +1,6 @@
 #include "controls/user_control.h"
-#include "platform/grid/grid_model.h"
-#include "platform/grid/grid_user.h"
+#include "host/grid/grid_model.h"
+#include "host/grid/grid_user.h"
 
 #include <gmock/gmock.h>
 
@@ -25,18 +25,20 @@ public:
             model.SetColumns({{"Tag", ColumnKind::Tags}, {"Date", ColumnKind::Dates}});
             model.SetRowCount(4);
         }
-        Left->GotFocus = [this] { Events.emplace_back("focus"); };
-        Left->NoticeA = [this](auto&&...) { Events.emplace_back("A"); };
-        Left->NoticeB = [this](auto&&...) { Events.emplace_back("B"); };
-        Left->SelectionStarted = [this](double row, auto&&...) { Note("start", row); };
-        Left->SelectionChanged = [this](auto&&...) {
-            Note("highlighted", Model().HighlightedCount());
-        };
-        Left->CellClicked = [this](double row, double column, auto&&...) {
+        m_connections.On(Left->GotFocus, [this] { Events.emplace_back("focus"); });
+        m_connections.On(Left->NoticeA, [this](auto&&...) { Events.emplace_back("A"); });
+        m_connections.On(Left->NoticeB, [this](auto&&...) { Events.emplace_back("B"); });
+        m_connections.On(Left->SelectionStarted,
+                         [this](double row, auto&&...) { Note("start", row); });
+        m_connections.On(Left->SelectionChanged,
+                         [this](auto&&...) { Note("highlighted", Model().HighlightedCount()); });
+        m_connections.On(Left->CellClicked, [this](double row, double column, auto&&...) {
             Note("click", row * 10 + column);
-        };
-        Left->CellDoubleClicked = [this](double row, auto&&...) { Note("double", row); };
-        Left->CellRightClicked = [this](double row, auto&&...) { Note("right", row); };
+        });
+        m_connections.On(Left->CellDoubleClicked,
+                         [this](double row, auto&&...) { Note("double", row); });
+        m_connections.On(Left->CellRightClicked,
+                         [this](double row, auto&&...) { Note("right", row); });
     }
 
     bool Enabled() const override { return m_enabled; }
@@ -57,6 +59,7 @@ private:
     }
 
     bool m_enabled = true;
+    Connections m_connections;
 };
 
 struct GridUser : testing::Test

@@ -1,6 +1,9 @@
-#include "platform/panels/import.h"
-#include "platform/panels/panel_file.h"
-#include "platform/store/store.h"
+#include "host/panels/import.h"
+#include "host/panels/panel_files.h"
+#include "host/panels/table/panel_reader.h"
+#include "host/panels/table/panel_writer.h"
+#include "host/panels/whole_file.h"
+#include "host/store/store.h"
 #include "tests/fakes/locales.h"
 
 #include <gmock/gmock.h>
@@ -68,7 +71,7 @@ protected:
     {
         std::ostringstream out;
         const auto loci = CurrentLoci(store.Manager(), "");
-        WritePanelTable(out, loci->Members());
+        WritePanelTable(out, loci->Members(), store.Dyes());
         return out.str();
     }
 
@@ -152,7 +155,7 @@ TEST_F(Import, RefusesAPanelThatIsNotThere)
     }
     catch (const Failure& failure)
     {
-        EXPECT_THAT(failure.what(), AllOf(HasSubstr("\"R\""), HasSubstr("it has P, Q")));
+        EXPECT_THAT(failure.what(), AllOf(HasSubstr("\"R\""), HasSubstr("these: P, Q")));
     }
 }
 
@@ -201,12 +204,12 @@ TEST_F(Import, ChangesNoStoredLocus)
     edited->FragEnd = 420;
     m_store.Manager().Save(*edited, true);
     EXPECT_EQ(Run(d3 + fga + amel).Count(ImportFate::Present), 3U);
-    EXPECT_EQ(Plan(d3, {{}, "Casework"}).Loci[0].Obstacles.size(), 1U);
+    EXPECT_EQ(Plan(d3, {.Project = "Casework"}).Loci[0].Obstacles.size(), 1U);
 }
 
 TEST_F(Import, IsAllOrNothing)
 {
-    const ImportPlan plan = Plan(d3 + fga + amel, {{}, "Casework"});
+    const ImportPlan plan = Plan(d3 + fga + amel, {.Project = "Casework"});
     // Someone else takes a tag before the plan is carried out.
     const auto other = CreateObject<Locus>(m_store.Manager(), "Locus");
     other->SetLocusTag("amel");
@@ -219,14 +222,14 @@ TEST_F(Import, IsAllOrNothing)
 
 TEST_F(Import, CreatesTheProject)
 {
-    Run(d3 + fga, {{}, "Casework"});
+    Run(d3 + fga, {.Project = "Casework"});
     EXPECT_EQ(Stored("FGA")->ProjectName, "Casework");
     EXPECT_EQ(Stored("FGA")->ProjectID, m_store.FindProject("casework")->ProjectID());
 }
 
 TEST_F(Import, OfAnExportGivesEqualLociAndAlleles)
 {
-    Run(d3 + amel + d3OfQ, {{}, "Casework"});
+    Run(d3 + amel + d3OfQ, {.Project = "Casework"});
     const auto bare = CreateObject<Locus>(m_store.Manager(), "Locus");
     bare->SetLocusTag("No alleles ");
     bare->ProjectName = "Default";
@@ -302,16 +305,18 @@ TEST_F(Import, TableKeepsTheColumnsOfAPanel)
 
 TEST_F(Import, FileReplacesAnotherOnlyWhenComplete)
 {
-    Run(d3);
-    const auto loci = CurrentLoci(m_store.Manager(), "");
+    const auto write = [](std::ostream& out) { out << header << d3; };
     std::ofstream(Path("out.tsv")) << "old";
-    WritePanelFile(Path("out.tsv"), loci->Members());
-    EXPECT_THAT(ReadPanelFile(Path("out.tsv")).Markers, SizeIs(1));
+    EXPECT_THROW(WriteWholeFile(Path("out.tsv"), [](std::ostream&) { throw Cancelled(); }),
+                 Cancelled);
+    EXPECT_EQ(LoadPanelFile(Path("out.tsv")).Text, "old");
+    WriteWholeFile(Path("out.tsv"), write);
+    EXPECT_EQ(LoadPanelFile(Path("out.tsv")).Text, header + d3);
     EXPECT_FALSE(std::filesystem::exists(Path("out.tsv.part")));
-    EXPECT_THROW(WritePanelFile(Path("none/out.tsv"), loci->Members()), Failure);
-    EXPECT_THROW(WritePanelFile("/dev/full", loci->Members()), Failure);
-    EXPECT_THROW(ReadPanelFile(Path("none.tsv")), Failure);
-    EXPECT_THROW(ReadPanelFile(m_directory), Failure);
+    EXPECT_THROW(WriteWholeFile(Path("none/out.tsv"), write), Failure);
+    EXPECT_THROW(WriteWholeFile("/dev/full", write), Failure);
+    EXPECT_THROW(LoadPanelFile(Path("none.tsv")), Failure);
+    EXPECT_THROW(LoadPanelFile(m_directory), Failure);
 }
 
 } // namespace

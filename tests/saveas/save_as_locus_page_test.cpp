@@ -1,6 +1,7 @@
 #include "controls/user.h"
 #include "saveas/save_as_locus_page.h"
 #include "tests/fakes/fake_host.h"
+#include "tests/fakes/form_text.h"
 
 #include <gtest/gtest.h>
 
@@ -102,8 +103,14 @@ TEST_F(SaveAsTest, StoresUnderAnotherTagAndAsksAboutTheSame)
         EXPECT_EQ(SaveLocus->Tag, c.Tag) << c.Typed;
         EXPECT_EQ(Host.Objects.Saved,
                   std::vector<const BusinessObject*>(c.Stored, SaveLocus.get()));
-        EXPECT_EQ(Host.Messages,
-                  std::vector<std::string>(c.Asked, "Do you want to save over existing Locus?"));
+        if (c.Stored > 0)
+        {
+            EXPECT_EQ(Host.Objects.Requests.back(), "Save " + std::string(c.Tag) + " true");
+        }
+        EXPECT_EQ(
+            Host.Messages,
+            std::vector<std::string>(
+                c.Asked, "Save Over Existing Locus|Do you want to save over existing Locus?|52"));
     }
 }
 
@@ -114,7 +121,6 @@ TEST_F(SaveAsTest, ReportsAFailingStoreAndEndsNormally)
     FailAt("Save New");
     Host.Base->Save();
     EXPECT_EQ(Host.Utility.Reports, (Reports{{"m_oPageBase_Save", true}}));
-    EXPECT_EQ(Host.Utility.ClassName, "SaveAsLocusPage");
     EXPECT_EQ(SaveLocus->Tag, "New");
 }
 
@@ -122,6 +128,38 @@ struct Nameless : BusinessObject
 {
     std::string Name() const override { throw Failure(7, "store", "gone"); }
 };
+
+TEST_F(SaveAsTest, DeclaresEachControlAsItIsShown)
+{
+    EXPECT_EQ(Fakes::FormText(Page), Fakes::FormFile("save_as"));
+}
+
+TEST_F(SaveAsTest, EachGuardTellsItsNameAndForm)
+{
+    const auto guards = [&](auto act) { return Host.Utility.GuardsOf(act); };
+    FailAt("Query CurrentLoci Name");
+    EXPECT_EQ(guards([&] { Open(); }), "m_oPageBase_Initialize reporting");
+    EXPECT_EQ(guards([&] { Host.Base->PageChanged(); }), "m_oPageBase_Validate propagating");
+    EXPECT_EQ(guards([&] { Page.txtLocusName.SetText("x"); }),
+              "m_oPageBase_Validate propagating, txtLocusName_Change reporting");
+    EXPECT_EQ(guards([&] { Host.Base->Save(); }), "m_oPageBase_Save reporting");
+    Host.Objects.Before = [](const std::string&) {};
+    Host.Objects.Lists["CurrentLoci"].Objects[2] = std::make_shared<Nameless>();
+    EXPECT_EQ(guards([&] { Open(); }), "LoadLocusNameList reporting");
+    const Connection observer = Page.ControlChanged.Connect([](Control& control) {
+        if (control.Name() == "txtLocusName")
+            throw Failure(1, "test", "no drawing");
+    });
+    EXPECT_EQ(guards([&] { User::Choose(Page.lstLocusNameList, "TPOX"); }),
+              "lstLocusNameList_Click reporting");
+    struct Baseless : Fakes::FakeHost
+    {
+        std::shared_ptr<PageBase> NewPageBase() override { throw Failure(1, "host", "none"); }
+    } baseless;
+    EXPECT_EQ(baseless.Utility.GuardsOf([&] { SaveAsLocusPage page(baseless); }),
+              "UserControl_Initialize terminal");
+    EXPECT_EQ(Host.Utility.Headings, (std::set<std::string>{"Tamrivo|SaveAsLocusPage|"}));
+}
 
 TEST_F(SaveAsTest, GoesOnWithTheTagsReadSoFar)
 {

@@ -63,7 +63,7 @@ TEST_F(EditorLaunch, EveryStoredTagOfAnEditReachesTheGrid)
         EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E"));
         EXPECT_EQ(static_cast<std::size_t>(selector.AllLocusTags()->Count()), 2 + expected.size());
     }
-    EXPECT_EQ(host.Launcher.Started.front(), "LocusEditor -1");
+    EXPECT_EQ(host.Launcher.Started.front(), "LocusEditor - -1 -1 -1 -1 -1 -1 \"\" 0 0");
 }
 
 TEST_F(EditorLaunch, ACompletedEditRewritesTheDateAlone)

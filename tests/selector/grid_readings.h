@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/grid/grid_model.h"
-#include "platform/grid/grid_user.h"
+#include "host/grid/grid_model.h"
+#include "host/grid/grid_user.h"
 #include "selector/str_locus_tag_selector.h"
 
 namespace Tamrivo

@@ -15,11 +15,11 @@ struct SelectorTest : testing::Test
         for (const char* tag : {"A", "B", "C", "D", "E"})
             host.Store(tag);
         Select({5, 4});
-        selector.PopupMenuRequested = [this](Menu& menu, int) {
-            menus.push_back(menu.Name());
+        connections.On(selector.PopupMenuRequested, [this](Menu& menu, int flags) {
+            menus.push_back(menu.Name() + " " + std::to_string(flags));
             if (MenuItem* item = std::exchange(pick, nullptr))
                 User::Click(*item);
-        };
+        });
     }
 
     void Select(std::initializer_list<std::int32_t> tagIDs)
@@ -43,6 +43,7 @@ struct SelectorTest : testing::Test
     User::GridControl& selected = selector.gridSelected;
     std::vector<std::string> menus; ///< Menus that were opened.
     MenuItem* pick = nullptr;       ///< What is picked in the next one.
+    Connections connections;
 };
 
 } // namespace Tamrivo::Fakes

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/grid/grid_model_helper.h"
+#include "host/grid/grid_model_helper.h"
 #include "tests/fakes/fake_host.h"
 #include "tests/selector/grid_readings.h"
 
@@ -64,17 +64,11 @@ public:
 class SelectorHost : public FakeHost
 {
 public:
-    GridHelper& SharedGridHelper() override { return Helper; }
+    GridHelper& SharedGridHelper() override { return *Helper; }
     std::shared_ptr<Gridocx> NewGrid() override { return MakeGrid(); }
     std::shared_ptr<LocusTagEntry> NewLocusTagEntry() override
     {
         return std::make_shared<FakeEntry>(LoadResults, Objects.Lists["CurrentLoci"]);
-    }
-    MessageAnswer ShowMessage(const std::string& text, std::int32_t kind,
-                              const std::string& title) override
-    {
-        Messages.push_back(title + "|" + text + "|" + std::to_string(kind));
-        return MessageAnswer::Ok;
     }
 
     /// Puts a locus into the store under the next number.
@@ -95,7 +89,7 @@ public:
         return Store(std::make_shared<FakeLocus>(), tag);
     }
 
-    GridModelHelper Helper;
+    std::shared_ptr<GridHelper> Helper = std::make_shared<GridModelHelper>();
     std::function<std::shared_ptr<Gridocx>()> MakeGrid = [] {
         return std::make_shared<GridModel>();
     };

@@ -1,3 +1,4 @@
+#include "tests/fakes/form_text.h"
 #include "tests/selector/selector_fixture.h"
 
 namespace Tamrivo::Fakes
@@ -94,10 +95,12 @@ TEST_F(Selector, ButtonsAndMenusMoveTheHighlightOrElseTheCurrentRow)
     Open();
     User::Click(available, 1);
     User::Toggle(available, 3);
+    EXPECT_FALSE(selector.mnuEditAvailable.Enabled());
     pick = &selector.mnuAdd;
     User::RightClick(available, 3);
     EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "A", "C"));
     EXPECT_THAT(HighlightOf(available), ElementsAre(1));
+    EXPECT_TRUE(selector.mnuEditAvailable.Enabled());
     EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
 
     host.SharedGridHelper().SetHighlightedRows(available.Object(), {});
@@ -129,7 +132,7 @@ TEST_F(Selector, TurningToOneGridDropsTheHighlightOfTheOther)
     available->NoticeA(0, 0, nullptr);
     EXPECT_THAT(HighlightOf(selected), IsEmpty());
     EXPECT_EQ(Buttons(), "AddAll RemoveAll NewSTRLocus ");
-    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusSelected"));
+    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusSelected 2"));
 }
 
 TEST_F(Selector, TheHeadersMenuSortsTheGridItWasOpenedOn)
@@ -138,13 +141,14 @@ TEST_F(Selector, TheHeadersMenuSortsTheGridItWasOpenedOn)
     User::Click(selected, 2);
     std::vector<std::int32_t> pointers;
     host.Screen.SetMousePointer(1);
-    host.Screen.MousePointerChanged = [&] { pointers.push_back(host.Screen.MousePointer()); };
+    connections.On(host.Screen.MousePointerChanged,
+                   [&] { pointers.push_back(host.Screen.MousePointer()); });
     pick = &selector.mnuDescending;
     User::RightClick(selected, 0, 2);
     EXPECT_THAT(TagsOf(selected), ElementsAre("E", "D"));
     EXPECT_THAT(TagsOf(available), ElementsAre("A", "B", "C"));
     EXPECT_THAT(HighlightOf(selected), IsEmpty());
-    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusColumn"));
+    EXPECT_THAT(menus, ElementsAre("mnuSTRLocusColumn 2"));
     EXPECT_THAT(pointers, ElementsAre(Pointer::Hourglass, 1));
 }
 
@@ -152,74 +156,10 @@ TEST_F(Selector, WithoutInitializeNothingBreaks)
 {
     EXPECT_THROW(User::Click(selector.mnuAscending), Failure);
     EXPECT_THAT(host.Utility.Reports, ElementsAre(Report{"GridSort", false}));
-    EXPECT_EQ(host.Utility.ClassName, "STRLocusTagSelector");
     host.Launcher.Run = [](ParameterCollection&) { return true; };
     EXPECT_THROW(User::Click(selector.cmdNewSTRLocus), Failure);
     Open();
     EXPECT_THAT(TagsOf(available), ElementsAre("A", "B", "C"));
-}
-
-/// A grid that writes down what the switch of the selector does to it.
-class RecordedGrid : public GridModel
-{
-public:
-    explicit RecordedGrid(std::vector<std::string>& log) : m_log(log) {}
-
-    bool LockUpdate(bool lock) override
-    {
-        Note("lock ", lock);
-        return GridModel::LockUpdate(lock);
-    }
-    void Redraw(std::int32_t value) override
-    {
-        Note("redraw ", value);
-        GridModel::Redraw(value);
-    }
-    void SetReadOnly(bool readOnly) override
-    {
-        Note("read-only ", readOnly);
-        GridModel::SetReadOnly(readOnly);
-    }
-    void SetBackgroundColor(std::int32_t color) override { Note("background ", color); }
-    void SetDisabledState(std::int32_t state) override
-    {
-        Note("state ", state);
-        GridModel::SetDisabledState(state);
-    }
-    void SetStyleRange(const std::shared_ptr<GridRange>& range,
-                       const std::shared_ptr<GridStyle>& style, std::int16_t flags) override
-    {
-        GridModel::SetStyleRange(range, style, flags);
-        Note("text ", TextColor());
-    }
-
-private:
-    void Note(const std::string& what, std::int32_t value)
-    {
-        m_log.push_back(what + std::to_string(value));
-    }
-    std::vector<std::string>& m_log;
-};
-
-TEST_F(Selector, TheSwitchWorksOnBothGridsInItsOrderAndRestoresThem)
-{
-    std::vector<std::string> log;
-    host.MakeGrid = [&] { return std::make_shared<RecordedGrid>(log); };
-    STRLocusTagSelector recorded(host);
-    recorded.Initialize(parameter);
-    recorded.gridSelected->LockUpdate(true);
-    for (const bool enabled : {false, true})
-    {
-        log.clear();
-        recorded.SetEnabled(enabled);
-        const std::string background = enabled ? "background 16777215" : "background -2147483633";
-        const std::string state = enabled ? "state 0" : "state 1";
-        const std::string text = enabled ? "text 0" : "text -2147483631";
-        EXPECT_THAT(log, ElementsAre("lock 0", "lock 0", "read-only 0", "read-only 0", background,
-                                     background, state, state, text, text, "redraw 2", "lock 0",
-                                     "read-only 1", "redraw 2", "lock 1", "read-only 1"));
-        EXPECT_EQ(recorded.strSelected.Enabled(), enabled);
-    }
 }
 
 TEST_F(Selector, DisabledItKeepsThePersonFromEverything)
@@ -248,6 +188,11 @@ TEST_F(Selector, DisabledItKeepsThePersonFromEverything)
     Open();
     EXPECT_FALSE(selector.Enabled());
     EXPECT_TRUE(selector.cmdAddAll.Enabled());
+}
+
+TEST_F(Selector, DeclaresEachControlAsItIsShown)
+{
+    EXPECT_EQ(FormText(selector), FormFile("selector"));
 }
 
 } // namespace

@@ -74,15 +74,15 @@ TEST(Service, GivesTheCurrentLociOfTheMoment)
         return Keys(found);
     };
     EXPECT_TRUE(contexts(1010).empty());
-    std::vector<std::string> requests;
-    host.Objects.Before = [&](const std::string& request) { requests.push_back(request); };
+    host.Objects.Requests.clear();
     host.Objects.AddCurrentLocus("TPOX");
     host.Objects.AddCurrentLocus("FGA");
     host.Objects.AddCurrentLocus("FGA ");
     const std::vector<std::string> tags{"TPOX", "FGA", "FGA "};
     EXPECT_EQ(contexts(1010), tags);
     EXPECT_EQ(contexts(0), tags);
-    EXPECT_EQ(requests, (std::vector<std::string>(2, "Query CurrentLoci ")));
+    EXPECT_EQ(host.Objects.Requests,
+              (std::vector<std::string>(2, "Query CurrentLoci  \"\" 0 true")));
 }
 
 TEST(Service, LeavesFailuresToTheFramework)
@@ -100,9 +100,9 @@ TEST(Service, LeavesFailuresToTheFramework)
     host.Objects.Before = [](const std::string&) { throw Failure(7, "store", "gone"); };
     EXPECT_THROW(access.Service()->GetReportContexts(1010, contexts), Failure);
     EXPECT_TRUE(host.Utility.Reports.empty());
-    EXPECT_THROW(Service another(host), Failure);
-    EXPECT_EQ(host.Utility.Reports, (std::vector<Fakes::Report>{{"Class_Initialize", false}}));
-    EXPECT_EQ(host.Utility.ClassName, "Service");
+    EXPECT_EQ(host.Utility.GuardsOf([&] { Service another(host); }),
+              "Class_Initialize propagating");
+    EXPECT_EQ(host.Utility.Headings, (std::set<std::string>{"Tamrivo|Service|"}));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "platform/store/database.h"
-#include "platform/store/schema.h"
+#include "host/database/database.h"
+#include "host/database/schema.h"
 #include "tests/store/store_fixture.h"
 
 #include <gmock/gmock.h>
@@ -87,14 +87,15 @@ TEST_F(StoreTest, AnOlderStoreIsBroughtForwardInOneStep)
 {
     Store store(Path());
     Save(store, "A");
-    Database& database = store.Connection();
+    Database& database = store.SharedDatabase();
     constexpr std::string_view broken[] = {"CREATE TABLE Extra (A INTEGER)", "NO SQL"};
     constexpr std::string_view good[] = {"CREATE TABLE Extra (A INTEGER)"};
     const auto migrate = [&](SchemaStep step) {
         std::vector<SchemaStep> steps(SchemaSteps.begin(), SchemaSteps.end());
         steps.push_back(step);
-        database.Run("Not migrated",
-                     [&](soci::session& session) { MigrateSchema(database, session, steps); });
+        database.Run("Not migrated", [&](soci::session& session) {
+            MigrateSchema(database, session, steps, [](Database&) {});
+        });
     };
     EXPECT_EQ(FailureOf([&] { migrate(broken); }).Number, StoreError::Database);
     migrate(good);
@@ -107,7 +108,7 @@ TEST_F(StoreTest, ALockedStoreIsWaitedForFiveSeconds)
 {
     Store store(Path());
     Store other(Path());
-    auto held = std::make_unique<Transaction>(other.Connection());
+    auto held = std::make_unique<Transaction>(other.SharedDatabase());
     const auto start = std::chrono::steady_clock::now();
     const ErrorRecord error = FailureOf([&] { Save(store, "A"); });
     const std::chrono::duration<double> waited = std::chrono::steady_clock::now() - start;
@@ -139,7 +140,7 @@ TEST_F(StoreTest, AFullDiskLosesNothing)
 {
     Store store(Path());
     Save(store, "A");
-    store.Connection().Run("", [](soci::session& session) {
+    store.SharedDatabase().Run("", [](soci::session& session) {
         int pages = 0;
         session << "PRAGMA page_count", soci::into(pages);
         session << "PRAGMA max_page_count = " << pages + 1, soci::into(pages);

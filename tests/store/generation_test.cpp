@@ -1,6 +1,6 @@
 #include "core/error.h"
-#include "platform/store/allele_generation.h"
-#include "platform/store/start_at.h"
+#include "host/loci/allele_generation.h"
+#include "host/loci/start_at.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/parameters/parameter_store.h"
+#include "host/store/parameter_store.h"
 #include "tests/store/store_fixture.h"
 
 #include <gmock/gmock.h>
@@ -32,7 +32,7 @@ protected:
         return tags;
     }
 
-    Store m_store{Path()};
+    Store m_store{OnServer() ? Address() : Path()};
     ParameterStore m_parameters{m_store};
 };
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "contracts/allele.h"
-#include "platform/store/store.h"
+#include "host/store/store.h"
+#include "tests/server/scratch_server.h"
 
 #include <gtest/gtest.h>
 
@@ -42,6 +43,20 @@ protected:
 
     std::string Path(const std::string& name = "store.sqlite") const { return m_directory / name; }
 
+    /// Whether the stores of the tests stand on a server.
+    static bool OnServer()
+    {
+        const char* backEnd = std::getenv("TAMRIVO_TEST_BACKEND");
+        return backEnd && std::string(backEnd) == "postgresql";
+    }
+
+    /// Where a new store is, on the back end that is tested.
+    std::string Address()
+    {
+        return OnServer() ? ScratchServer::Get().NewDatabase()
+                          : Path("store" + std::to_string(++m_stores) + ".sqlite");
+    }
+
     static std::shared_ptr<Locus> NewLocus(Store& store, const std::string& tag,
                                            const std::vector<std::string>& alleles = {})
     {
@@ -79,6 +94,7 @@ protected:
 
 private:
     std::filesystem::path m_directory;
+    int m_stores = 0;
 };
 
 } // namespace Tamrivo::Testing

@@ -59,7 +59,7 @@ TEST_F(StoreTest, EveryValueComesBackFromAFileOpenedAnew)
 
 TEST_F(StoreTest, TagsAreUniqueApartFromCaseAndTrailingBlanksButForTheEmptyOne)
 {
-    Store store(Path());
+    Store store(Address());
     Save(store, "St\xC3\xA4mme");
     Save(store, "");
     Save(store, "  ");
@@ -79,8 +79,9 @@ TEST_F(StoreTest, TagsAreUniqueApartFromCaseAndTrailingBlanksButForTheEmptyOne)
 
 TEST_F(StoreTest, ASaveOverSomeoneElsesChangeIsRefused)
 {
-    Store mine(Path());
-    Store theirs(Path());
+    const std::string address = Address();
+    Store mine(address);
+    Store theirs(address);
     Save(mine, "A", {"1"});
     const auto myLocus = mine.FindLocus("A");
     myLocus->Alleles();
@@ -109,7 +110,7 @@ TEST_F(StoreTest, ASaveOverSomeoneElsesChangeIsRefused)
 
 TEST_F(StoreTest, AllelesThatWereNotLoadedAreKept)
 {
-    Store store(Path());
+    Store store(Address());
     const auto saved = Save(store, "A", {"1", "2"});
     const auto found = store.FindLocus("A");
     found->SetLocusTag("B");
@@ -126,7 +127,7 @@ TEST_F(StoreTest, AllelesThatWereNotLoadedAreKept)
 
 TEST_F(StoreTest, AQueryIsASnapshotOfCurrentLoci)
 {
-    Store store(Path());
+    Store store(Address());
     Save(store, "b");
     Save(store, "A");
     const auto hidden = NewLocus(store, "C");
@@ -149,7 +150,7 @@ TEST_F(StoreTest, AQueryIsASnapshotOfCurrentLoci)
 
 TEST_F(StoreTest, ACloneIsANewLocusWithAllelesOfItsOwn)
 {
-    Store store(Path());
+    Store store(Address());
     Save(store, "A", {"1"});
     const auto source = store.FindLocus("A");
     source->FragEnd = 321;
@@ -165,7 +166,7 @@ TEST_F(StoreTest, ACloneIsANewLocusWithAllelesOfItsOwn)
 
 TEST_F(StoreTest, ATransactionHappensWholeOrNotAtAll)
 {
-    Store store(Path());
+    Store store(Address());
     const auto hasLocus = [&](const char* tag) { return store.FindLocus(tag) != nullptr; };
     {
         auto transaction = store.Begin();
@@ -187,7 +188,7 @@ TEST_F(StoreTest, ATransactionHappensWholeOrNotAtAll)
 
 TEST_F(StoreTest, ProjectsAreFoundByNameOrMade)
 {
-    Store store(Path());
+    Store store(Address());
     const auto project = store.ProjectNamed("Panel 1");
     EXPECT_EQ(store.ProjectNamed("PANEL 1 ")->ProjectID(), project->ProjectID());
     EXPECT_EQ(store.FindProject("Panel 2"), nullptr);
@@ -197,7 +198,7 @@ TEST_F(StoreTest, ProjectsAreFoundByNameOrMade)
 
 TEST_F(StoreTest, AListFollowsItsMembersTags)
 {
-    Store store(Path());
+    Store store(Address());
     const auto first = NewLocus(store, "Same");
     const auto second = NewLocus(store, "same  ");
     const auto other = NewLocus(store, "Other");

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/event.h"
+
+#include <QElapsedTimer>
+#include <QProgressDialog>
+
+namespace Tamrivo
+{
+
+class Store;
+
+/// Work that may take its time, on the store or of the library on what it has read: guards let pass
+/// what ends it. While it lives the pointer says so, and after half a second a dialog shows how far
+/// the work is and lets the person cancel it.
+class LongWork
+{
+public:
+    /// Watches the store, which must outlive it.
+    /// @param what what the person is told, such as "Reading the loci..."
+    LongWork(Store& store, const QString& what, QWidget* parent);
+    LongWork(const LongWork&) = delete;
+    LongWork& operator=(const LongWork&) = delete;
+    ~LongWork();
+
+    /// Shows how much is done. Raises `Cancelled` once the person has cancelled.
+    void Show(std::size_t done, std::size_t total);
+
+private:
+    /// Lets the person see that the work goes on, and cancel it: raises `Cancelled`.
+    void GoOn();
+
+    QProgressDialog m_dialog;
+    QElapsedTimer m_sinceShown;
+    Connection m_progress;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/panels/import_plan.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+
+namespace Tamrivo
+{
+
+/// What a person says about an import besides its panels and its project: which set of bins is
+/// taken, whether missing dyes are added and whether loci that differ are updated. Only what
+/// matters for the files is shown.
+class ImportOptions : public QWidget
+{
+public:
+    explicit ImportOptions(QWidget* parent);
+
+    /// Offers these sets of bins, the first one chosen.
+    void OfferBinSets(const std::vector<std::string>& names);
+    /// The chosen set of bins; empty where there is none to choose.
+    std::string BinSet() const;
+
+    bool AddDyes() const;
+    bool Update() const;
+    /// Shows what could be done about loci that can't come in, and what has been chosen.
+    void ShowPlan(const ImportPlan& plan);
+
+    std::function<void()> onBinSet; ///< Another set of bins has been chosen.
+    std::function<void()> onPlan;   ///< Dyes or updates have been ticked, or no longer.
+
+private:
+    QLabel* m_binsCaption;
+    QComboBox* m_bins;
+    QCheckBox* m_addDyes;
+    QCheckBox* m_update;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,79 @@
+#include "desktop/import/import_words.h"
+
+#include "desktop/common/text.h"
+#include "host/loci/counts.h"
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+QString Sentence(const std::string& start, const QString& end)
+{
+    return ToQString(start) + end;
+}
+
+} // namespace
+
+QStringList ReasonsAgainst(const std::vector<PanelComplaint>& complaints, const ImportPlan& plan)
+{
+    constexpr qsizetype mostReasons = 500;
+    QStringList reasons;
+    for (const PanelComplaint& complaint : complaints)
+        reasons.append(ToQString(complaint.Text()));
+    if (complaints.size() >= MaxPanelComplaints)
+        reasons.append("The rest of the table has not been read.");
+    qsizetype further = 0;
+    for (const PlannedLocus& locus : plan.Loci)
+    {
+        for (const std::string& obstacle : locus.Obstacles)
+        {
+            if (reasons.size() < mostReasons)
+                reasons.append(ToQString(locus.Place() + ": " + obstacle + "."));
+            else
+                ++further;
+        }
+    }
+    if (further > 0)
+        reasons.append(QString("And %1 more; each stands at its marker above.").arg(further));
+    return reasons;
+}
+
+QString OutlookOf(const ImportPlan& plan)
+{
+    QStringList sentences;
+    if (const std::size_t added = plan.Count(ImportFate::New); added > 0)
+        sentences.append(Sentence(CountOfLoci(added) + " with " + CountOfAlleles(plan.NewAlleles()),
+                                  added == 1 ? " comes in." : " come in."));
+    if (const std::size_t present = plan.Count(ImportFate::Present); present > 0)
+        sentences.append(Sentence("The store has " + CountOfLoci(present),
+                                  " already, and they stay as they are."));
+    if (const std::size_t changed = plan.Count(ImportFate::Changed); changed > 0)
+        sentences.append(
+            Sentence(CountOfLoci(changed), changed == 1 ? " is updated." : " are updated."));
+    if (const std::size_t leftOut = plan.Count(ImportFate::LeftOut); leftOut > 0)
+        sentences.append(Sentence(CountOfLoci(leftOut), " can't come in."));
+    return sentences.join(' ');
+}
+
+QString OfferToLeaveOut(const ImportPlan& plan)
+{
+    return Sentence("Leave out the " + CountOfLoci(plan.Count(ImportFate::LeftOut)) +
+                        " that can't come in, ",
+                    "and import the &rest");
+}
+
+QString ResultOf(const ImportPlan& plan)
+{
+    QString result = Sentence("Imported " + CountOfLoci(plan.Count(ImportFate::New)) + " with " +
+                                  CountOfAlleles(plan.NewAlleles()),
+                              ".");
+    if (const std::size_t changed = plan.Count(ImportFate::Changed); changed > 0)
+        result += Sentence(" Updated " + CountOfLoci(changed), ".");
+    if (const std::size_t leftOut = plan.Count(ImportFate::LeftOut); leftOut > 0)
+        result += Sentence(" Left out " + CountOfLoci(leftOut), ".");
+    return result;
+}
+
+} // namespace Tamrivo

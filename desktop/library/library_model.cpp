@@ -1,0 +1,192 @@
+#include "desktop/library/library_model.h"
+
+#include "desktop/common/dye_shade.h"
+#include "desktop/common/text.h"
+#include "desktop/library/library_columns.h"
+#include "host/grid/sort_key.h"
+
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// Of each locus its place among all when they stand in the order of their tags.
+std::vector<std::uint32_t> RanksByTag(const std::vector<LibraryLocus>& loci)
+{
+    std::vector<std::pair<std::string, std::uint32_t>> order;
+    order.reserve(loci.size());
+    for (const LibraryLocus& locus : loci)
+        order.emplace_back(SortKey(ColumnKind::Tags, locus.Tag, false),
+                           static_cast<std::uint32_t>(order.size()));
+    std::ranges::sort(order);
+    std::vector<std::uint32_t> ranks(loci.size());
+    for (std::uint32_t rank = 0; rank < order.size(); ++rank)
+        ranks[order[rank].second] = rank;
+    return ranks;
+}
+
+} // namespace
+
+void LibraryModel::SetLibrary(const Library* library)
+{
+    beginResetModel();
+    m_library = library;
+    m_rows.clear();
+    m_ranks = library == nullptr ? std::vector<std::uint32_t>() : RanksByTag(library->Loci());
+    endResetModel();
+}
+
+void LibraryModel::Show(std::vector<std::uint32_t> positions)
+{
+    beginResetModel();
+    m_rows = std::move(positions);
+    SortRows();
+    endResetModel();
+}
+
+const LibraryLocus& LibraryModel::LocusAt(int row) const
+{
+    return m_library->Loci()[m_rows[static_cast<std::size_t>(row)]];
+}
+
+std::vector<std::string> LibraryModel::TagsAt(const std::vector<int>& rows) const
+{
+    std::vector<std::string> tags;
+    for (const int row : rows)
+        tags.push_back(LocusAt(row).Tag);
+    return tags;
+}
+
+void LibraryModel::SetTicks(std::optional<std::unordered_set<std::int32_t>> ticks)
+{
+    m_ticks = std::move(ticks);
+    if (!m_rows.empty())
+        emit dataChanged(index(0, TagColumn), index(rowCount() - 1, TagColumn));
+}
+
+int LibraryModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int LibraryModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(LibraryColumns().size());
+}
+
+QVariant LibraryModel::data(const QModelIndex& index, int role) const
+{
+    const LibraryColumn& column = LibraryColumns()[static_cast<std::size_t>(index.column())];
+    const LibraryLocus& locus = LocusAt(index.row());
+    switch (role)
+    {
+    case Qt::DisplayRole: return column.Text(*m_library, locus);
+    case Qt::ToolTipRole:
+        return index.column() == DyeColumn
+                   ? QVariant(ToQString(m_library->LabDyes().TitleOf(locus.DyeIndex)))
+                   : QVariant(column.Text(*m_library, locus));
+    case Qt::TextAlignmentRole:
+        return QVariant((column.IsNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case Qt::DecorationRole:
+        if (index.column() == DyeColumn)
+            return DyeShade(m_library->LabDyes(), locus.DyeIndex, QGuiApplication::palette());
+        return {};
+    case Qt::CheckStateRole:
+        if (index.column() == TagColumn && m_ticks)
+            return m_ticks->contains(locus.LocusID) ? Qt::Checked : Qt::Unchecked;
+        return {};
+    default: return {};
+    }
+}
+
+QVariant LibraryModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    const LibraryColumn& column = LibraryColumns()[static_cast<std::size_t>(section)];
+    switch (role)
+    {
+    case Qt::DisplayRole: return QString(column.Title);
+    case Qt::ToolTipRole: return QString(column.Tip);
+    case Qt::TextAlignmentRole:
+        return QVariant((column.IsNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    default: return {};
+    }
+}
+
+Qt::ItemFlags LibraryModel::flags(const QModelIndex& index) const
+{
+    Qt::ItemFlags flags =
+        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    if (index.column() == TagColumn && m_ticks)
+        flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+bool LibraryModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::CheckStateRole || !m_ticks || !onTicked)
+        return false;
+    onTicked(LocusAt(index.row()).Tag, value.toInt() == Qt::Checked);
+    return true;
+}
+
+void LibraryModel::sort(int column, Qt::SortOrder order)
+{
+    m_column = column;
+    m_order = order;
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    std::vector<std::uint32_t> positions;
+    for (const QModelIndex& index : before)
+        positions.push_back(m_rows[static_cast<std::size_t>(index.row())]);
+    SortRows();
+    std::vector<int> rowOf(m_ranks.size());
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        rowOf[m_rows[row]] = static_cast<int>(row);
+    QModelIndexList after;
+    for (qsizetype at = 0; at < before.size(); ++at)
+        after += index(rowOf[positions[static_cast<std::size_t>(at)]], before[at].column());
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+void LibraryModel::SortRows()
+{
+    if (m_rows.empty() || m_column < 0)
+        return;
+    const auto compare = LibraryColumns()[static_cast<std::size_t>(m_column)].Compare;
+    const auto isLess = [&](std::uint32_t left, std::uint32_t right) {
+        const int order = compare == nullptr ? 0
+                                             : compare(*m_library, m_library->Loci()[left],
+                                                       m_library->Loci()[right]);
+        return order != 0 ? order < 0 : m_ranks[left] < m_ranks[right];
+    };
+    if (m_order == Qt::AscendingOrder)
+        std::ranges::sort(m_rows, isLess);
+    else
+        std::ranges::sort(m_rows, [&](auto left, auto right) { return isLess(right, left); });
+}
+
+QMimeData* LibraryModel::mimeData(const QModelIndexList& indexes) const
+{
+    std::set<int> rows;
+    for (const QModelIndex& index : indexes)
+        rows.insert(index.row());
+    QByteArray tags;
+    for (const int row : rows)
+        tags += QByteArray::fromStdString(LocusAt(row).Tag) + '\n';
+    auto* data = new QMimeData;
+    data->setData(TagsType, tags);
+    return data;
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,278 @@
+#include "desktop/library/library_view.h"
+
+#include "desktop/common/actions.h"
+#include "desktop/common/icons.h"
+#include "desktop/common/long_work.h"
+#include "desktop/common/text.h"
+#include "desktop/lanes/locus_overlaps.h"
+#include "desktop/library/library_columns.h"
+#include "desktop/library/library_model.h"
+#include "desktop/library/library_table.h"
+#include "host/library/search.h"
+#include "host/loci/keys.h"
+#include "host/store/store.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr const char* splitterKey = "library/splitter";
+
+/// Dark on a pale yellow: readable in light and dark themes alike.
+QPalette ErrorPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(255, 243, 196));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    return palette;
+}
+
+} // namespace
+
+LibraryView::LibraryView(const Actions& actions, QWidget* parent)
+    : QWidget(parent),
+      m_actions(actions),
+      m_search(new QLineEdit(this)),
+      m_errors(new QLabel(this)),
+      m_splitter(new QSplitter(Qt::Vertical, this)),
+      m_model(new LibraryModel(this)),
+      m_table(new LibraryTable(m_splitter)),
+      m_preview(new LocusPreview(actions, m_splitter))
+{
+    m_search->setObjectName("search");
+    m_search->setAccessibleName("Search");
+    m_search->setClearButtonEnabled(true);
+    m_search->setPlaceholderText("Search, such as: TH01   dye:blue   panel:H24   range:100-200   "
+                                 "allele:9.3   used:no");
+    m_search->addAction(ThemeIcon("edit-find"), QLineEdit::LeadingPosition);
+    m_errors->setObjectName("searchErrors");
+    m_errors->setAccessibleName("What is wrong with the search");
+    m_errors->setTextFormat(Qt::PlainText);
+    m_errors->setWordWrap(true);
+    m_errors->setMargin(fontMetrics().averageCharWidth() / 2);
+    m_errors->setAutoFillBackground(true);
+    m_errors->setPalette(ErrorPalette());
+    m_errors->hide();
+    m_table->setModel(m_model);
+    m_splitter->setStretchFactor(0, 3);
+    m_splitter->setStretchFactor(1, 2);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->restoreState(QSettings().value(splitterKey).toByteArray());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_search);
+    layout->addWidget(m_errors);
+    layout->addWidget(m_splitter, 1);
+
+    m_chosenChanged.setSingleShot(true);
+    m_chosenChanged.setInterval(0);
+    connect(&m_chosenChanged, &QTimer::timeout, this, [this] {
+        ShowPreview();
+        if (onChosen)
+            onChosen();
+    });
+    connect(m_search, &QLineEdit::textChanged, this,
+            [this] { m_actions.Run([this] { Filter(); }); });
+    connect(m_search, &QLineEdit::returnPressed, m_table, [this] {
+        m_table->setFocus();
+        if (m_table->ChosenRows().empty() && m_model->rowCount() > 0)
+            m_table->ChooseRows({0});
+    });
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { m_chosenChanged.start(); });
+    m_model->onTicked = [this](const std::string& tag, bool isTicked) {
+        if (onTicked)
+            onTicked(tag, isTicked);
+    };
+}
+
+LibraryView::~LibraryView()
+{
+    QSettings().setValue(splitterKey, m_splitter->saveState());
+}
+
+void LibraryView::SetStore(Store* store)
+{
+    m_store = store;
+    m_model->SetLibrary(nullptr);
+    m_library.reset();
+    m_preview->Show({});
+}
+
+void LibraryView::Read()
+{
+    std::unordered_set<std::int32_t> chosen;
+    for (const int row : m_table->ChosenRows())
+        chosen.insert(m_model->LocusAt(row).LocusID);
+    const LongWork work(*m_store, "Reading the loci...", this);
+    auto library = std::make_unique<Library>(*m_store);
+    m_model->SetLibrary(library.get());
+    m_library = std::move(library);
+    Filter();
+    ChooseNumbers(chosen);
+}
+
+void LibraryView::Filter()
+{
+    if (!m_library)
+        return;
+    std::unordered_set<std::int32_t> chosen;
+    for (const int row : m_table->ChosenRows())
+        chosen.insert(m_model->LocusAt(row).LocusID);
+    const SearchResult found = Search(*m_library, FromQString(m_search->text()));
+    QStringList errors;
+    for (const std::string& error : found.Errors)
+        errors += ToQString(error);
+    m_errors->setText(errors.join('\n'));
+    m_errors->setVisible(!errors.isEmpty());
+    const auto ofGroup = LociOf(*m_library, m_group, m_selected);
+    std::vector<std::uint32_t> shown;
+    std::ranges::set_intersection(ofGroup, found.Loci, std::back_inserter(shown));
+    m_model->Show(std::move(shown));
+    ChooseNumbers(chosen);
+    m_chosenChanged.start();
+}
+
+void LibraryView::ShowGroup(const LocusGroup& group)
+{
+    m_group = group;
+    if (group.What == LocusGroup::Kind::Search)
+        m_search->setText(group.Name);
+    Filter();
+}
+
+void LibraryView::SetSelected(std::optional<std::unordered_set<std::int32_t>> selected)
+{
+    m_selected = selected;
+    m_model->SetTicks(std::move(selected));
+    m_chosenChanged.start();
+}
+
+std::vector<std::string> LibraryView::ChosenTags() const
+{
+    return m_model->TagsAt(m_table->ChosenRows());
+}
+
+std::size_t LibraryView::ChosenCount() const
+{
+    return m_table->ChosenRows().size();
+}
+
+std::size_t LibraryView::ShownCount() const
+{
+    return m_model->Positions().size();
+}
+
+void LibraryView::ChooseTags(const std::vector<std::string>& tags)
+{
+    std::unordered_set<std::string> keys;
+    for (const std::string& tag : tags)
+        keys.insert(LookupKey(tag));
+    std::unordered_set<std::int32_t> numbers;
+    for (const std::uint32_t position : m_model->Positions())
+    {
+        const LibraryLocus& locus = m_library->Loci()[position];
+        if (keys.contains(LookupKey(locus.Tag)))
+            numbers.insert(locus.LocusID);
+    }
+    ChooseNumbers(numbers);
+}
+
+void LibraryView::ChooseNumbers(const std::unordered_set<std::int32_t>& numbers)
+{
+    std::vector<int> rows;
+    if (!numbers.empty())
+    {
+        for (int row = 0; row < m_model->rowCount(); ++row)
+        {
+            if (numbers.contains(m_model->LocusAt(row).LocusID))
+                rows.push_back(row);
+        }
+    }
+    m_table->ChooseRows(rows);
+}
+
+void LibraryView::CopyChosen() const
+{
+    QString text;
+    const auto columns = LibraryColumns();
+    std::vector<int> shown;
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column)
+    {
+        if (!m_table->isColumnHidden(column))
+            shown.push_back(column);
+    }
+    const auto addLine = [&](auto&& textOf) {
+        QStringList cells;
+        for (const int column : shown)
+            cells += textOf(column);
+        text += cells.join('\t') + '\n';
+    };
+    addLine([&](int column) { return QString(columns[static_cast<std::size_t>(column)].Title); });
+    for (const int row : m_table->ChosenRows())
+        addLine([&](int column) { return m_model->index(row, column).data().toString(); });
+    QApplication::clipboard()->setText(text);
+}
+
+QString LibraryView::SearchText() const
+{
+    return m_search->text();
+}
+
+void LibraryView::SetSearch(const QString& search)
+{
+    m_search->setText(search);
+}
+
+void LibraryView::FocusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+void LibraryView::ShowPreview()
+{
+    if (!m_library)
+        return m_preview->Show({});
+    LocusPreview::Content content;
+    const auto rows = m_table->ChosenRows();
+    content.Count = rows.size();
+    content.LabDyes = m_library->LabDyes();
+    content.Load = [this](std::size_t chosen) {
+        return m_store->FindLocus(ChosenTags().at(chosen));
+    };
+    content.Lanes = [this] {
+        std::vector<LaneLocus> lanes;
+        const auto add = [&](const LibraryLocus& locus) {
+            lanes.push_back({locus.Tag, locus.DyeIndex, locus.FragStart, locus.FragEnd});
+        };
+        const auto chosen = m_table->ChosenRows();
+        if (chosen.size() > 1)
+        {
+            for (const int row : chosen)
+                add(m_model->LocusAt(row));
+        }
+        else
+        {
+            for (const std::uint32_t position : m_model->Positions())
+                add(m_library->Loci()[position]);
+        }
+        return lanes;
+    };
+    m_preview->Show(std::move(content));
+}
+
+} // namespace Tamrivo

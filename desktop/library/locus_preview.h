@@ -1,0 +1,67 @@
+#pragma once
+
+#include "contracts/locus.h"
+#include "host/loci/dyes.h"
+
+#include <QTabWidget>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QLabel;
+class QStackedWidget;
+class QTableWidget;
+
+namespace Tamrivo
+{
+
+struct LaneLocus;
+class Actions;
+class AllelePicture;
+class Comparison;
+class LocusLanes;
+
+/// What there is to see of the chosen loci, a tab each. Only the tab on show is filled.
+class LocusPreview : public QTabWidget
+{
+public:
+    enum Tab
+    {
+        Alleles,
+        Lanes,
+        Details,
+        Compare,
+    };
+
+    LocusPreview(const Actions& actions, QWidget* parent);
+
+    /// What is chosen. The functions are called when a tab needs them, which may be never.
+    struct Content
+    {
+        std::size_t Count = 0; ///< Chosen loci.
+        std::function<std::shared_ptr<Locus>(std::size_t chosen)> Load;
+        std::function<std::vector<LaneLocus>()> Lanes; ///< Of all chosen, or of all on show.
+        Tamrivo::Dyes LabDyes;
+    };
+    void Show(Content content);
+
+    LocusLanes& Picture() const { return *m_lanes; }
+
+private:
+    void ShowTab();
+    void ShowAlleles();
+    void ShowDetails();
+    void ShowComparison();
+
+    const Actions& m_actions;
+    Content m_content;
+    QLabel* m_heading;
+    AllelePicture* m_alleles;
+    LocusLanes* m_lanes;
+    QTableWidget* m_details;
+    Comparison* m_comparison;
+    QStackedWidget* m_comparePages;
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/panels/allele_update.h"
+#include "host/panels/marker_fields.h"
+#include "host/panels/panel_files.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace Tamrivo::Fuzz
+{
+
+/// Reads files of a format and does with their markers what a plan does with them.
+inline void ReadAll(std::span<const PanelText> files, PanelFormat format)
+{
+    PanelReading reading = ReadPanels(files, {.Format = format});
+    for (const PanelComplaint& complaint : reading.Complaints)
+        complaint.Text();
+    for (const PanelMarker& marker : reading.Markers)
+    {
+        LocusFields fields;
+        ApplyMarker(marker, {}, true, fields);
+        UpdateAlleles(marker.Alleles, marker);
+    }
+}
+
+inline std::string Text(const std::uint8_t* data, std::size_t size)
+{
+    return {reinterpret_cast<const char*>(data), size};
+}
+
+} // namespace Tamrivo::Fuzz

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "host/checks/check_rules.h"
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// What a check looks at.
+struct CheckSource
+{
+    struct Group
+    {
+        std::string Name;
+        std::vector<std::size_t> Loci; ///< Numbers of the loci, from 0.
+        std::vector<std::int32_t> MissingTagIDs;
+    };
+
+    std::size_t Count = 0; ///< Of the loci.
+    /// The locus with a number; asked for once, in their order. May raise failures of the store.
+    std::function<CheckedLocus(std::size_t)> Locus;
+    std::vector<Group> Groups;
+    /// Whether findings about a locus are wanted, or it is only looked at beside others. Empty: all
+    /// are wanted.
+    std::vector<bool> IsWanted;
+};
+
+/// A check that is made in steps, so that others can have their turn in between.
+class CheckRun
+{
+public:
+    CheckRun(CheckSource source, const ChosenRules& rules);
+    CheckRun(const CheckRun&) = delete;
+    CheckRun& operator=(const CheckRun&) = delete;
+
+    /// Checks one more locus or group. False: there is none left, and the findings are in order.
+    /// Raises what reading the locus raises.
+    bool Step();
+    /// Loci and groups that have been checked, and how many there are.
+    std::size_t Done() const { return m_done; }
+    std::size_t Total() const { return m_source.Count + m_source.Groups.size(); }
+
+    /// By locus in the source's order, and by rule; what no locus has comes last.
+    const std::vector<Finding>& Found() const { return m_found; }
+
+private:
+    void CheckNextLocus();
+    void CheckNextGroup(const CheckSource::Group& group);
+    bool IsWanted(std::size_t locus) const;
+    void Finish();
+
+    CheckSource m_source;
+    ChosenRules m_rules;
+    std::deque<CheckedLocus> m_loci; ///< Groups point into it.
+    std::size_t m_done = 0;
+    std::vector<Finding> m_found;
+};
+
+/// Errors among the findings.
+std::size_t CountOfErrors(const std::vector<Finding>& found);
+
+/// "2 errors and 1 warning", "no errors".
+std::string CountOfFindings(const std::vector<Finding>& found);
+
+} // namespace Tamrivo

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <soci/soci.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// Where the values of a row's columns go, in the order of the columns.
+using RowTargets = std::vector<std::variant<std::int32_t*, long long*, double*, std::string*>>;
+
+/// What differs between the databases that a store may stand on. All else is portable SQL.
+class Backend
+{
+public:
+    virtual ~Backend() = default;
+
+    /// "sqlite" or "postgresql".
+    virtual std::string_view Dialect() const = 0;
+    virtual void Connect(soci::session& session) = 0;
+    virtual bool IsReadOnly(soci::session& session) = 0;
+    /// Connects anew if the connection was found lost and the server answers again. Gives whether
+    /// it has.
+    virtual bool Reconnect(soci::session&) { return false; }
+    /// Goes up when a lost connection was made anew, whose prepared statements are gone.
+    virtual int ConnectionNumber() const { return 0; }
+    /// Whom the server takes the connection for; empty without a server.
+    virtual std::string ServerUser(soci::session&) { return {}; }
+    /// Whether the connection still leads to the store that stands at its address.
+    virtual bool IsReachable(soci::session& session) = 0;
+    /// Begins a transaction that is going to write.
+    virtual void Begin(soci::session& session) = 0;
+    /// Ends it. When the connection was lost at that moment, `witness`, a query that counts what
+    /// only this transaction has written, tells whether it was stored. Raises `StoreError::Unknown`
+    /// when that can't be found out.
+    virtual void Commit(soci::session& session, const std::string& witness) = 0;
+    /// Lets one connection after the other change the tables themselves, to the end of the
+    /// transaction.
+    virtual void ReserveSchema(soci::session&) {}
+    /// Keeps other connections from writing seals to the end of the transaction. False when one is
+    /// at it.
+    virtual bool TryReserveSeals(soci::session&) { return true; }
+    /// What a SELECT ends with that keeps its rows from being changed by others.
+    virtual std::string_view RowLock() const { return ""; }
+    /// Whether rows are best written many at once, as an array of JSON objects, since every
+    /// statement is a way to the server and back.
+    virtual bool WritesManyRows() const { return false; }
+    /// A number that no object of this store has had before. Only inside a transaction.
+    virtual std::int32_t NextNumber(soci::session& session) = 0;
+    /// The `StoreError` that a failed statement amounts to.
+    virtual std::int32_t ErrorNumberOf(const soci::soci_error& error) const = 0;
+    /// Whether work that failed so, and that was taken back, may succeed when it is done again.
+    virtual bool MayTryAgain(const soci::soci_error&) const { return false; }
+
+    /// Makes each row that the statement fetches go to the targets.
+    virtual void BindInto(soci::statement& statement, const RowTargets& targets) const;
+};
+
+/// How long a statement waits for a lock that another program holds.
+inline constexpr int LockTimeoutSeconds = 5;
+
+/// Raises `StoreError::Unreachable` for a server of a version that is too old.
+/// @param version as the server gives it: 150003 is 15.3
+void RequireServerVersion(int version);
+
+/// The back end for an address, not connected yet.
+std::unique_ptr<Backend> BackendFor(const std::string& address);
+
+std::unique_ptr<Backend> MakeSqliteBackend(const std::string& path);
+std::unique_ptr<Backend> MakePostgresqlBackend(const std::string& address);
+
+} // namespace Tamrivo

@@ -1,0 +1,186 @@
+#include "host/database/database.h"
+
+#include "host/database/address.h"
+#include "host/database/schema.h"
+
+#include <algorithm>
+#include <iterator>
+#include <regex>
+#include <thread>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// Why a statement failed, in words that follow the store's address, and what to do about it.
+struct Reason
+{
+    std::int32_t Number;
+    std::string_view Text;
+    bool IsExplained; ///< The database's own words tell more.
+    std::string_view Advice;
+};
+
+constexpr Reason Reasons[] = {
+    {StoreError::Unreachable, "can't be reached", true,
+     "Check that it is there and that you may open it"},
+    {StoreError::Unknown, "was lost while the change was being stored, and can't be reached", true,
+     "Whether the change was stored isn't known. Save again once the store is there: that finds "
+     "out "
+     "first, and stores nothing twice"},
+    {StoreError::Locked, "has been locked by another program for more than five seconds", false,
+     "Try again when that has finished"},
+    {StoreError::ReadOnly, "is read-only", false, "Make it writable, or work on a copy"},
+    {StoreError::DiskFull, "has no room left on its disk", false, "Make room and try again"},
+    {StoreError::NotAStore, "is no store of this program, or is damaged", false,
+     "Choose another one, or take it from a copy"},
+    {StoreError::NameTaken,
+     "already has another one of that name, apart from case and trailing blanks", false,
+     "Choose another name"},
+    {StoreError::Database, "refused a statement", true, "What was stored before is unharmed"},
+};
+
+const Reason& ReasonOf(std::int32_t number)
+{
+    const auto* found = std::ranges::find(Reasons, number, &Reason::Number);
+    return found == std::end(Reasons) ? *std::prev(found) : *found;
+}
+
+/// What the database says, on one line and without the words that SOCI puts in front.
+std::string OwnWords(const std::string& message)
+{
+    static const std::regex noise("^(Cannot establish connection to the database\\.)?\\s+|\\s+$");
+    static const std::regex breaks("\\s+");
+    return std::regex_replace(std::regex_replace(message, noise, ""), breaks, " ");
+}
+
+} // namespace
+
+Database::Database(const std::string& address, const std::function<void(Database&)>& complete)
+    : Notes(NotesOfThisProcess()),
+      m_name(AddressWithoutPassword(address)),
+      m_backend(BackendFor(address))
+{
+    const std::string consequence = "Nothing was opened";
+    try
+    {
+        m_backend->Connect(m_session);
+        m_readOnly = m_backend->IsReadOnly(m_session);
+        m_serverUser = m_backend->ServerUser(m_session);
+    }
+    catch (const soci::soci_error& error)
+    {
+        const std::int32_t number = m_backend->ErrorNumberOf(error);
+        RaiseFailure(consequence, number == StoreError::Database ? StoreError::Unreachable : number,
+                     error.get_error_message());
+    }
+    Run(consequence,
+        [&](soci::session& session) { MigrateSchema(*this, session, SchemaSteps, complete); });
+}
+
+bool Database::Testifies(const std::string& witness)
+{
+    return Run("It isn't known yet whether a change was stored", [&](soci::session& session) {
+        int count = 0;
+        session << witness, soci::into(count);
+        return count > 0;
+    });
+}
+
+void Database::Begin()
+{
+    if (m_depth == 0)
+    {
+        m_backend->Begin(m_session);
+        m_undone = false;
+        m_witness.clear();
+    }
+    else if (m_undone)
+    {
+        throw Failure(StoreError::Database, "Store",
+                      "Nothing more is stored: the transaction has been taken back");
+    }
+    else
+    {
+        m_session << "SAVEPOINT Level" << m_depth;
+    }
+    ++m_depth;
+}
+
+void Database::Commit()
+{
+    if (m_undone)
+        throw Failure(StoreError::Database, "Store",
+                      "Nothing was stored: the transaction has been taken back");
+    if (m_depth == 1)
+        m_backend->Commit(m_session, m_witness);
+    else
+        m_session << "RELEASE SAVEPOINT Level" << m_depth - 1;
+    --m_depth;
+}
+
+void Database::RollBack() noexcept
+{
+    --m_depth;
+    try
+    {
+        if (m_depth == 0)
+        {
+            m_session << "ROLLBACK";
+        }
+        else
+        {
+            m_session << "ROLLBACK TO SAVEPOINT Level" << m_depth;
+            m_session << "RELEASE SAVEPOINT Level" << m_depth;
+        }
+    }
+    catch (const std::exception&)
+    {
+        // After a full disk or a lost connection the database has already taken back everything.
+        m_undone = true;
+    }
+}
+
+void Database::RequireReachable(const std::string& consequence)
+{
+    if (m_depth > 0)
+        return;
+    m_backend->Reconnect(m_session);
+    if (!m_backend->IsReachable(m_session))
+        RaiseFailure(consequence, StoreError::Unreachable,
+                     "its file was removed or replaced since it was opened");
+}
+
+void Database::GiveUp(const std::string& consequence, const soci::soci_error& error,
+                      int attempt) const
+{
+    // Waits of 0.1, 0.2, ... seconds make some five seconds, in which a server can be started
+    // again or another one take its place.
+    constexpr int mostAttempts = 10;
+    const bool mayTryAgain = m_backend->MayTryAgain(error);
+    if (mayTryAgain && m_running > 1)
+        throw;
+    if (!mayTryAgain || m_depth > 0 || attempt >= mostAttempts)
+        RaiseFailure(consequence, error);
+    std::this_thread::sleep_for(attempt * std::chrono::milliseconds(100));
+}
+
+void Database::RaiseFailure(const std::string& consequence, const soci::soci_error& error) const
+{
+    RaiseFailure(consequence, m_backend->ErrorNumberOf(error), error.get_error_message());
+}
+
+void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
+                            const std::string& message) const
+{
+    const Reason& reason = ReasonOf(number);
+    std::string description = consequence + ": the store \"" + m_name + "\" ";
+    description += reason.Text;
+    if (reason.IsExplained)
+        description += " (" + OwnWords(message) + ")";
+    throw Failure(number, "Store", description.append(". ").append(reason.Advice));
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,141 @@
+#pragma once
+
+#include "core/event.h"
+#include "host/database/backend.h"
+#include "host/database/change_notes.h"
+#include "host/database/store_failure.h"
+
+#include <soci/soci.h>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Tamrivo
+{
+
+/// One connection to the database that a store stands on.
+class Database
+{
+public:
+    /// Connects, makes the tables of a new store and brings older ones up to date; `complete` then
+    /// does, in the same transaction, what takes more than statements.
+    explicit Database(
+        const std::string& address,
+        const std::function<void(Database&)>& complete = [](Database&) {});
+
+    /// The address as messages show it.
+    const std::string& Name() const { return m_name; }
+    /// Goes up when a lost connection was made anew, whose prepared statements are gone.
+    int ConnectionNumber() const { return m_backend->ConnectionNumber(); }
+    bool IsReadOnly() const { return m_readOnly; }
+    bool IsInTransaction() const { return m_depth > 0; }
+    const Tamrivo::Backend& Backend() const { return *m_backend; }
+
+    /// What the history is told of the changes to come.
+    ChangeNotes Notes;
+    /// Whom the server takes the connection for; empty without a server.
+    const std::string& ServerUser() const { return m_serverUser; }
+
+    /// Raised before each piece of work and, during a long one, again and again. What the handler
+    /// throws ends the work as a failure does.
+    Event<> Progress;
+
+    /// The present moment, as what is written is stamped with it.
+    std::function<std::chrono::sys_seconds()> Now = [] {
+        return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    };
+
+    /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
+    /// the store that it amounts to, "CONSEQUENCE: REASON", where the consequence tells what is now
+    /// not done or not known, such as "The locus \"A\" is not stored".
+    ///
+    /// Outside of a transaction the work is done again when the connection was lost, or the
+    /// database gave way to others: it must leave nothing behind that hinders that.
+    template <class Statements>
+    decltype(auto) Run(const std::string& consequence, Statements&& statements)
+    {
+        const Nesting nesting(m_running);
+        for (int attempt = 1;; ++attempt)
+        {
+            try
+            {
+                Progress();
+                RequireReachable(consequence);
+                return statements(m_session);
+            }
+            catch (const soci::soci_error& error)
+            {
+                GiveUp(consequence, error, attempt);
+            }
+        }
+    }
+
+    /// What tells that the transaction was stored: a query that counts what only it has written.
+    void SetWitness(std::string witness)
+    {
+        m_witness = std::move(witness);
+        ++m_witnesses;
+    }
+    /// How often a witness was set since they were forgotten.
+    int Witnesses() const { return m_witnesses; }
+    void ForgetWitnesses() { m_witnesses = 0; }
+    const std::string& Witness() const { return m_witness; }
+    /// Whether the transaction was stored that had the witness.
+    bool Testifies(const std::string& witness);
+
+    /// Makes each row that the statement fetches go to the targets.
+    void BindInto(soci::statement& statement, const RowTargets& targets) const
+    {
+        m_backend->BindInto(statement, targets);
+    }
+
+    /// A number that no object of this store has had before. Only inside a transaction.
+    std::int32_t NextNumber() { return m_backend->NextNumber(m_session); }
+    /// `Backend::TryReserveSeals`
+    bool TryReserveSeals() { return m_backend->TryReserveSeals(m_session); }
+    /// `Backend::ReserveSchema`
+    void ReserveSchema() { m_backend->ReserveSchema(m_session); }
+
+private:
+    friend class Transaction;
+
+    /// Counts the pieces of work that run one inside the other.
+    struct Nesting
+    {
+        explicit Nesting(int& depth) : Depth(depth) { ++Depth; }
+        ~Nesting() { --Depth; }
+        Nesting(const Nesting&) = delete;
+        Nesting& operator=(const Nesting&) = delete;
+        int& Depth;
+    };
+
+    void Begin();
+    void Commit();
+    void RollBack() noexcept;
+
+    void RequireReachable(const std::string& consequence);
+    /// Raises the failure unless the work may be tried again. Lets the error itself go on where
+    /// that is for the work around this one to do.
+    void GiveUp(const std::string& consequence, const soci::soci_error& error, int attempt) const;
+    [[noreturn]] void RaiseFailure(const std::string& consequence,
+                                   const soci::soci_error& error) const;
+    [[noreturn]] void RaiseFailure(const std::string& consequence, std::int32_t number,
+                                   const std::string& message) const;
+
+    std::string m_name;
+    std::unique_ptr<Tamrivo::Backend> m_backend;
+    soci::session m_session;
+    std::string m_serverUser;
+    std::string m_witness;
+    int m_witnesses = 0;
+    bool m_readOnly = false;
+    int m_running = 0;     ///< Pieces of work, one inside the other.
+    int m_depth = 0;       ///< Open transactions, one inside the other.
+    bool m_undone = false; ///< The outermost one was taken back while inner ones were open.
+};
+
+} // namespace Tamrivo

@@ -1,0 +1,123 @@
+#include "host/database/backend.h"
+#include "host/database/sqlite_row.h"
+#include "host/database/store_failure.h"
+
+#include <filesystem>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+sqlite_api::sqlite3* Handle(soci::session& session)
+{
+    return static_cast<soci::sqlite3_session_backend*>(session.get_backend())->conn_;
+}
+
+void MakeDirectoryOf(const std::filesystem::path& file)
+{
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
+    if (error)
+        throw Failure(StoreError::Unreachable, "Store",
+                      "The store \"" + file.string() + "\" can't be opened: its directory \"" +
+                          file.parent_path().string() + "\" can't be made (" + error.message() +
+                          "). Choose another place for it");
+}
+
+class SqliteBackend : public Backend
+{
+public:
+    explicit SqliteBackend(const std::string& path) : m_file(std::filesystem::absolute(path))
+    {
+        // The connection text has no way to write one.
+        if (path.find('"') != std::string::npos)
+            throw Failure(ErrorNumber::InvalidArgument, "Store",
+                          "The path of a store can't contain a double quote: " + path);
+    }
+
+    std::string_view Dialect() const override { return "sqlite"; }
+
+    void Connect(soci::session& session) override
+    {
+        MakeDirectoryOf(m_file);
+        if (std::filesystem::is_directory(m_file))
+            throw Failure(StoreError::Unreachable, "Store",
+                          "The store \"" + m_file.string() +
+                              "\" can't be opened: it is a directory. Name a file in it");
+        session.open(*soci::factory_sqlite3(), "db=\"" + m_file.string() + "\"");
+        sqlite_api::sqlite3_busy_timeout(Handle(session), LockTimeoutSeconds * 1000);
+        sqlite_api::sqlite3_extended_result_codes(Handle(session), 1);
+        // A rollback journal keeps the store one file that can be copied, and readable on a
+        // read-only disk, neither of which holds for a write-ahead log. "extra" also syncs the
+        // directory that the journal is deleted from, without which a power cut just after a
+        // commit could bring the journal back and undo it.
+        session << "PRAGMA synchronous = EXTRA";
+    }
+
+    bool IsReadOnly(soci::session& session) override
+    {
+        return sqlite_api::sqlite3_db_readonly(Handle(session), "main") == 1;
+    }
+
+    bool IsReachable(soci::session& session) override
+    {
+        // An open file outlives its removal, so that writes to it would be lost in silence.
+        int moved = 0;
+        sqlite_api::sqlite3_file_control(Handle(session), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+        return moved == 0;
+    }
+
+    void Begin(soci::session& session) override { session << "BEGIN IMMEDIATE"; }
+
+    void Commit(soci::session& session, const std::string&) override { session << "COMMIT"; }
+
+    std::int32_t NextNumber(soci::session& session) override
+    {
+        std::int32_t number = 0;
+        session << "UPDATE LastNumber SET Number = Number + 1";
+        session << "SELECT Number FROM LastNumber", soci::into(number);
+        return number;
+    }
+
+    std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
+    {
+        const auto* sqliteError = dynamic_cast<const soci::sqlite3_soci_error*>(&error);
+        const int extendedCode = sqliteError ? sqliteError->result() : SQLITE_ERROR;
+        if (extendedCode == SQLITE_CONSTRAINT_UNIQUE)
+            return StoreError::NameTaken;
+
+        switch (extendedCode & 0xFF)
+        {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED: return StoreError::Locked;
+        case SQLITE_READONLY: return StoreError::ReadOnly;
+        case SQLITE_FULL: return StoreError::DiskFull;
+        case SQLITE_NOTADB:
+        case SQLITE_CORRUPT: return StoreError::NotAStore;
+        case SQLITE_CANTOPEN:
+        case SQLITE_IOERR:
+        case SQLITE_PERM: return StoreError::Unreachable;
+        default: return StoreError::Database;
+        }
+    }
+
+    void BindInto(soci::statement& statement, const RowTargets& targets) const override
+    {
+        // The statement takes the element over.
+        statement.exchange(soci::details::into_type_ptr(new SqliteRow(targets)));
+    }
+
+private:
+    std::filesystem::path m_file;
+};
+
+} // namespace
+
+std::unique_ptr<Backend> MakeSqliteBackend(const std::string& path)
+{
+    return std::make_unique<SqliteBackend>(path);
+}
+
+} // namespace Tamrivo

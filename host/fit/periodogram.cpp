@@ -1,0 +1,112 @@
+#include "host/fit/periodogram.h"
+
+#include <boost/math/distributions/chi_squared.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <numbers>
+#include <vector>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+using Complex = std::complex<double>;
+
+constexpr double cellWidth = 0.2; // nt; shifts a phase by little
+
+/// Sizes counted in cells, so that many sizes cost no more than a long range.
+struct Cell
+{
+    double Center;
+    double Count;
+};
+
+std::vector<Cell> CellsOf(std::span<const double> sizes)
+{
+    std::vector<Cell> cells;
+    double end = -1;
+    double sum = 0;
+    for (const double size : sizes)
+    {
+        if (cells.empty() || size >= end)
+        {
+            cells.push_back({size, 0});
+            end = size + cellWidth;
+            sum = 0;
+        }
+        sum += size;
+        cells.back().Count += 1;
+        cells.back().Center = sum / cells.back().Count;
+    }
+    return cells;
+}
+
+Complex Turn(double angle)
+{
+    return std::polar(1.0, angle);
+}
+
+} // namespace
+
+Periodicity FindPeriod(std::span<const double> sizes, double shortest, double longest)
+{
+    constexpr double stepsOfCycle = 10;
+    const double span = std::max(sizes.back() - sizes.front(), longest);
+    const double from = 1 / longest;
+    const double width = 1 / shortest - from;
+    const auto steps = static_cast<int>(std::ceil(width * span * stepsOfCycle));
+    const double step = width / steps;
+    const double center = (sizes.front() + sizes.back()) / 2;
+
+    // Each cell's phase is turned on from frequency to frequency.
+    const std::vector<Cell> cells = CellsOf(sizes);
+    std::vector<Complex> phases;
+    std::vector<Complex> turns;
+    for (const Cell& cell : cells)
+    {
+        const double angle = 2 * std::numbers::pi * (cell.Center - center);
+        phases.push_back(Turn(angle * from));
+        turns.push_back(Turn(angle * step));
+    }
+    Periodicity best;
+    for (int at = 0; at <= steps; ++at)
+    {
+        double x1 = 0;
+        double y1 = 0;
+        double x2 = 0;
+        double y2 = 0;
+        for (std::size_t cell = 0; cell < cells.size(); ++cell)
+        {
+            const double count = cells[cell].Count;
+            const double x = phases[cell].real();
+            const double y = phases[cell].imag();
+            x1 += count * x;
+            y1 += count * y;
+            x2 += count * (x * x - y * y);
+            y2 += count * 2 * x * y;
+            const double turnX = turns[cell].real();
+            const double turnY = turns[cell].imag();
+            phases[cell] = {x * turnX - y * turnY, x * turnY + y * turnX};
+        }
+        const double power =
+            2 * (x1 * x1 + y1 * y1 + x2 * x2 + y2 * y2) / static_cast<double>(sizes.size());
+        if (power > best.Power)
+        {
+            best.Power = power;
+            best.Period = 1 / (from + step * at);
+        }
+    }
+    const boost::math::chi_squared random(4);
+    // The second harmonic has twice the cycles.
+    const double independent = 1 + 2 * width * span;
+    const double one = boost::math::cdf(boost::math::complement(random, best.Power));
+    best.Chance = -std::expm1(independent * std::log1p(-std::min(one, 1 - 1e-12)));
+    best.RandomPower = boost::math::quantile(random, std::pow(0.5, 1 / independent));
+    return best;
+}
+
+} // namespace Tamrivo

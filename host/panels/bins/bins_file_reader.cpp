@@ -1,0 +1,111 @@
+#include "core/text.h"
+#include "host/panels/bins/bins_lines.h"
+#include "host/panels/bins/panels_bins.h"
+#include "host/panels/cells.h"
+
+#include <cmath>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// A limit of a bin from the allele's size and the distance to it, without the noise of binary
+/// fractions: 93.47 - 0.5 is 92.97.
+double Limit(double size, double distance)
+{
+    constexpr double steps = 1e6;
+    const double limit = size + distance;
+    return std::abs(limit) < 1e6 ? std::round(limit * steps) / steps : limit;
+}
+
+class BinsFileReader
+{
+public:
+    BinsFileReader(std::string_view text, const std::string& file) : m_lines(text)
+    {
+        m_read.File = file;
+    }
+
+    BinsFile Read()
+    {
+        while (m_read.Complaints.size() < MaxPanelComplaints && m_lines.Next())
+            ReadLine();
+        if (!m_lines.Problem().empty())
+            Complain({}, std::string(m_lines.Problem()));
+        else if (m_read.Markers.empty() && m_read.Complaints.empty())
+            Complain({}, "The bins file has no bins; it may have been cut off");
+        return std::move(m_read);
+    }
+
+private:
+    void Complain(std::string column, std::string problem)
+    {
+        m_read.Complaints.push_back(
+            {m_read.File, m_lines.Number(), std::move(column), std::move(problem)});
+    }
+
+    void ReadLine()
+    {
+        const BinsLine kind = KindOf(m_lines.Cell(0));
+        const std::string value(BinsCell(m_lines.Cell(1)));
+        if (kind == BinsLine::BinSet)
+            m_read.BinSet = value;
+        else if (kind == BinsLine::BinsPanel)
+            m_panel = value;
+        else if (kind == BinsLine::Marker)
+            m_read.Markers.push_back({m_panel, value, m_lines.Number(), {}, {}});
+        else if (kind == BinsLine::Content && !BinsCell(m_lines.Cell(0)).empty())
+            ReadBin();
+        // The line end between two lines of the header may have been lost.
+        constexpr std::string_view binSetWord = "BinSet Name";
+        if (kind == BinsLine::Chemistry && value.ends_with(binSetWord))
+            m_read.BinSet = BinsCell(m_lines.Cell(2));
+    }
+
+    double Number(MarkerBins& marker, std::size_t cell, std::string_view expected) const
+    {
+        const auto number = CellNumber(BinsCell(m_lines.Cell(cell)));
+        if (!number && marker.Flaws.size() < MaxPanelComplaints)
+            marker.Flaws.push_back({m_read.File, m_lines.Number(), std::to_string(cell + 1),
+                                    QuotedCell(m_lines.Cell(cell)) + " stands there; expected " +
+                                        std::string(expected) + " in nt with a decimal point"});
+        return number.value_or(0);
+    }
+
+    void ReadBin()
+    {
+        if (m_read.Markers.empty())
+            return Complain({}, "A bin stands in front of the line \"Marker Name\"; expected the "
+                                "name of its marker first");
+        MarkerBins& marker = m_read.Markers.back();
+        AlleleFields& allele = marker.Alleles.emplace_back();
+        allele.AlleleText1 = BinsCell(m_lines.Cell(0));
+        if (!IsPrintableText(allele.AlleleText1))
+            marker.Flaws.push_back({m_read.File, m_lines.Number(), "1",
+                                    QuotedCell(allele.AlleleText1) + " has a control character"});
+        allele.AlleleReal1 = Number(marker, 1, "a size");
+        allele.AlleleReal2 =
+            Limit(allele.AlleleReal1, -Number(marker, 2, "the distance to the bin's left limit"));
+        allele.AlleleReal3 =
+            Limit(allele.AlleleReal1, Number(marker, 3, "the distance to the bin's right limit"));
+        allele.AlleleReal4 = CellNumber(allele.AlleleText1).value_or(0);
+        allele.AlleleInt1 = AlleleOrigin::Imported;
+        // Another word there is the colour of the bin.
+        allele.AlleleInt2 = EqualNoCase(BinsCell(m_lines.Cell(4)), "virtual") ? 1 : 0;
+    }
+
+    TableLines m_lines;
+    std::string m_panel;
+    BinsFile m_read;
+};
+
+} // namespace
+
+BinsFile ReadBinsFile(std::string_view text, const std::string& file)
+{
+    return BinsFileReader(text, file).Read();
+}
+
+} // namespace Tamrivo

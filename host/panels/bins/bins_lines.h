@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/panels/table/table_lines.h"
+
+#include <string_view>
+#include <vector>
+
+namespace Tamrivo
+{
+
+// Panels and bins files are tab-separated lines, of which some start with a word that says what
+// follows. Behind the last cell may stand any number of empty ones.
+
+/// What the first cell of a line says about it.
+enum class BinsLine
+{
+    Version,
+    KitType,
+    Chemistry,
+    BinSet,
+    BinsPanel, ///< Of a bins file.
+    Marker,    ///< Of a bins file.
+    Panel,     ///< Of a panels file.
+    Content,   ///< A marker of a panels file or a bin.
+};
+
+BinsLine KindOf(std::string_view firstCell);
+
+/// Whether the text begins as a panels or a bins file does.
+bool IsPanelsOrBins(std::string_view text);
+/// Which of the two it is.
+bool IsBins(std::string_view text);
+
+/// The cell without blanks and double quotes around it.
+std::string_view BinsCell(std::string_view cell);
+
+} // namespace Tamrivo

@@ -1,0 +1,352 @@
+#include "host/panels/import_plan.h"
+
+#include "core/text.h"
+#include "host/loci/keys.h"
+#include "host/panels/locus_columns.h"
+#include "host/panels/marker_fields.h"
+#include "host/store/store.h"
+
+#include <algorithm>
+#include <map>
+#include <unordered_set>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr std::string_view defaultProject = "Default";
+
+bool IsOf(const std::string& panel, const std::shared_ptr<Locus>& locus)
+{
+    return locus && EqualNoCase(locus->PrimerSet, panel);
+}
+
+std::vector<AlleleFields> AllelesOf(Locus& locus)
+{
+    std::vector<AlleleFields> alleles;
+    for (const auto& member : locus.Alleles().Members())
+        alleles.push_back(*As<Allele>(member));
+    return alleles;
+}
+
+/// "FragEnd, alleles"
+std::string NamesOf(const std::vector<Difference>& differences)
+{
+    std::string names;
+    for (const Difference& difference : differences)
+    {
+        const std::string name = difference.Allele.empty() ? difference.Field : "alleles";
+        if (!names.ends_with(name))
+            names += (names.empty() ? "" : ", ") + name;
+    }
+    return names;
+}
+
+/// "Repeat, Size and Size.Min are missing"
+std::string LackOf(const PanelMarker& marker)
+{
+    std::string names;
+    for (const PanelComplaint& flaw : marker.Flaws)
+        names += (names.empty() ? "" : ", ") + (flaw.Column.empty() ? flaw.Problem : flaw.Column);
+    return names + " missing";
+}
+
+class Planner
+{
+public:
+    Planner(const ImportChoice& choice, Store& store)
+        : m_choice(choice), m_store(store), m_storedKeys(store.TagKeys())
+    {}
+
+    ImportPlan Plan(const std::vector<PanelMarker>& markers, const LociProgress& progress)
+    {
+        RequirePanels(markers);
+        std::vector<const PanelMarker*> chosen;
+        for (const PanelMarker& marker : markers)
+        {
+            if (!IsChosen(marker))
+                continue;
+            chosen.push_back(&marker);
+            if (marker.LocusTag.empty())
+                ++m_markersNamed[LookupKey(marker.Marker)];
+        }
+        ImportPlan plan;
+        plan.DyesBefore = m_store.Dyes();
+        m_dyes = m_choice.AddDyes ? WithDyesOf(chosen, plan.DyesBefore) : plan.DyesBefore;
+        plan.DyesAfter = m_dyes;
+        for (const PanelMarker* marker : chosen)
+        {
+            plan.Loci.push_back(PlanMarker(*marker));
+            RemarkOn(*marker, plan.Loci.back(), plan.Remarks);
+            if (progress)
+                progress(plan.Loci.size(), chosen.size());
+        }
+        return plan;
+    }
+
+private:
+    bool IsChosen(const PanelMarker& marker) const
+    {
+        return m_choice.Panels.empty() || IsOfPanels(marker, m_choice.Panels);
+    }
+
+    void RequirePanels(const std::vector<PanelMarker>& markers) const
+    {
+        for (const std::string& panel : m_choice.Panels)
+        {
+            const std::vector<std::string> one{panel};
+            if (std::ranges::any_of(
+                    markers, [&one](const PanelMarker& marker) { return IsOfPanels(marker, one); }))
+                continue;
+            std::map<std::string, std::string> panels;
+            for (const PanelMarker& marker : markers)
+                panels.emplace(FoldCase(Trim(marker.Panel)), marker.Panel);
+            std::string names;
+            for (const auto& [key, name] : panels)
+                names += (names.empty() ? "" : ", ") + name;
+            throw Failure(ErrorNumber::InvalidArgument, "PlanImport",
+                          "There is no panel \"" + panel + "\" in what was read, but " +
+                              (names.empty() ? "none at all" : "these: " + names));
+        }
+    }
+
+    /// The dyes and behind them those whose colours the markers have, as far as there is room.
+    static Dyes WithDyesOf(const std::vector<const PanelMarker*>& markers, const Dyes& before)
+    {
+        std::vector<Dye> all = before.All();
+        for (const PanelMarker* marker : markers)
+        {
+            const KnownColor* color = FindColor(marker->Color);
+            if (color == nullptr || !marker->Flaws.empty() || all.size() == MostDyes)
+                continue;
+            const Dye dye{std::string(color->Name), ""};
+            if (std::ranges::find(all, dye.Color, &Dye::Color) == all.end())
+                all.push_back(dye);
+        }
+        return Dyes(std::move(all));
+    }
+
+    static void RemarkOn(const PanelMarker& marker, const PlannedLocus& planned,
+                         std::vector<PanelRemark>& remarks)
+    {
+        const std::string place = planned.Place();
+        if (planned.IsLacking)
+            remarks.push_back({RemarkKind::Lacking, place + ": " + planned.Obstacles.front()});
+        if (planned.Fate == ImportFate::LeftOut)
+            return;
+        if (planned.Fate == ImportFate::New && planned.IsRenamed())
+            remarks.push_back(
+                {RemarkKind::Renamed, place + " is stored under the tag \"" + planned.Tag + "\""});
+        if (marker.IsNominal && planned.Fate == ImportFate::New)
+            remarks.push_back({RemarkKind::Nominal, place});
+        for (const AlleleFields& allele : marker.Alleles)
+        {
+            if (allele.AlleleReal1 < allele.AlleleReal2 || allele.AlleleReal1 > allele.AlleleReal3)
+                remarks.push_back(
+                    {RemarkKind::SizeOutsideBin, place + ", allele " + allele.AlleleText1});
+        }
+    }
+
+    PlannedLocus PlanMarker(const PanelMarker& marker)
+    {
+        PlannedLocus planned;
+        planned.File = marker.File;
+        planned.Line = marker.Line;
+        planned.Marker = marker.Marker;
+        planned.Alleles = marker.Alleles;
+        planned.Fields.PrimerSet = marker.Panel;
+        planned.Stored = Find(marker, planned.Tag);
+        if (!CheckFlaws(marker, planned))
+        {
+            planned.Fate = ImportFate::LeftOut;
+            return planned;
+        }
+
+        LocusFields& fields = planned.Fields;
+        if (planned.Stored)
+            fields = *planned.Stored;
+        else
+            fields.LocusName = marker.Marker;
+        ApplyMarker(marker, m_dyes, !planned.Stored, fields);
+        fields.ProjectName = ProjectOf(fields);
+        if (planned.Stored)
+            Compare(marker, planned);
+
+        CheckWhatFits(marker, planned);
+        if (!planned.Obstacles.empty())
+            planned.Fate = ImportFate::LeftOut;
+        return planned;
+    }
+
+    /// Whether the marker could be read.
+    static bool CheckFlaws(const PanelMarker& marker, PlannedLocus& planned)
+    {
+        planned.IsLacking =
+            !marker.Flaws.empty() && std::ranges::all_of(marker.Flaws, &PanelComplaint::IsLack);
+        if (planned.IsLacking)
+            planned.Obstacles.push_back(LackOf(marker));
+        else
+        {
+            for (PanelComplaint flaw : marker.Flaws)
+            {
+                flaw.File.clear();
+                planned.Obstacles.push_back(flaw.Text());
+            }
+        }
+        return marker.Flaws.empty();
+    }
+
+    /// The stored locus with the tag. Few of the tags of a table are stored, as a rule.
+    std::shared_ptr<Locus> Stored(const std::string& tag)
+    {
+        return m_storedKeys.contains(LookupKey(tag)) ? m_store.FindLocus(tag) : nullptr;
+    }
+
+    /// Chooses the tag, and gives the locus that the store has under it. A locus of the marker's
+    /// own panel is found again under either tag, with whatever else it came in.
+    std::shared_ptr<Locus> Find(const PanelMarker& marker, std::string& tag)
+    {
+        tag = marker.LocusTag.empty() ? marker.Marker : marker.LocusTag;
+        auto stored = Stored(tag);
+        if (!marker.LocusTag.empty() || marker.Panel.empty() || IsOf(marker.Panel, stored))
+            return stored;
+        const std::string tagInPanel = MarkerInPanel(marker.Marker, marker.Panel);
+        auto storedInPanel = Stored(tagInPanel);
+        const bool isFree = !stored && m_markersNamed[LookupKey(marker.Marker)] == 1;
+        if (isFree && !IsOf(marker.Panel, storedInPanel))
+            return nullptr;
+        tag = tagInPanel;
+        return storedInPanel;
+    }
+
+    std::string ProjectOf(const LocusFields& fields)
+    {
+        std::string name = m_choice.Project.empty() ? fields.ProjectName : m_choice.Project;
+        if (Trim(name).empty())
+            name = defaultProject;
+        const auto [known, isNew] = m_projects.try_emplace(name, name);
+        if (isNew)
+        {
+            if (const auto project = m_store.FindProject(name))
+                known->second = project->Name();
+        }
+        return known->second;
+    }
+
+    void CheckWhatFits(const PanelMarker& marker, PlannedLocus& planned)
+    {
+        CheckDye(marker, planned);
+        std::ranges::move(MisfitsOf(planned.Fields), std::back_inserter(planned.Obstacles));
+        if (CharacterCount(planned.Tag) > MaxTagLength)
+            planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" is longer than " +
+                                        std::to_string(MaxTagLength) + " characters");
+        const auto [earlier, isFirst] = m_lineOfTag.emplace(LookupKey(planned.Tag), marker.Line);
+        if (!isFirst)
+            planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" comes from line " +
+                                        std::to_string(earlier->second) + " already");
+        if (planned.Fate == ImportFate::Changed && !m_choice.Update && planned.Obstacles.empty())
+            planned.Obstacles.push_back("The store has a locus \"" + planned.Tag +
+                                        "\" that differs in: " + NamesOf(planned.Differences) +
+                                        ". Update it from the file, delete it or give it another "
+                                        "tag");
+    }
+
+    void CheckDye(const PanelMarker& marker, PlannedLocus& planned) const
+    {
+        if (m_dyes.OfColor(marker.Color))
+            return;
+        const std::string color = Trim(marker.Color);
+        if (FindColor(color) == nullptr)
+            planned.Obstacles.push_back("The colour " + QuotedCell(color) + " is none of " +
+                                        ColorNames());
+        else if (m_choice.AddDyes)
+            planned.Obstacles.push_back("The colour " + color + " is none of the store's dyes, " +
+                                        "and it has " + std::to_string(MostDyes) + " already");
+        else
+        {
+            planned.Obstacles.push_back("The colour " + color + " is none of the store's dyes");
+            planned.NeedsDye = true;
+        }
+    }
+
+    static void Compare(const PanelMarker& marker, PlannedLocus& planned)
+    {
+        Locus& stored = *planned.Stored;
+        const std::vector<AlleleFields> before = AllelesOf(stored);
+        AlleleUpdate update = UpdateAlleles(before, marker);
+        if (!update.Differences.empty() && marker.FieldCells.empty() && !marker.IsNominal &&
+            FollowsAlleles(stored, before))
+            FollowAlleles(planned.Fields, update.Alleles);
+        for (const LocusField& field : LocusFieldTable)
+        {
+            const std::string was = FieldCell(stored, field);
+            const std::string is = FieldCell(planned.Fields, field);
+            if (was != is)
+                planned.Differences.push_back({std::string(field.Name), "", was, is});
+        }
+        planned.Alleles = std::move(update.Alleles);
+        std::ranges::move(update.Differences, std::back_inserter(planned.Differences));
+        planned.Fate = planned.Differences.empty() ? ImportFate::Present : ImportFate::Changed;
+    }
+
+    const ImportChoice& m_choice;
+    Store& m_store;
+    std::unordered_set<std::string> m_storedKeys;
+    Dyes m_dyes; ///< With those that are added.
+    std::map<std::string, std::size_t> m_markersNamed;
+    std::map<std::string, std::size_t> m_lineOfTag;
+    std::map<std::string, std::string> m_projects;
+};
+
+} // namespace
+
+bool IsOfPanels(const PanelMarker& marker, const std::vector<std::string>& panels)
+{
+    return std::ranges::any_of(panels, [&marker](const std::string& name) {
+        const std::string wanted = Trim(name);
+        return EqualNoCase(wanted, Trim(marker.Panel)) ||
+               EqualNoCase(wanted, Trim(marker.ShortName)) ||
+               EqualNoCase(wanted, Trim(marker.FullName));
+    });
+}
+
+std::string_view NameOf(ImportFate fate)
+{
+    constexpr std::string_view names[] = {"new", "same", "changed", "refused"};
+    return names[static_cast<std::size_t>(fate)];
+}
+
+std::string PlannedLocus::Place() const
+{
+    return (File.empty() ? "line " : File + ", line ") + std::to_string(Line) + ": " + Marker +
+           (Fields.PrimerSet.empty() ? "" : " of " + Fields.PrimerSet);
+}
+
+std::size_t ImportPlan::Count(ImportFate fate) const
+{
+    return static_cast<std::size_t>(std::ranges::count(Loci, fate, &PlannedLocus::Fate));
+}
+
+std::size_t ImportPlan::Refused() const
+{
+    return Count(ImportFate::LeftOut) -
+           static_cast<std::size_t>(std::ranges::count(Loci, true, &PlannedLocus::IsLacking));
+}
+
+std::size_t ImportPlan::NewAlleles() const
+{
+    std::size_t count = 0;
+    for (const PlannedLocus& locus : Loci)
+        count += locus.Fate == ImportFate::New ? locus.Alleles.size() : 0;
+    return count;
+}
+
+ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
+                      Store& store, const LociProgress& progress)
+{
+    return Planner(choice, store).Plan(markers, progress);
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,199 @@
+#include "host/panels/osiris/kit_reader.h"
+
+#include "core/text.h"
+#include "host/panels/cells.h"
+
+#include <pugixml.hpp>
+
+#include <algorithm>
+#include <map>
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+constexpr std::string_view channelColors[] = {"blue", "green", "yellow", "red", "purple"};
+
+std::string ValueOf(const pugi::xml_node& node, const char* name)
+{
+    std::string_view text = node.child(name).text().get();
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    if (start == std::string_view::npos)
+        return {};
+    text.remove_prefix(start);
+    return std::string(text.substr(0, text.find_last_not_of(" \t\r\n") + 1));
+}
+
+class KitReader
+{
+public:
+    KitReader(std::string_view text, double interval) : m_text(text), m_interval(interval) {}
+
+    PanelReading Read()
+    {
+        pugi::xml_document document;
+        const pugi::xml_parse_result result = document.load_buffer(
+            m_text.data(), m_text.size(), pugi::parse_default, pugi::encoding_utf8);
+        if (!IsUtf8(m_text))
+            Complain(0, "The text isn't UTF-8; save the kit file as UTF-8");
+        else if (!result)
+            Complain(result.offset, "The XML can't be read (" + std::string(result.description()) +
+                                        "); the file may have been cut off");
+        else if (!document.child("KitData"))
+            Complain(0, "The XML is no kit file of OSIRIS: its root is <" +
+                            std::string(document.document_element().name()) +
+                            ">; expected <KitData>");
+        else
+            ReadKits(document.child("KitData"));
+        return std::move(m_reading);
+    }
+
+private:
+    std::size_t LineAt(std::ptrdiff_t offset)
+    {
+        const auto end = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(m_text));
+        if (end < m_counted)
+        {
+            m_counted = 0;
+            m_line = 0;
+        }
+        m_line += static_cast<std::size_t>(
+            std::count(m_text.begin() + m_counted, m_text.begin() + end, '\n'));
+        m_counted = end;
+        return m_line + 1;
+    }
+
+    void Complain(std::ptrdiff_t offset, std::string problem)
+    {
+        m_reading.Complaints.push_back({{}, LineAt(offset), {}, std::move(problem)});
+    }
+
+    void ReadKits(const pugi::xml_node& root)
+    {
+        for (const pugi::xml_node& set : root.child("Kits").children("Set"))
+        {
+            const std::map<int, std::string> colors = ColorsOf(set);
+            for (const pugi::xml_node& locus : set.children("Locus"))
+                ReadLocus(set, locus, colors);
+        }
+        if (m_reading.Markers.empty())
+            Complain(0, "The kit file has no loci, perhaps a size standard alone");
+    }
+
+    static std::map<int, std::string> ColorsOf(const pugi::xml_node& set)
+    {
+        std::map<int, std::string> colors;
+        for (const pugi::xml_node& channel : set.child("FsaChannelMap").children("Channel"))
+            colors[channel.child("KitChannelNumber").text().as_int()] =
+                FoldCase(ValueOf(channel, "Color"));
+        return colors;
+    }
+
+    void AddFlaw(PanelMarker& marker, const pugi::xml_node& node, const char* element,
+                 const std::string& expected)
+    {
+        if (marker.Flaws.size() >= MaxPanelComplaints)
+            return;
+        const std::string value = ValueOf(node, element);
+        marker.Flaws.push_back({{},
+                                LineAt(node.offset_debug()),
+                                element,
+                                QuotedCell(value) + " stands there; expected " + expected,
+                                value.empty()});
+    }
+
+    double Number(PanelMarker& marker, const pugi::xml_node& node, const char* element,
+                  const std::string& expected)
+    {
+        const auto number = CellNumber(ValueOf(node, element));
+        if (!number)
+            AddFlaw(marker, node, element, expected);
+        return number.value_or(0);
+    }
+
+    void ReadLocus(const pugi::xml_node& set, const pugi::xml_node& locus,
+                   const std::map<int, std::string>& colors)
+    {
+        PanelMarker& marker = m_reading.Markers.emplace_back();
+        marker.Line = LineAt(locus.offset_debug());
+        marker.IsNominal = true;
+        marker.Stated = {.Virtual = false};
+        marker.Panel = ValueOf(set, "Name");
+        marker.Marker = ValueOf(locus, "Name");
+        if (marker.Marker.empty() || !IsPrintableText(marker.Marker) ||
+            !IsPrintableText(marker.Panel))
+            AddFlaw(marker, locus, "Name", "the name of a locus, without control characters");
+        ReadColor(marker, locus, colors);
+
+        const std::string core = ValueOf(locus, "CoreRepeatNumber");
+        const auto repeat = CellWholeNumber(core);
+        if (!repeat && !core.empty())
+            AddFlaw(marker, locus, "CoreRepeatNumber", "a whole number of nt");
+        marker.RepeatLength = repeat.value_or(4);
+
+        for (const pugi::xml_node& allele : locus.child("LadderAlleles").children("Allele"))
+            ReadAllele(marker, allele);
+        ReadRange(marker, locus);
+    }
+
+    void ReadColor(PanelMarker& marker, const pugi::xml_node& locus,
+                   const std::map<int, std::string>& colors)
+    {
+        const auto channel = CellWholeNumber(ValueOf(locus, "Channel"));
+        if (channel)
+        {
+            const auto mapped = colors.find(*channel);
+            if (mapped != colors.end() && !mapped->second.empty())
+                marker.Color = mapped->second;
+            else if (*channel >= 1 && *channel <= std::ssize(channelColors))
+                marker.Color = channelColors[*channel - 1];
+        }
+        if (marker.Color.empty())
+            AddFlaw(marker, locus, "Channel", "a channel from 1 to 5, or one of the channel map");
+    }
+
+    void ReadAllele(PanelMarker& marker, const pugi::xml_node& node)
+    {
+        AlleleFields& allele = marker.Alleles.emplace_back();
+        allele.AlleleText1 = ValueOf(node, "Name");
+        if (allele.AlleleText1.empty() || !IsPrintableText(allele.AlleleText1))
+            AddFlaw(marker, node, "Name", "the name of an allele");
+        allele.AlleleReal1 = Number(marker, node, "BP", "a size in nt");
+        allele.AlleleReal2 = allele.AlleleReal1 - m_interval;
+        allele.AlleleReal3 = allele.AlleleReal1 + m_interval;
+        allele.AlleleReal4 = CellNumber(allele.AlleleText1).value_or(0);
+        allele.AlleleInt1 = AlleleOrigin::Imported;
+    }
+
+    void ReadRange(PanelMarker& marker, const pugi::xml_node& locus)
+    {
+        marker.RangeStart = Number(marker, locus, "MinBP", "the start of the range in nt");
+        marker.RangeEnd = Number(marker, locus, "MaxBP", "the end of the range in nt");
+        const auto widen = [&](const pugi::xml_node& node, const char* low, const char* high) {
+            const auto from = CellNumber(ValueOf(node, low));
+            const auto to = CellNumber(ValueOf(node, high));
+            marker.RangeStart = std::min(marker.RangeStart, from.value_or(marker.RangeStart));
+            marker.RangeEnd = std::max(marker.RangeEnd, to.value_or(marker.RangeEnd));
+        };
+        for (const pugi::xml_node& region : locus.child("SearchRegions").children("Region"))
+            widen(region, "MinGrid", "MaxGrid");
+        widen(locus, "MinGridLSBasePair", "MaxGridLSBasePair");
+    }
+
+    std::string_view m_text;
+    double m_interval;
+    std::ptrdiff_t m_counted = 0; ///< Up to where lines have been counted.
+    std::size_t m_line = 0;
+    PanelReading m_reading;
+};
+
+} // namespace
+
+PanelReading ReadOsirisKit(std::string_view text, double interval)
+{
+    return KitReader(text, interval).Read();
+}
+
+} // namespace Tamrivo

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "contracts/allele.h"
+#include "contracts/locus_fields.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// A place in a file that can't be used.
+struct PanelComplaint
+{
+    std::string File;     ///< Empty: there is only one.
+    std::size_t Line = 0; ///< From 1; 0: the file as a whole.
+    std::string Column;   ///< Empty: the line as a whole.
+    std::string Problem;  ///< What stands there and what was expected.
+    bool IsLack = false;  ///< Nothing stands there that a locus needs.
+
+    /// "kit.txt, line 7, column Size: ...".
+    std::string Text() const;
+};
+
+/// What a remark is about.
+enum class RemarkKind
+{
+    Renamed,           ///< The tag isn't the marker's name.
+    Lacking,           ///< A marker that its file says too little about.
+    Nominal,           ///< A marker whose sizes follow from repeats, without bins of its own.
+    SizeOutsideBin,    ///< An allele.
+    LadderWithoutBin,  ///< An allele of the ladder.
+    BinOutsideLadder,  ///< A bin that is neither virtual nor of the ladder.
+    BinsWithoutMarker, ///< A marker of the bins that the panel doesn't have.
+};
+
+/// Something noteworthy about what was read or planned; people get one sentence for all of a kind.
+struct PanelRemark
+{
+    RemarkKind Kind;
+    std::string Text; ///< With the place, without a full stop.
+};
+
+/// What the source of a marker says about its alleles besides name, size and bin. An update changes
+/// nothing else.
+struct StatedOfAlleles
+{
+    bool Virtual = true;
+    bool Repeats = false; ///< `AlleleFields::AlleleReal4`
+    bool Origin = false;  ///< `AlleleFields::AlleleInt1`
+};
+
+/// A marker with its alleles, as a file of any format states it.
+struct PanelMarker
+{
+    std::string File;     ///< Empty: there is only one.
+    std::size_t Line = 0; ///< Its first line, from 1.
+    std::string Panel;
+    std::string ShortName; ///< Other names of the panel, if it has any.
+    std::string FullName;
+    std::string Marker;
+    std::string LocusTag; ///< Empty: the tag follows from the marker's name.
+    std::string Color;
+    std::int32_t RepeatLength = 0;
+    double RangeStart = 0;
+    double RangeEnd = 0;
+    std::optional<double> Offset;
+    /// Further fields of the locus and the texts of their cells, each of them readable.
+    std::vector<std::pair<const LocusField*, std::string>> FieldCells;
+    std::vector<AlleleFields> Alleles;
+    StatedOfAlleles Stated;
+    /// Sizes are whole nt that follow from repeats, and bins, virtual alleles and the range are no
+    /// part of the format.
+    bool IsNominal = false;
+    /// What keeps the marker out.
+    std::vector<PanelComplaint> Flaws;
+};
+
+/// The tag of a marker whose name isn't unique: "D3S1358 (Panel-17)".
+inline std::string MarkerInPanel(const std::string& marker, const std::string& panel)
+{
+    return marker + " (" + panel + ")";
+}
+
+/// What files say.
+struct PanelReading
+{
+    std::vector<PanelMarker> Markers; ///< In the order of their first lines.
+    /// Empty for files that could be read. Reading stops after `MaxPanelComplaints`.
+    std::vector<PanelComplaint> Complaints;
+    std::vector<PanelRemark> Remarks;
+    std::vector<std::string> BinSets; ///< Names of the sets of bins, for panels and bins files.
+};
+
+inline constexpr std::size_t MaxPanelComplaints = 20;
+
+/// The text in quotes, or "nothing"; control characters as "?", a long one cut.
+std::string QuotedCell(std::string_view text);
+
+/// Whether the text has no control characters.
+bool IsPrintableText(std::string_view text);
+
+} // namespace Tamrivo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace Tamrivo
+{
+
+/// Walks the lines of a tab-separated table. Empty lines, a byte order mark and carriage returns
+/// at the ends are passed over.
+class TableLines
+{
+public:
+    /// @param text must outlive this object and the cells
+    explicit TableLines(std::string_view text);
+
+    /// Goes to the next line that has anything in it. False at the end, and from a line on that
+    /// no text file has.
+    bool Next();
+
+    std::size_t Number() const { return m_number; } ///< Of the line, from 1.
+    const std::vector<std::string_view>& Cells() const { return m_cells; }
+    /// The cell at a position; nothing past the end of the line.
+    std::string_view Cell(std::size_t position) const
+    {
+        return position < m_cells.size() ? m_cells[position] : std::string_view();
+    }
+    /// What is wrong with the line at which the walk has ended early; empty at the end.
+    std::string_view Problem() const { return m_problem; }
+
+private:
+    std::string_view m_rest;
+    std::size_t m_number = 0;
+    std::vector<std::string_view> m_cells;
+    std::string_view m_problem;
+};
+
+} // namespace Tamrivo

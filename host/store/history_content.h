@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/loci/dyes.h"
+#include "host/store/history_record.h"
+#include "host/store/locus_state.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Tamrivo
+{
+
+// The state of an object as the history keeps it: a JSON object with its fields by name and the
+// number of the form, "Format". What equals the initial value of a new allele is left out. Texts
+// that aren't UTF-8 stand as {"Bytes": "HEX"}, numbers without a decimal form as text.
+
+/// The state of an analysis parameter.
+struct ParameterState
+{
+    std::string Name;
+    std::int32_t LocusTagListCount = 0;
+    std::vector<std::int32_t> LocusTagIDs;
+};
+
+std::string ContentOf(const LocusState& state);
+std::string ContentOf(const ParameterState& state);
+std::string ContentOf(const Dyes& dyes);
+/// Of what has nothing but a value.
+std::string ContentOfValue(const std::string& name, const std::string& value);
+
+/// The state that the record of a locus keeps. Raises `StoreError::NewerVersion` for one that a
+/// newer version of this program has written, `StoreError::NotAStore` for a damaged one, and
+/// `StoreError::NotFound` for the record of a deletion.
+LocusState LocusStateOf(const HistoryRecord& record);
+
+/// The alleles as an array of JSON objects with the names of the columns in lower case.
+std::string AlleleRowsJson(std::int32_t locusID, const std::vector<AlleleFields>& alleles,
+                           const std::vector<std::int32_t>& positions);
+
+} // namespace Tamrivo

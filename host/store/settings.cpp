@@ -1,0 +1,49 @@
+#include "host/store/settings.h"
+
+#include "host/database/database.h"
+#include "host/database/transaction.h"
+#include "host/store/history_content.h"
+#include "host/store/history_writer.h"
+
+namespace Tamrivo
+{
+
+namespace
+{
+
+/// A store has one set of settings, an object of the history.
+constexpr std::int32_t settingsNumber = 0;
+
+} // namespace
+
+bool IsReasonRequired(Database& database)
+{
+    return database.Run("The settings are not read", [](soci::session& session) {
+        int count = 0;
+        session << "SELECT COUNT(*) FROM Setting WHERE " << ReasonIsRequired, soci::into(count);
+        return count > 0;
+    });
+}
+
+void SetReasonRequired(Database& database, bool required)
+{
+    database.Run("The settings stay as they are", [&](soci::session& session) {
+        Transaction transaction(database);
+        if (IsReasonRequired(database) == required)
+            return;
+        const std::string name = "reason";
+        const std::string value = required ? "required" : "optional";
+        // First, so that the rule until now holds for its change.
+        HistoryWriter(database).Record({.Kind = HistoryKind::Setting,
+                                        .ObjectNumber = settingsNumber,
+                                        .Operation = HistoryOperation::Changed,
+                                        .Name = name,
+                                        .Content = ContentOfValue("Value", value)});
+        session << "INSERT INTO Setting (Name, Value) VALUES (:Name, :Value) "
+                   "ON CONFLICT (Name) DO UPDATE SET Value = EXCLUDED.Value",
+            soci::use(name), soci::use(value);
+        transaction.Commit();
+    });
+}
+
+} // namespace Tamrivo

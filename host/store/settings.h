@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+namespace Tamrivo
+{
+
+class Database;
+
+/// The condition on the table Setting that each change has to have a reason.
+inline constexpr std::string_view ReasonIsRequired = "Name = 'reason' AND Value = 'required'";
+
+/// Whether each change has to have a reason.
+bool IsReasonRequired(Database& database);
+void SetReasonRequired(Database& database, bool required);
+
+} // namespace Tamrivo

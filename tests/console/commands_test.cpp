@@ -1,11 +1,11 @@
 #include "console/commands/aligned_table.h"
 #include "console/commands/text_width.h"
 #include "console/program.h"
+#include "tests/fakes/temporary_directory.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -32,9 +32,6 @@ const std::string purple = "Q\tSE33\t18\t232\t231.5\t232.5\tpurple\t4\t211\t270\
 class Commands : public testing::Test
 {
 protected:
-    Commands() { std::filesystem::create_directories(m_directory); }
-    ~Commands() override { std::filesystem::remove_all(m_directory); }
-
     std::string Path(const std::string& name) const { return m_directory / name; }
 
     std::string Write(const std::string& name, const std::string& content) const
@@ -62,8 +59,7 @@ protected:
         return nlohmann::json::parse(m_out);
     }
 
-    std::filesystem::path m_directory = std::filesystem::path(testing::TempDir()) /
-                                        ("tamrivo_commands_" + std::to_string(getpid()));
+    Fakes::TemporaryDirectory m_directory;
     std::string m_out;
     std::string m_err;
 };

@@ -1,4 +1,5 @@
 #include "console/program.h"
+#include "tests/fakes/temporary_directory.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,9 +23,6 @@ using testing::StartsWith;
 class Program : public testing::Test
 {
 protected:
-    Program() { std::filesystem::create_directories(m_directory); }
-    ~Program() override { std::filesystem::remove_all(m_directory); }
-
     std::string Path(const std::string& name) const { return m_directory / name; }
 
     std::string Write(const std::string& name, const std::string& content) const
@@ -49,8 +47,7 @@ protected:
         return Run({"shell", "--store", Path("loci.sqlite")}, input);
     }
 
-    std::filesystem::path m_directory =
-        std::filesystem::path(testing::TempDir()) / ("tamrivo_program_" + std::to_string(getpid()));
+    Fakes::TemporaryDirectory m_directory;
     std::string m_out;
     std::string m_err;
 };
@@ -83,7 +80,7 @@ TEST_F(Program, AnswersWhatCantBeOpenedWithStatus1AndLeavesItAlone)
 
     EXPECT_EQ(Run({"shell", "--store", Path("loci.sqlite"), Path("missing.txt")}), 1);
     EXPECT_THAT(m_err, HasSubstr("missing.txt"));
-    EXPECT_EQ(Run({"shell", "--store", Path("loci.sqlite"), m_directory}), 1);
+    EXPECT_EQ(Run({"shell", "--store", Path("loci.sqlite"), m_directory.Path()}), 1);
     EXPECT_FALSE(std::filesystem::exists(Path("loci.sqlite")));
 }
 

@@ -1,4 +1,5 @@
 #include "console/shell/shell.h"
+#include "tests/fakes/temporary_directory.h"
 
 #include <gtest/gtest.h>
 
@@ -93,10 +94,8 @@ class Transcript : public testing::TestWithParam<std::string>
 
 TEST_P(Transcript, PlaysAgain)
 {
-    const std::filesystem::path directory = testing::TempDir();
-    const auto storePath = directory / (GetParam() + ".sqlite");
-    std::filesystem::remove(storePath);
-    Store store(storePath);
+    const Fakes::TemporaryDirectory directory;
+    Store store(directory / "store.sqlite");
     Fill(store);
 
     const std::string expected =
@@ -105,12 +104,7 @@ TEST_P(Transcript, PlaysAgain)
     std::ostringstream out;
     TranscriptSource source(transcript, out);
     Shell(store, source, out, out, AfterError::KeepGoing).Run();
-    const std::string played = WithoutDates(out.str());
-
-    const auto playedPath = directory / (GetParam() + ".txt");
-    std::ofstream(playedPath) << played;
-    EXPECT_EQ(played, expected) << "What was played stands in " << playedPath;
-    std::filesystem::remove(storePath);
+    EXPECT_EQ(WithoutDates(out.str()), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Shell, Transcript, testing::ValuesIn(TranscriptNames()),

@@ -1,6 +1,7 @@
 #include "desktop_test.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QPushButton>
 #include <QTimer>
 
@@ -11,6 +12,45 @@ namespace
 {
 
 constexpr const char* awaitedModal = "awaitedModal";
+
+void AddLocus(Store& store, const std::string& tag, int dye, int from, int to,
+              const std::string& panel)
+{
+    const auto locus = CreateObject<Locus>(store.Manager(), "Locus");
+    const auto project = store.ProjectNamed("Default");
+    locus->SetLocusTag(tag);
+    locus->SetIsCurrent(true);
+    locus->ProjectID = project->ProjectID();
+    locus->ProjectName = project->Name();
+    locus->PrimerSet = panel;
+    locus->DyeIndex = dye;
+    locus->FragStart = locus->ShortestAlleleSize = from;
+    locus->FragEnd = to;
+    locus->AlleleNamingConventionTypeID = AlleleNamingConvention::Numeric;
+    locus->GenerateAlleles();
+    store.Manager().Save(*locus, true);
+}
+
+/// The store that each test begins with.
+class FilledStore
+{
+public:
+    FilledStore()
+    {
+        Store store(Path().toStdString());
+        AddLocus(store, "D3S1358", 0, 80, 136, "H24");
+        AddLocus(store, "TH01", 0, 120, 180, "");
+        AddLocus(store, "FGA", 1, 200, 300, "H24");
+        ParameterStore parameters(store);
+        for (const char* name : {"Casework", "Research"})
+            parameters.Create(name, TagLists::OneEmpty);
+    }
+
+    QString Path() const { return m_directory.filePath("store.sqlite"); }
+
+private:
+    QTemporaryDir m_directory;
+};
 
 } // namespace
 
@@ -72,11 +112,12 @@ void Focus(QWidget& widget)
     QCoreApplication::processEvents();
 }
 
-DesktopTest::DesktopTest() : m_session(std::make_unique<StoreSession>(Address(), m_frontEnd))
+DesktopTest::DesktopTest()
 {
-    AddLocus("D3S1358", 0, 80, 136);
-    AddLocus("TH01", 0, 120, 180);
-    AddLocus("FGA", 1, 200, 300);
+    // Each change of a store waits for the disk, the copy of a whole one doesn't.
+    static const FilledStore filled;
+    QFile::copy(filled.Path(), m_directory.filePath("store.sqlite"));
+    m_session = std::make_unique<StoreSession>(Address(), m_frontEnd);
 }
 
 DesktopTest::~DesktopTest()
@@ -86,23 +127,6 @@ DesktopTest::~DesktopTest()
         ADD_FAILURE() << "A dialog was awaited and never opened";
         delete timer;
     }
-}
-
-void DesktopTest::AddLocus(const std::string& tag, int dye, int from, int to)
-{
-    Store& store = Host().Store();
-    const auto locus = CreateObject<Locus>(store.Manager(), "Locus");
-    const auto project = store.ProjectNamed("Default");
-    locus->SetLocusTag(tag);
-    locus->SetIsCurrent(true);
-    locus->ProjectID = project->ProjectID();
-    locus->ProjectName = project->Name();
-    locus->DyeIndex = dye;
-    locus->FragStart = locus->ShortestAlleleSize = from;
-    locus->FragEnd = to;
-    locus->AlleleNamingConventionTypeID = AlleleNamingConvention::Numeric;
-    locus->GenerateAlleles();
-    store.Manager().Save(*locus, true);
 }
 
 WizardOutcome DesktopTest::Edit(const std::string& tag,

@@ -43,8 +43,9 @@ void Type(QWidget& widget, const QString& text);
 /// Gives the widget the focus as the mouse does.
 void Focus(QWidget& widget);
 
-/// A store with the loci "D3S1358" (80 to 136 nt, dye D1), "TH01" (120 to 180, D1) and "FGA" (200
-/// to 300, D2), in the windows' front end.
+/// A store with the loci "D3S1358" (80 to 136 nt, dye D1, panel "H24"), "TH01" (120 to 180, D1) and
+/// "FGA" (200 to 300, D2, "H24") and the empty parameters "Casework" and "Research", in the
+/// windows' front end.
 class DesktopTest : public testing::Test
 {
 protected:
@@ -57,8 +58,6 @@ protected:
 
     /// Runs the editor on a stored locus, or on a new one for an empty tag.
     WizardOutcome Edit(const std::string& tag, const std::function<void(WizardDialog&)>& act);
-
-    void AddLocus(const std::string& tag, int dye, int from, int to);
 
     QTemporaryDir m_directory;
     DesktopFrontEnd m_frontEnd;

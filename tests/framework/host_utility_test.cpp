@@ -2,11 +2,11 @@
 #include "controls/user_control.h"
 #include "core/collection.h"
 #include "host/framework/host_utility.h"
+#include "tests/fakes/temporary_directory.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 
 namespace Tamrivo
@@ -80,9 +80,8 @@ TEST_F(HostUtilityTest, StopsForNobodyUnlessADebuggerIsMeantAndThere)
 
 TEST_F(HostUtilityTest, ReportsAreShownAndLogged)
 {
-    const auto directory = std::filesystem::path(testing::TempDir()) / "tamrivo_log_test";
-    std::filesystem::remove_all(directory);
-    setenv("XDG_STATE_HOME", directory.c_str(), 1);
+    const Fakes::TemporaryDirectory directory;
+    setenv("XDG_STATE_HOME", directory.Path().c_str(), 1);
 
     FailureReport shown;
     EXPECT_CALL(m_frontEnd, ShowReport).WillOnce(testing::SaveArg<0>(&shown));
@@ -91,11 +90,10 @@ TEST_F(HostUtilityTest, ReportsAreShownAndLogged)
     EXPECT_EQ(shown.ClassName + "." + shown.ProcedureName, "Page.Load");
     EXPECT_TRUE(shown.Final);
 
-    std::ifstream log(directory / "tamrivo" / "tamrivo.log");
+    std::ifstream log(directory / "tamrivo/tamrivo.log");
     const std::string text{std::istreambuf_iterator<char>(log), {}};
     EXPECT_THAT(text, testing::HasSubstr("Page.Load: no number {} [there, 13]"));
     unsetenv("XDG_STATE_HOME");
-    std::filesystem::remove_all(directory);
 }
 
 TEST_F(HostUtilityTest, WithoutADebuggerNothingStops)

@@ -1,0 +1,176 @@
+#include "desktop/common/settings.h"
+#include "desktop/lanes/lane_picture.h"
+#include "main_window_fixture.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include <fstream>
+
+namespace Tamrivo::Testing
+{
+
+TEST_F(MainWindowTest, LociAreFoundByAClickOrAFewKeys)
+{
+    EXPECT_EQ(Shown(), QStringList({"D3S1358", "FGA", "TH01"}));
+    ClickGroup("blue");
+    EXPECT_EQ(m_actions, 1);
+    EXPECT_EQ(Shown(), QStringList({"D3S1358", "TH01"}));
+    EXPECT_EQ(Group("blue").text(1), "2");
+    ClickGroup("Library");
+
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+    auto& search = Named<QLineEdit>(*m_window, "search");
+    EXPECT_TRUE(search.hasFocus());
+    Type(search, "dye:blue");
+    EXPECT_EQ(Shown(), QStringList({"D3S1358", "TH01"}));
+    Trigger("keepSearch");
+    search.setText("dye:pink");
+    auto& errors = Named<QLabel>(*m_window, "searchErrors");
+    EXPECT_TRUE(errors.isVisible() && errors.text().contains("dye:pink"));
+    search.clear();
+    EXPECT_FALSE(errors.isVisible());
+    ClickGroup("dye:blue");
+    EXPECT_EQ(Shown().size(), 2);
+    EXPECT_EQ(search.text(), "dye:blue");
+    Trigger("forgetSearch");
+    EXPECT_TRUE(KeptSearches().isEmpty());
+    search.clear();
+
+    m_actions = 0;
+    ClickGroup("H24");
+    PressInTable(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(m_actions, 2);
+    EXPECT_EQ(Table().ChosenRows().size(), 2U);
+    EXPECT_TRUE(Named<QLabel>(*m_window, "status").text().startsWith("2 of 2 chosen."));
+    Trigger("copy");
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Tag\tDye\t"));
+    EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 3);
+}
+
+TEST_F(MainWindowTest, SeveralAreDeletedWithOneQuestion)
+{
+    ClickTick("FGA");
+    Trigger("save");
+    m_actions = 0;
+    ClickRow("D3S1358");
+    ClickRow("FGA", Qt::ShiftModifier);
+    Answer("No", "Casework");
+    PressInTable(Qt::Key_Delete);
+    EXPECT_EQ(m_actions, 3);
+    EXPECT_EQ(Shown().size(), 3);
+    Answer("Yes", "D3S1358, FGA");
+    PressInTable(Qt::Key_Delete);
+    EXPECT_EQ(Shown(), QStringList({"TH01"}));
+    EXPECT_TRUE(m_window->OpenParameter()->SelectedTags().empty());
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "Deleted 2 loci.");
+}
+
+TEST_F(MainWindowTest, TwoAreCompared)
+{
+    ClickRow("D3S1358");
+    EXPECT_FALSE(Named<QAction>(*m_window, "compare").isEnabled());
+    ClickRow("TH01", Qt::ControlModifier);
+    ClickTool("compare");
+    EXPECT_EQ(m_actions, 3);
+    const auto& fields = Named<QTableWidget>(*m_window, "differences");
+    EXPECT_TRUE(fields.isVisible());
+    EXPECT_EQ(fields.horizontalHeaderItem(1)->text(), "D3S1358");
+    ASSERT_FALSE(fields.findItems("Fragment range", Qt::MatchExactly).isEmpty());
+    EXPECT_TRUE(fields.findItems("Dye", Qt::MatchExactly).isEmpty()) << "both are blue";
+}
+
+TEST_F(MainWindowTest, ALocusIsEditedRenamedCopiedAndMoved)
+{
+    OnModal([](QDialog& editor) {
+        EXPECT_EQ(Named<QLineEdit>(editor, "txtFragEnd").text(), "180");
+        Named<QLineEdit>(editor, "txtFragEnd").setFocus();
+        Named<QLineEdit>(editor, "txtFragEnd").selectAll();
+        Type(Named(editor, "txtFragEnd"), "190");
+        QTest::keyClick(&Named(editor, "txtFragEnd"), Qt::Key_Return);
+    });
+    ClickRow("TH01");
+    PressInTable(Qt::Key_Return);
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "Stored TH01.");
+    EXPECT_EQ(RowOf("TH01").siblingAtColumn(2).data().toString(), "120\u2013190");
+    ASSERT_EQ(Table().ChosenRows().size(), 1U);
+
+    AnswerName("TH01-2026");
+    Trigger("renameLocus");
+    OnModal([](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QInputDialog&>(dialog).textValue(), "TH01-2026 copy");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Trigger("duplicateLocus");
+    EXPECT_EQ(Shown(), QStringList({"D3S1358", "FGA", "TH01-2026", "TH01-2026 copy"}));
+    OnModal([](QDialog& dialog) {
+        dynamic_cast<QInputDialog&>(dialog).setTextValue("red");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Trigger("setDye");
+    OnModal([](QDialog& dialog) {
+        dynamic_cast<QInputDialog&>(dialog).setTextValue("Trial");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Trigger("setProject");
+    ClickGroup("Trial");
+    EXPECT_EQ(Shown(), QStringList({"TH01-2026 copy"}));
+    EXPECT_EQ(RowOf("TH01-2026 copy").siblingAtColumn(1).data().toString(), "red");
+}
+
+TEST_F(MainWindowTest, ABarOfTheLanesIsItsLocus)
+{
+    auto& preview = Named<QTabWidget>(*m_window, "preview");
+    preview.setCurrentIndex(1);
+    Settle();
+    auto& lanes = Named<LanePicture>(preview, "lanePicture");
+    const auto bars = lanes.Drawing().BarsInView(lanes.viewport()->size(), 0, lanes.fontMetrics());
+    ASSERT_EQ(bars.size(), 3U);
+    const LaneBar& bar = bars.back();
+    QTest::mouseClick(lanes.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      bar.Rect.center().toPoint());
+    Settle();
+    ASSERT_EQ(Table().ChosenRows().size(), 1U);
+    const QString tag = QString::fromStdString(lanes.Drawing().Loci()[bar.Locus].Tag);
+    EXPECT_EQ(Shown()[Table().ChosenRows().front()], tag);
+    OnModal([&](QDialog& editor) {
+        EXPECT_EQ(Named<QLineEdit>(editor, "txtLocusTag").text(), tag);
+        editor.reject();
+    });
+    QTest::mouseDClick(lanes.viewport(), Qt::LeftButton, Qt::NoModifier,
+                       bar.Rect.center().toPoint());
+    QTest::qWait(50);
+}
+
+TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
+{
+    ClickRow("FGA");
+    OnModal([this](QDialog& list) {
+        Type(Named(list, "filter"), "rename loc");
+        AnswerName("FGA-2");
+        QTest::keyClick(&Named(list, "filter"), Qt::Key_Return);
+    });
+    Trigger("commands");
+    EXPECT_TRUE(Shown().contains("FGA-2"));
+}
+
+TEST_F(MainWindowTest, AFileThatIsNoStoreIsRefusedInWordsAndTheOpenOneStays)
+{
+    const std::string path = m_directory.filePath("letter.sqlite").toStdString();
+    std::ofstream(path) << "Dear colleague, this is no store of any kind at all.";
+    OnModal([](QDialog& failure) {
+        EXPECT_TRUE(dynamic_cast<QMessageBox&>(failure).text().contains("letter.sqlite"));
+        QTest::keyClick(&failure, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(m_window->OpenStore(path));
+    EXPECT_EQ(Open(), "Casework");
+    AddAll();
+    Trigger("save");
+    EXPECT_FALSE(m_window->isWindowModified());
+}
+
+} // namespace Tamrivo::Testing

@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "host/loci/dyes.h"
 #include "host/loci/keys.h"
+#include "host/store/bulk_alleles.h"
 #include "host/store/locus_table.h"
 #include "host/store/parameter_store.h"
 #include "host/store/store.h"
@@ -110,6 +111,9 @@ private:
         CheckSource source;
         source.Count = loci.size();
         source.Locus = [loci = std::move(loci), dyes = m_dyes](std::size_t at) {
+            if (at % LociAtOnce == 0)
+                LoadAlleles(LociWithoutAlleles(
+                    std::span(loci).subspan(at, std::min(LociAtOnce, loci.size() - at))));
             return CheckedLocusOf(*loci[at], dyes);
         };
         return source;

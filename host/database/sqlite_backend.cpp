@@ -54,6 +54,11 @@ public:
         // directory that the journal is deleted from, without which a power cut just after a
         // commit could bring the journal back and undo it.
         session << "PRAGMA synchronous = EXTRA";
+        // In KiB. What a large import changes would else be written out, and the journal synced,
+        // again and again before its end.
+        session << "PRAGMA cache_size = -65536";
+        // What a savepoint may have to bring back is kept in memory too, not in a file of its own.
+        session << "PRAGMA temp_store = MEMORY";
     }
 
     bool IsReadOnly(soci::session& session) override

@@ -9,6 +9,7 @@
 #include "host/panels/panel_marker.h"
 #include "host/panels/table/kit_table_writer.h"
 #include "host/panels/table/panel_writer.h"
+#include "host/store/bulk_alleles.h"
 
 #include <algorithm>
 #include <map>
@@ -145,6 +146,9 @@ ExportPlan PlanExport(std::span<const std::shared_ptr<BusinessObject>> loci,
 
     for (const auto& member : loci)
     {
+        if (const std::size_t at = plan.Markers.size(); at % LociAtOnce == 0)
+            LoadAlleles(
+                LociWithoutAlleles(loci.subspan(at, std::min(LociAtOnce, loci.size() - at))));
         plan.Markers.push_back(MarkerFor(As<Locus>(member), dyes));
         if (progress)
             progress(plan.Markers.size(), loci.size());

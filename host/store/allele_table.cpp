@@ -1,9 +1,10 @@
 #include "host/store/allele_table.h"
 
+#include "core/text.h"
 #include "host/database/columns.h"
 #include "host/database/database.h"
 #include "host/store/allele_row.h"
-#include "host/store/history_content.h"
+#include "host/store/json_text.h"
 #include "host/store/locus_table.h"
 #include "host/store/stored_locus.h"
 
@@ -53,6 +54,27 @@ std::string InsertOfMany(AlleleRow& row)
     const std::string columns = ColumnNames(row);
     return "INSERT INTO Allele (" + columns + ") SELECT " + columns +
            " FROM json_populate_recordset(CAST(NULL AS Allele), CAST(:Rows AS json))";
+}
+
+/// The alleles at the positions as an array of JSON objects with the names of the columns as a
+/// server has them.
+std::string RowsOf(std::int32_t locusID, const std::vector<AlleleFields>& alleles,
+                   const std::vector<std::int32_t>& positions)
+{
+    JsonText rows;
+    rows.BeginArray();
+    for (const std::int32_t position : positions)
+    {
+        rows.BeginObject();
+        rows.Add("locusid", locusID);
+        rows.Add("position", position);
+        VisitAlleleFields(
+            alleles[static_cast<std::size_t>(position) - 1],
+            [&](std::string_view name, const auto& value) { rows.Add(FoldCase(name), value); });
+        rows.EndObject();
+    }
+    rows.EndArray();
+    return rows.Text();
 }
 
 } // namespace
@@ -124,7 +146,7 @@ void AlleleWriter::Replace(std::int32_t locusID, const std::vector<AlleleFields>
         return;
     if (m_statements->WritesMany)
     {
-        m_statements->Rows = AlleleRowsJson(locusID, alleles, different);
+        m_statements->Rows = RowsOf(locusID, alleles, different);
         m_statements->Write.execute(true);
         return;
     }

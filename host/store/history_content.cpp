@@ -1,14 +1,13 @@
 #include "host/store/history_content.h"
 
 #include "core/error.h"
-#include "core/text.h"
 #include "host/database/store_failure.h"
 #include "host/store/allele_row.h"
+#include "host/store/json_text.h"
 
 #include <nlohmann/json.hpp>
 
 #include <charconv>
-#include <cmath>
 #include <type_traits>
 
 namespace Tamrivo
@@ -21,18 +20,6 @@ using Json = nlohmann::ordered_json;
 
 constexpr int ContentFormat = 1;
 
-std::string Hex(const std::string& bytes)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string hex;
-    for (const char byte : bytes)
-    {
-        hex += digits[static_cast<unsigned char>(byte) >> 4U];
-        hex += digits[static_cast<unsigned char>(byte) & 0xFU];
-    }
-    return hex;
-}
-
 std::string FromHex(const std::string& hex)
 {
     std::string bytes;
@@ -43,22 +30,6 @@ std::string FromHex(const std::string& hex)
         bytes += static_cast<char>(byte);
     }
     return bytes;
-}
-
-template <class Value>
-Json JsonOf(const Value& value)
-{
-    if constexpr (std::is_same_v<Value, std::string>)
-    {
-        if (!IsUtf8(value))
-            return Json{{"Bytes", Hex(value)}};
-    }
-    if constexpr (std::is_same_v<Value, double>)
-    {
-        if (!std::isfinite(value))
-            return std::isnan(value) ? "nan" : value > 0 ? "inf" : "-inf";
-    }
-    return value;
 }
 
 template <class Value>
@@ -86,56 +57,73 @@ void Read(const Json& object, std::string_view name, Value& value)
     found->get_to(value);
 }
 
-Json JsonOfAllele(const AlleleFields& allele)
+/// Begins the object of a content.
+JsonText BeginContent()
 {
-    Json json = Json::object();
-    VisitAlleleFields(allele, [&](std::string_view name, const auto& value) {
-        if (value != std::decay_t<decltype(value)>())
-            json[std::string(name)] = JsonOf(value);
-    });
+    JsonText json;
+    json.BeginObject();
+    json.Add("Format", ContentFormat);
     return json;
+}
+
+std::string EndContent(JsonText& json)
+{
+    json.EndObject();
+    return json.Text();
 }
 
 } // namespace
 
 std::string ContentOf(const LocusState& state)
 {
-    Json json{
-        {"Format", ContentFormat}, {"LocusTag", JsonOf(state.Tag)}, {"IsCurrent", state.IsCurrent}};
+    JsonText json = BeginContent();
+    json.Add("LocusTag", state.Tag);
+    json.Add("IsCurrent", state.IsCurrent);
     for (const LocusField& field : LocusFieldTable)
-    {
-        std::visit(
-            [&](auto member) { json[std::string(field.Name)] = JsonOf(state.Fields.*member); },
-            field.Member);
-    }
-    Json& alleles = json["Alleles"] = Json::array();
+        std::visit([&](auto member) { json.Add(field.Name, state.Fields.*member); }, field.Member);
+    json.Name("Alleles");
+    json.BeginArray();
     for (const AlleleFields& allele : state.Alleles)
-        alleles.push_back(JsonOfAllele(allele));
-    return json.dump();
+    {
+        json.BeginObject();
+        VisitAlleleFields(allele, [&](std::string_view name, const auto& value) {
+            if (value != std::decay_t<decltype(value)>())
+                json.Add(name, value);
+        });
+        json.EndObject();
+    }
+    json.EndArray();
+    return EndContent(json);
 }
 
 std::string ContentOf(const ParameterState& state)
 {
-    return Json{{"Format", ContentFormat},
-                {"Name", JsonOf(state.Name)},
-                {"LocusTagListCount", state.LocusTagListCount},
-                {"LocusTagIDs", state.LocusTagIDs}}
-        .dump();
+    JsonText json = BeginContent();
+    json.Add("Name", state.Name);
+    json.Add("LocusTagListCount", state.LocusTagListCount);
+    json.Name("LocusTagIDs");
+    json.BeginArray();
+    for (const std::int32_t tagID : state.LocusTagIDs)
+        json.Value(tagID);
+    json.EndArray();
+    return EndContent(json);
 }
 
 std::string ContentOf(const Dyes& dyes)
 {
-    Json json{{"Format", ContentFormat}};
+    JsonText json = BeginContent();
     std::int32_t position = 0;
     for (const Dye& dye : dyes.All())
-        json["Dye " + std::to_string(++position)] =
-            dye.Color + (dye.Name.empty() ? "" : " " + dye.Name);
-    return json.dump();
+        json.Add("Dye " + std::to_string(++position),
+                 dye.Color + (dye.Name.empty() ? "" : " " + dye.Name));
+    return EndContent(json);
 }
 
 std::string ContentOfValue(const std::string& name, const std::string& value)
 {
-    return Json{{"Format", ContentFormat}, {name, JsonOf(value)}}.dump();
+    JsonText json = BeginContent();
+    json.Add(name, value);
+    return EndContent(json);
 }
 
 LocusState LocusStateOf(const HistoryRecord& record)
@@ -177,21 +165,6 @@ LocusState LocusStateOf(const HistoryRecord& record)
                       what + "can't be read: its record in the history is damaged. "
                              "tamrivo history --verify tells which records are");
     }
-}
-
-std::string AlleleRowsJson(std::int32_t locusID, const std::vector<AlleleFields>& alleles,
-                           const std::vector<std::int32_t>& positions)
-{
-    Json rows = Json::array();
-    for (const std::int32_t position : positions)
-    {
-        Json row{{"locusid", locusID}, {"position", position}};
-        VisitAlleleFields(
-            alleles[static_cast<std::size_t>(position) - 1],
-            [&](std::string_view name, const auto& value) { row[FoldCase(name)] = JsonOf(value); });
-        rows.push_back(std::move(row));
-    }
-    return rows.dump();
 }
 
 } // namespace Tamrivo

@@ -13,7 +13,7 @@ namespace Tamrivo
 
 // The state of an object as the history keeps it: a JSON object with its fields by name and the
 // number of the form, "Format". What equals the initial value of a new allele is left out. Texts
-// that aren't UTF-8 stand as {"Bytes": "HEX"}, numbers without a decimal form as text.
+// and numbers that JSON has no form for stand as `JsonText` writes them.
 
 /// The state of an analysis parameter.
 struct ParameterState
@@ -33,9 +33,5 @@ std::string ContentOfValue(const std::string& name, const std::string& value);
 /// newer version of this program has written, `StoreError::NotAStore` for a damaged one, and
 /// `StoreError::NotFound` for the record of a deletion.
 LocusState LocusStateOf(const HistoryRecord& record);
-
-/// The alleles as an array of JSON objects with the names of the columns in lower case.
-std::string AlleleRowsJson(std::int32_t locusID, const std::vector<AlleleFields>& alleles,
-                           const std::vector<std::int32_t>& positions);
 
 } // namespace Tamrivo

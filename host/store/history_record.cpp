@@ -36,11 +36,9 @@ std::string DigestOf(const HistoryRecord& record, const std::string& previous)
     const auto add = [&text](const std::string& part) {
         text.append(std::to_string(part.size())).append(":").append(part).append("\n");
     };
-    HistoryRecord copy = record;
-    copy.Digest = previous;
-    copy.VisitColumns([&](std::string_view, const auto& value) {
+    record.VisitColumns([&](std::string_view, const auto& value) {
         if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::string>)
-            add(value);
+            add(&value == &record.Digest ? previous : value);
         else
             add(std::to_string(value));
     });

@@ -59,20 +59,32 @@ struct HistoryRecord
     template <class Visit>
     void VisitColumns(Visit&& visit)
     {
-        visit("Kind", Kind);
-        visit("ObjectNumber", ObjectNumber);
-        visit("Revision", Revision);
-        visit("WrittenAt", WrittenAt);
-        visit("Who", Who);
-        visit("ServerUser", ServerUser);
-        visit("Program", Program);
-        visit("Machine", Machine);
-        visit("Operation", Operation);
-        visit("Name", Name);
-        visit("NameKey", NameKey);
-        visit("Reason", Reason);
-        visit("Content", Content);
-        visit("Digest", Digest);
+        VisitColumnsOf(*this, visit);
+    }
+    template <class Visit>
+    void VisitColumns(Visit&& visit) const
+    {
+        VisitColumnsOf(*this, visit);
+    }
+
+private:
+    template <class Record, class Visit>
+    static void VisitColumnsOf(Record& record, Visit& visit)
+    {
+        visit("Kind", record.Kind);
+        visit("ObjectNumber", record.ObjectNumber);
+        visit("Revision", record.Revision);
+        visit("WrittenAt", record.WrittenAt);
+        visit("Who", record.Who);
+        visit("ServerUser", record.ServerUser);
+        visit("Program", record.Program);
+        visit("Machine", record.Machine);
+        visit("Operation", record.Operation);
+        visit("Name", record.Name);
+        visit("NameKey", record.NameKey);
+        visit("Reason", record.Reason);
+        visit("Content", record.Content);
+        visit("Digest", record.Digest);
     }
 };
 

@@ -79,8 +79,14 @@ public:
     /// Makes tag, fields and alleles those of the state.
     void SetState(const LocusState& state);
 
+    /// The database that it comes from.
+    Database& SharedDatabase() const { return *m_database; }
     /// The tag as it is looked up.
     const std::string& TagKey() const { return m_tagKey; }
+    /// Replaces the alleles with copies, as if they had been loaded.
+    void SetAlleles(const std::vector<struct AlleleFields>& rows);
+    /// They are loaded anew when they are asked for.
+    void ForgetAlleles() { m_alleles.reset(); }
     /// The alleles, or none while they haven't been loaded.
     const ObjectList* LoadedAlleles() const { return m_alleles.get(); }
 
@@ -102,9 +108,6 @@ private:
         TagObserver* Observer;
         std::uint32_t Rank;
     };
-
-    /// Replaces the list's content, creating the list if there is none.
-    void SetAlleles(const std::vector<struct AlleleFields>& rows);
 
     std::shared_ptr<Database> m_database;
     LocusIdentity m_identity;

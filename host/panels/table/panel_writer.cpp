@@ -5,6 +5,7 @@
 #include "host/panels/marker_name.h"
 #include "host/panels/panel_marker.h"
 #include "host/panels/table/panel_table.h"
+#include "host/store/bulk_alleles.h"
 
 #include <algorithm>
 #include <cmath>
@@ -114,12 +115,11 @@ void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<Business
                      const Dyes& dyes, const LociProgress& progress)
 {
     PanelTableWriter writer(out, dyes);
-    for (std::size_t done = 0; done < loci.size(); ++done)
-    {
+    ForEachWithAlleles(loci, [&](Locus& locus, std::size_t done) {
         if (progress)
             progress(done, loci.size());
-        writer.Write(*As<Locus>(loci[done]));
-    }
+        writer.Write(locus);
+    });
 }
 
 } // namespace Tamrivo

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <new>
+#include <system_error>
 
 using namespace Tamrivo;
 
@@ -17,6 +18,13 @@ HRESULT ResultOf(Action action)
         action();
         return S_OK;
     }
+#ifdef _WIN32
+    catch (const std::system_error& refused)
+    {
+        TheModule().LastFailure = CurrentError();
+        return HRESULT_FROM_WIN32(static_cast<DWORD>(refused.code().value()));
+    }
+#endif
     catch (const std::exception&)
     {
         TheModule().LastFailure = CurrentError();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "component/registry_entry.h"
 #include "core/text.h"
 
 #include <cstdlib>
@@ -16,28 +17,10 @@
 namespace Tamrivo::Registry
 {
 
-struct Entry
-{
-    std::string Name;
-    std::string ClassId;
-    std::filesystem::path ModulePath;
-};
-
-/// A path as the file has it, whatever the platform's own encoding is.
-inline std::string PathText(const std::filesystem::path& path)
-{
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-/// "tamrivo/classes.tsv" in `XDG_DATA_HOME`, else in "~/.local/share"; under Windows in
-/// `LOCALAPPDATA`. Empty when the environment names no such directory.
+/// "tamrivo/classes.tsv" in `XDG_DATA_HOME`, else in "~/.local/share". Empty when the environment
+/// names no such directory.
 inline std::filesystem::path Path()
 {
-#ifdef _WIN32
-    const wchar_t* const value = _wgetenv(L"LOCALAPPDATA");
-    const std::filesystem::path data = value ? value : L"";
-#else
     const auto variable = [](const char* name) {
         const char* const value = std::getenv(name);
         return std::filesystem::path(value ? value : "");
@@ -45,7 +28,6 @@ inline std::filesystem::path Path()
     std::filesystem::path data = variable("XDG_DATA_HOME");
     if (!data.is_absolute())
         data = variable("HOME") / ".local" / "share";
-#endif
     return data.is_absolute() ? data / "tamrivo" / "classes.tsv" : std::filesystem::path();
 }
 

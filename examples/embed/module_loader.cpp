@@ -1,9 +1,15 @@
 #include "examples/embed/module_loader.h"
 
 #include "component/guid_text.h"
+#ifdef _WIN32
+#include "component/registry_windows.h"
+#else
 #include "component/registry_file.h"
+#endif
 
+#ifndef _WIN32
 #include <dlfcn.h>
+#endif
 
 #include <stdexcept>
 
@@ -18,17 +24,56 @@ namespace
     throw std::runtime_error(what);
 }
 
+#ifdef _WIN32
+
+[[noreturn]] void FailOfPlatform(const std::string& what)
+{
+    const std::error_code error(static_cast<int>(GetLastError()), std::system_category());
+    Fail(what + ": " + error.message());
+}
+
+void* Open(const std::filesystem::path& path)
+{
+    const HMODULE module = LoadLibraryW(path.c_str());
+    return module ? module : (FailOfPlatform(Tamrivo::Registry::PathText(path)), nullptr);
+}
+
+void Close(void* module)
+{
+    FreeLibrary(static_cast<HMODULE>(module));
+}
+
+void* Address(void* module, const char* name)
+{
+    const auto address = GetProcAddress(static_cast<HMODULE>(module), name);
+    return address ? reinterpret_cast<void*>(address) : (FailOfPlatform(name), nullptr);
+}
+
+#else
+
 void* Open(const std::filesystem::path& path)
 {
     void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     return module ? module : (Fail(dlerror()), nullptr);
 }
 
+void Close(void* module)
+{
+    dlclose(module);
+}
+
+void* Address(void* module, const char* name)
+{
+    void* const address = dlsym(module, name);
+    return address ? address : (Fail(dlerror()), nullptr);
+}
+
+#endif
+
 template <class Function>
 Function* Entry(void* module, const char* name)
 {
-    void* const address = dlsym(module, name);
-    return address ? reinterpret_cast<Function*>(address) : (Fail(dlerror()), nullptr);
+    return reinterpret_cast<Function*>(Address(module, name));
 }
 
 /// Why the module's last call failed, behind a colon; nothing when it doesn't say.
@@ -42,19 +87,19 @@ std::string Reason(const Pointer<Tamrivo::IHostSite>& site)
 
 LoadedModule::LoadedModule(const std::filesystem::path& path)
     : m_handle(Open(path)),
-      m_getClassObject(Entry<HRESULT(REFCLSID, REFIID, void**)>(m_handle, "DllGetClassObject")),
-      m_canUnloadNow(Entry<HRESULT()>(m_handle, "DllCanUnloadNow"))
+      m_getClassObject(Entry<GetClassObjectFunction>(m_handle, "DllGetClassObject")),
+      m_canUnloadNow(Entry<PlainFunction>(m_handle, "DllCanUnloadNow"))
 {}
 
 LoadedModule::~LoadedModule()
 {
     if (m_canUnloadNow() == S_OK)
-        dlclose(m_handle);
+        Close(m_handle);
 }
 
 HRESULT LoadedModule::Call(const char* function) const
 {
-    return Entry<HRESULT()>(m_handle, function)();
+    return Entry<PlainFunction>(m_handle, function)();
 }
 
 Created ModuleLoader::Create(const std::string& className)

@@ -79,12 +79,15 @@ public:
     HRESULT Call(const char* function) const;
 
 private:
+    using GetClassObjectFunction = HRESULT STDMETHODCALLTYPE(REFCLSID, REFIID, void**);
+    using PlainFunction = HRESULT STDMETHODCALLTYPE();
+
     void* m_handle;
-    HRESULT (*m_getClassObject)(REFCLSID, REFIID, void**);
-    HRESULT (*m_canUnloadNow)();
+    GetClassObjectFunction* m_getClassObject;
+    PlainFunction* m_canUnloadNow;
 };
 
-/// Finds classes by name in the registry file and loads the modules that they stand in.
+/// Finds classes by name in the registry and loads the modules that they stand in.
 class ModuleLoader
 {
 public:

@@ -70,14 +70,16 @@ void LocusEditorPage::cmdSaveAs_Click()
 
 void LocusEditorPage::CountNewTag(Guard& run)
 {
-    int nSaveTimes = 1;
+    std::int16_t nSaveTimes = 1;
     if (run([&] { return HasParameter(ParameterKey::SaveTimes); }))
     {
-        nSaveTimes +=
-            run([&] { return ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes); });
+        nSaveTimes = run([&] {
+            return ToShortInteger(
+                ParameterItem<std::int16_t>(Parameters(), ParameterKey::SaveTimes) + 1);
+        });
         run([&] { Parameters().Remove(ParameterKey::SaveTimes); });
     }
-    run([&] { Parameters().Add(ToShortInteger(nSaveTimes), ParameterKey::SaveTimes); });
+    run([&] { Parameters().Add(nSaveTimes, ParameterKey::SaveTimes); });
 }
 
 } // namespace Tamrivo

@@ -9,7 +9,7 @@ namespace
 
 const ErrorRecord Cause{13, "here", "it broke", "help", 7};
 
-/// A procedure of three steps, of which the second fails a number of times.
+/// A procedure of the steps a, b and c.
 class Procedure : private Guarded
 {
 public:
@@ -18,9 +18,8 @@ public:
     void Run(Guard::Form form)
     {
         const auto body = [this](Guard& run) {
-            run([this] { Log += 'a'; });
-            run([this] { Fail(); });
-            run([this] { Log += 'c'; });
+            for (const char step : {'a', 'b', 'c'})
+                run([this, step] { Do(step); });
         };
         switch (form)
         {
@@ -31,14 +30,16 @@ public:
     }
 
     std::string Log;
-    int Failures = 1;
+    std::string Failing; ///< The steps that fail, in the order in which they do.
 
 private:
-    void Fail()
+    void Do(char step)
     {
-        Log += 'b';
-        if (Failures-- > 0)
-            throw Failure(Cause);
+        Log += step;
+        if (!Failing.starts_with(step))
+            return;
+        Failing.erase(0, 1);
+        throw Failure(Cause);
     }
 };
 
@@ -47,7 +48,7 @@ struct GuardCase
     Guard::Form Form;
     bool Debug;
     bool Stops;
-    int Failures;
+    const char* Failing;
     const char* Log;
     std::size_t Breaks;
     bool Final;
@@ -58,16 +59,18 @@ TEST(Guard, ReportsEndsAndRetriesByItsForm)
 {
     using enum Guard::Form;
     const GuardCase cases[] = {
-        {Propagating, false, false, 1, "ab", 0, false, true},
-        {Propagating, true, false, 1, "ab", 1, false, true},
-        {Propagating, true, true, 1, "abbc", 1, false, false},
-        {Propagating, true, true, 2, "abb", 1, false, true},
-        {Terminal, false, false, 1, "ab", 0, true, false},
-        {Terminal, true, false, 1, "ab", 1, true, false},
-        {Terminal, true, true, 1, "abbc", 1, true, false},
-        {Terminal, true, true, 2, "abb", 1, true, true},
-        {Reporting, false, false, 1, "ab", 0, true, false},
-        {Reporting, true, true, 1, "ab", 0, true, false},
+        {Propagating, false, false, "b", "ab", 0, false, true},
+        {Propagating, true, false, "b", "ab", 1, false, true},
+        {Propagating, true, true, "b", "abbc", 1, false, false},
+        {Propagating, true, true, "bb", "abb", 1, false, true},
+        {Propagating, true, true, "bc", "abbc", 1, false, true},
+        {Terminal, false, false, "b", "ab", 0, true, false},
+        {Terminal, true, false, "b", "ab", 1, true, false},
+        {Terminal, true, true, "b", "abbc", 1, true, false},
+        {Terminal, true, true, "bb", "abb", 1, true, true},
+        {Terminal, true, true, "bc", "abbc", 1, true, true},
+        {Reporting, false, false, "b", "ab", 0, true, false},
+        {Reporting, true, true, "b", "ab", 0, true, false},
     };
     for (const auto& expected : cases)
     {
@@ -77,7 +80,7 @@ TEST(Guard, ReportsEndsAndRetriesByItsForm)
         if (expected.Debug)
             reporter.OnDebugBreak = [&] { return ++breaks, expected.Stops; };
         Procedure procedure(reporter);
-        procedure.Failures = expected.Failures;
+        procedure.Failing = expected.Failing;
 
         bool passed = false;
         try
@@ -103,6 +106,7 @@ TEST(Guard, AFailureOfItsOwnStepsGoesToTheCaller)
     Fakes::FakeUtility reporter;
     reporter.OnDebugBreak = []() -> bool { throw Failure(99, "debugger", "lost"); };
     Procedure procedure(reporter);
+    procedure.Failing = "b";
     EXPECT_THROW(procedure.Run(Guard::Form::Terminal), Failure);
     EXPECT_EQ(reporter.Reports.size(), 1U);
 }

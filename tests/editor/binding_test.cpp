@@ -175,12 +175,25 @@ TEST_F(BindingTest, LoadingTrimsAndCompletes)
     EXPECT_EQ(Page.txtStartAtNumeric.Text(), "1");
     EXPECT_EQ(Locus->StartAtNumeric, 0);
 
-    Page.txtRepeatUnitSequence.SetText(" typed ");
+    const std::pair<TextField*, std::string LocusFields::*> typed[] = {
+        {&Page.txtLocusName, &LocusFields::LocusName},
+        {&Page.txtRepeatUnitSequence, &LocusFields::RepeatUnitSequence},
+        {&Page.txtRepeatsInShortestAllele, &LocusFields::RepeatsInShortestAllele},
+        {&Page.txtPrimerSet, &LocusFields::PrimerSet},
+        {&Page.txtGenBank, &LocusFields::GenBank},
+        {&Page.txtFwd, &LocusFields::FwdPrimer},
+        {&Page.txtRev, &LocusFields::RevPrimer},
+    };
+    for (const auto& [field, property] : typed)
+        field->SetText(" typed ");
+    Page.txtLocusTag.SetText(" TPOX ");
     Page.txtConfInt.SetText("");
     Page.txtStartAtNumeric.SetText("anything");
     Locus->ConfInt = 0.125;
     Host.Base->Save();
-    EXPECT_EQ(Locus->RepeatUnitSequence, " typed ");
+    for (const auto& [field, property] : typed)
+        EXPECT_EQ((*Locus).*property, " typed ") << field->Name();
+    EXPECT_EQ(Locus->Tag, " TPOX ");
     EXPECT_EQ(Locus->PrimerLabelTypeID, PrimerLabel::None);
     EXPECT_EQ(Locus->SystemConfInt, static_cast<double>(0.95F));
     EXPECT_EQ(Locus->ConfInt, 0.125);
@@ -215,11 +228,18 @@ TEST_F(BindingTest, AfterADebugStopOnlyTheFailingStepRunsAgain)
     EXPECT_EQ(Page.txtPrimerSet.Text(), "set");
 }
 
-TEST_F(BindingTest, ADyeOutsideTheListIsAClearFailure)
+TEST_F(BindingTest, WhatTheLocusHasAndThePageCantHoldIsAClearFailure)
 {
     Locus->DyeIndex = 4;
     EXPECT_EQ(FailureOf([&] { Open(Mode::Edit); }), ErrorNumber::InvalidArgument);
-    EXPECT_EQ(Reports().front(), (Fakes::Report{"LoadDefaults", false}));
+    Locus->DyeIndex = 0;
+    for (const double interval : {1e39, -1e39})
+    {
+        Locus->SystemConfInt = interval;
+        EXPECT_EQ(FailureOf([&] { OpenAgain(); }), ErrorNumber::OutOfRange);
+    }
+    const Tamrivo::Reports each{{"LoadDefaults", false}, {"m_oPageBase_Initialize", false}};
+    EXPECT_EQ(Reports(), (Tamrivo::Reports{each[0], each[1], each[0], each[1], each[0], each[1]}));
 }
 
 TEST_F(BindingTest, AFieldThatDoesNotConvertStopsTheStoringThere)

@@ -13,6 +13,7 @@ enum class Mode
 {
     New,
     Edit,
+    EditUntagged,
     NewBinning,
     BinningTagged,
     BinningUntagged,
@@ -44,8 +45,9 @@ public:
     {
         const bool isNew = mode == Mode::New || mode == Mode::NewBinning;
         Locus->Id = Locus->TagId = isNew ? 0 : 12;
-        Locus->Tag = isNew || mode == Mode::BinningUntagged ? "" : "TPOX";
-        if (mode != Mode::New && mode != Mode::Edit)
+        Locus->Tag =
+            isNew || mode == Mode::EditUntagged || mode == Mode::BinningUntagged ? "" : "TPOX";
+        if (mode >= Mode::NewBinning)
             Parameters().Add(std::static_pointer_cast<BinningContext>(Binning), "Binning");
     }
 

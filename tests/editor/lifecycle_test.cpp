@@ -64,6 +64,7 @@ TEST_P(EditorModes, ShowTheControlsOfTheMode)
 INSTANTIATE_TEST_SUITE_P(All, EditorModes,
                          ::testing::Values(ModeRow{Mode::New, true, false, true, true},
                                            ModeRow{Mode::Edit, false, true, true, true},
+                                           ModeRow{Mode::EditUntagged, false, true, true, true},
                                            ModeRow{Mode::NewBinning, true, false, true, false},
                                            ModeRow{Mode::BinningTagged, false, false, false, false},
                                            ModeRow{Mode::BinningUntagged, true, false, false,

@@ -75,15 +75,16 @@ public:
         Locus->UserSpecifiedConfInt = Pick(3);
         Locus->SearchForStutter = Pick(2) == 0;
         Locus->AlleleNamingConventionTypeID = AlleleNamingConvention::NominalSize + Pick(3);
-        m_mode = static_cast<Mode>(Pick(5));
+        m_mode = static_cast<Mode>(Pick(6));
         Host.Launcher.Run = [this](ParameterCollection& parameters) {
             const auto created =
                 ParameterItem<std::shared_ptr<Tamrivo::Locus>>(parameters, "SaveLocusAs");
             created->SetLocusTag(created->LocusTag() + (Pick(2) == 0 ? "'" : ""));
             return Pick(3) != 0;
         };
-        static constexpr const char* openings[] = {"new", "edit TPOX", "new --binning",
-                                                   "edit TPOX --binning", "edit \"\" --binning"};
+        static constexpr const char* openings[] = {
+            "new",           "edit TPOX",           "edit \"\"",
+            "new --binning", "edit TPOX --binning", "edit \"\" --binning"};
         Note(openings[static_cast<int>(m_mode)]);
         Open(m_mode);
         m_fields = *Locus;

@@ -34,7 +34,9 @@ TEST_F(SaveAsTest, AnotherTagMakesTheNewLocusTheOneOfThePage)
     fields = {1, 2, 3, 4, 5, "name", "b", "c", 6, 7, 8};
     Page.txtGenBank.SetText("typed");
     NameIt("TPOX 2");
+    Page.txtLocusTag.SetVisible(true);
     User::Click(Page.cmdSaveAs);
+    EXPECT_FALSE(Page.txtLocusTag.Visible());
 
     EXPECT_EQ(Host.Launcher.Started,
               std::vector<std::string>{"SaveLocusTagAs - 1 -1 -1 -1 -1 -1 \"\" 0 0"});
@@ -66,6 +68,7 @@ TEST_F(SaveAsTest, TheSameTagSavesThePresentLocus)
 {
     Page.txtGenBank.SetText("typed");
     NameIt("tpox");
+    Page.txtLocusTag.SetVisible(true);
     User::Click(Page.cmdSaveAs);
     EXPECT_EQ(Host.Objects.Saved, std::vector<const BusinessObject*>{Locus.get()});
     EXPECT_EQ(Locus->Tag + Locus->GenBank, "TPOXtyped");
@@ -82,6 +85,22 @@ TEST_F(SaveAsTest, TheSameTagAfterAnotherIsNoNewLocusAnyMore)
     Host.Base->Save();
     EXPECT_FALSE(Parameters().KeyExists("NewSaveAs"));
     EXPECT_EQ(SaveTimes(), 1);
+}
+
+TEST_F(SaveAsTest, TheCountOfNewTagsEndsWhereItsTypeDoes)
+{
+    NameIt("Fresh");
+    Parameters().Add(std::int16_t{32766}, "SaveTimes");
+    User::Click(Page.cmdSaveAs);
+    EXPECT_EQ(SaveTimes(), 32767);
+    EXPECT_TRUE(Reports().empty());
+
+    NameIt("Fresher");
+    User::Click(Page.cmdSaveAs);
+    EXPECT_EQ(Reports(), (Tamrivo::Reports{{"cmdSaveAs_Click", true}}));
+    EXPECT_EQ(Reports()[0].Error.Number, ErrorNumber::OutOfRange);
+    EXPECT_EQ(SaveTimes(), 32767);
+    EXPECT_EQ(Page.txtLocusTag.Text() + "|" + Page.lblLocusTag.Caption(), "Fresher|Fresh");
 }
 
 TEST_F(SaveAsTest, ACancelledWizardLeavesTheLocusAlone)

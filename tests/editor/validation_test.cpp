@@ -35,6 +35,7 @@ TEST_F(ValidationTest, MarksTheTagByTheModeOfThePage)
         {Mode::New, " TPOX", ""},
         {Mode::Edit, "TPOX", ""},
         {Mode::Edit, "vWA", ""},
+        {Mode::EditUntagged, "TPOX", ""},
         {Mode::NewBinning, "TPOX", NotUnique},
         {Mode::BinningTagged, "TPOX", ""},
         {Mode::BinningUntagged, "TPOX", NotUnique},

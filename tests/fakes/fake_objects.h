@@ -94,6 +94,8 @@ public:
     {
         if (RepeatLength < 1)
             throw Failure(ErrorNumber::InvalidArgument, "FakeLocus", "no repeat unit");
+        if (FragEnd > 10'000)
+            throw Failure(ErrorNumber::InvalidArgument, "FakeLocus", "too many alleles");
         AlleleList.Objects.clear();
         for (std::int32_t size = ShortestAlleleSize; size <= FragEnd; size += RepeatLength)
         {

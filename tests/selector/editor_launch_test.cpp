@@ -43,22 +43,25 @@ TEST_F(EditorLaunch, EveryStoredTagOfAnEditReachesTheGrid)
         std::vector<std::string> SaveAs;
         bool Completed;
         std::vector<std::string> Added;
+        bool Refreshed;
     } const cases[] = {
-        {{}, false, {}},
-        {{}, true, {}},
-        {{"K"}, true, {"K"}},
-        {{"L"}, false, {"L"}},
-        {{"M", "N"}, true, {"N", "M"}},
-        {{"O", "P"}, false, {"O", "P"}},
+        {{}, false, {}, false},
+        {{}, true, {}, false},
+        {{"K"}, true, {"K"}, false},
+        {{"L"}, false, {"L"}, true},
+        {{"M", "N"}, true, {"N", "M"}, true},
+        {{"O", "P"}, false, {"O", "P"}, true},
     };
-    for (const auto& [saveAs, completed, added] : cases)
+    for (const auto& [saveAs, completed, added, refreshed] : cases)
     {
+        host.Objects.Requests.clear();
         auto expected = TagsOf(available);
         expected.insert(expected.end(), added.begin(), added.end());
         Wizard(saveAs, completed);
         User::Click(selected, 1);
         User::Click(selector.cmdEditSTRLocus);
         EXPECT_EQ(given->Tag, "D");
+        EXPECT_EQ(!host.Objects.Requests.empty(), refreshed);
         EXPECT_EQ(TagsOf(available), expected);
         EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E"));
         EXPECT_EQ(static_cast<std::size_t>(selector.AllLocusTags()->Count()), 2 + expected.size());

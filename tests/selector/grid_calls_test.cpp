@@ -125,9 +125,11 @@ public:
     }
     HighlightedRows GetHighlightedRows(const Gridocx& grid, std::int32_t value) const override
     {
-        EXPECT_EQ(value, 1);
+        HighlightsAskedFor.push_back(value);
         return GridModelHelper::GetHighlightedRows(grid, value);
     }
+
+    mutable std::vector<std::int32_t> HighlightsAskedFor;
 
 private:
     static RecordedGrid& Of(Gridocx& grid) { return dynamic_cast<RecordedGrid&>(grid); }
@@ -138,7 +140,7 @@ struct Recorded : SelectorTest
 {
     Recorded()
     {
-        host.Helper = std::make_shared<RecordedHelper>();
+        host.Helper = helper;
         host.MakeGrid = [this] {
             return std::make_shared<RecordedGrid>(log, m_grids++ == 0 ? "A." : "S.");
         };
@@ -146,6 +148,7 @@ struct Recorded : SelectorTest
     Log Take() { return std::exchange(log, {}); }
 
     Log log;
+    std::shared_ptr<RecordedHelper> helper = std::make_shared<RecordedHelper>();
 
 private:
     int m_grids = 0;
@@ -180,6 +183,10 @@ TEST_F(Recorded, OpeningFillsBothGridsInItsOrder)
     User::Click(recorded.cmdEditSTRLocus);
     EXPECT_EQ(Take(),
               "A.lockReadOnly 0; A.lock 1; A.write22 1; A.lock 0; A.redraw 2; A.lockReadOnly 1; ");
+    User::Click(recorded.mnuNewAvailable);
+    User::Click(recorded.gridSelected, 1);
+    User::Click(recorded.mnuNewSelected);
+    EXPECT_THAT(helper->HighlightsAskedFor, ElementsAre(1, 1));
 }
 
 TEST_F(Recorded, TheSwitchWorksOnBothGridsInItsOrderAndRestoresThem)

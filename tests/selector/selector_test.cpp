@@ -104,6 +104,8 @@ TEST_F(Selector, ButtonsAndMenusMoveTheHighlightOrElseTheCurrentRow)
     EXPECT_EQ(Buttons(), "AddSingle AddAll RemoveAll EditSTRLocus NewSTRLocus ");
 
     host.SharedGridHelper().SetHighlightedRows(available.Object(), {});
+    available->SelectionChanged(nullptr, 0, 0);
+    EXPECT_TRUE(selector.mnuEditAvailable.Enabled() && selector.cmdEditSTRLocus.Enabled());
     User::Click(selector.mnuAdd);
     EXPECT_THAT(TagsOf(selected), ElementsAre("D", "E", "A", "C", "B")) << "the current row moves";
 

@@ -59,6 +59,34 @@ TEST_F(ClassObjects, AnswerWithThePublishedCodes)
     EXPECT_EQ(Host.Utility.Reports.size(), 1U) << "to cancel is no failure";
 }
 
+TEST_F(ClassObjects, WhatTheReportRaisesIsAResultCode)
+{
+    const ErrorRecord full{8, "log", "full", "", 0};
+    Host.Objects.Before = [](const std::string&) { throw Failure(7, "store", "gone"); };
+    Host.Base = nullptr;
+    const std::pair<std::function<void()>, HRESULT> cases[] = {
+        {[&] { throw Failure(full); }, E_FAIL},
+        {[] { throw std::bad_alloc(); }, E_OUTOFMEMORY},
+        {[] { throw 8; }, E_ABORT},
+    };
+    Held<IHostSite> site;
+    GetFactory("Tamrivo.Service", IHostSite::Id, site.Out());
+    for (const char* name :
+         {"Tamrivo.Service", "Tamrivo.LocusEditorPage", "Tamrivo.SaveAsLocusPage"})
+    {
+        for (const auto& [raise, result] : cases)
+        {
+            Host.Utility.OnReport = raise;
+            Held<IUnknown> object;
+            EXPECT_EQ(CreateFor(Host, name, IID_IUnknown, object.Out()), result) << name;
+            EXPECT_EQ(object.Pointer, nullptr);
+        }
+    }
+    ErrorRecord failure;
+    EXPECT_EQ(site->GetLastFailure(&failure), S_OK);
+    EXPECT_EQ(failure, full);
+}
+
 TEST_F(ClassObjects, StayLoadedWhileAnythingLives)
 {
     Held<IClassFactory> factory;

@@ -188,8 +188,16 @@ TEST_F(SelectorViewTest, ADisabledSelectorIsGreyedAndStays)
     EXPECT_EQ(Available().palette().color(QPalette::Base),
               QApplication::palette().color(QPalette::Button));
     EXPECT_FALSE(Named(m_view, "cmdNewSTRLocus").isEnabled());
-    m_page.Selector().cmdAddAll.SetEnabled(true);
-    EXPECT_FALSE(Named(m_view, "cmdAddAll").isEnabled()) << "what would be refused is grey";
+    m_page.Selector().Initialize(Host().Parameters().Open("P"));
+    for (const char* button : {"cmdAddAll", "cmdAddSingle", "cmdRemoveAll", "cmdRemoveSingle",
+                               "cmdEditSTRLocus", "cmdNewSTRLocus"})
+    {
+        EXPECT_FALSE(Named(m_view, button).isEnabled()) << "what would be refused is grey";
+        Press(button);
+        QTest::keyClick(&Named(m_view, button), Qt::Key_Space);
+    }
+    EXPECT_TRUE(m_page.Selector().cmdAddAll.Enabled()) << "the button's own switch";
+    EXPECT_EQ(Tags(Available()), "D3S1358 FGA TH01");
     m_page.Selector().SetEnabled(true);
     EXPECT_TRUE(Named(m_view, "cmdAddAll").isEnabled());
     EXPECT_TRUE(Named(m_view, "cmdNewSTRLocus").isEnabled());

@@ -45,6 +45,7 @@ public:
         Headings.insert(std::string(title) + "|" + std::string(className) + "|" +
                         std::string(extra));
         Reports.push_back({std::string(procedureName), bFinal, error});
+        OnReport();
     }
     bool DebugMode() const override { return OnDebugBreak != nullptr; }
     bool DebugBreak(std::int32_t) override
@@ -90,6 +91,7 @@ public:
 
     std::set<std::string> Headings; ///< Title, class and extra text of each report.
     std::vector<Report> Reports;
+    std::function<void()> OnReport = [] {}; ///< May raise a failure.
     /// The stop for the debugger; without one there is no debug mode.
     std::function<bool()> OnDebugBreak;
 };

@@ -30,6 +30,7 @@ double SearchAgainstScan();
 double SearchMilliseconds();
 double CheckOfLoci();
 double CheckByLoci();
+double FitOfLoci();
 
 double SelectorInitialize();
 double SelectorSort();
@@ -64,6 +65,7 @@ inline constexpr Figure Figures[] = {
     {"search_time", "The same", 30, "ms", SearchMilliseconds},
     {"check", "Checking 100,000 loci with 15 alleles each / reading them", 3, "", CheckOfLoci},
     {"check_by_loci", "Checking 10,000 to 100,000 loci / n log n", 1, "", CheckByLoci},
+    {"fit", "Fitting 1,000 loci with 1,000 sizes each / sorting the sizes", 10, "", FitOfLoci},
     {"selector_open", "Selector over 100,000 loci / their query by name", 2, "",
      SelectorInitialize},
     {"selector_sort", "Sorting the grid, 1,000 to 100,000 loci / n log n", 1, "", SelectorSort},

@@ -3,8 +3,8 @@
 #include "host/checks/check_rules.h"
 
 #include <cstddef>
-#include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +22,7 @@ struct CheckSource
     };
 
     std::size_t Count = 0; ///< Of the loci.
-    /// The locus with a number; asked for once, in their order. May raise failures of the store.
+    /// The locus with a number; asked for once. May raise failures of the store.
     std::function<CheckedLocus(std::size_t)> Locus;
     std::vector<Group> Groups;
     /// Whether findings about a locus are wanted, or it is only looked at beside others. Empty: all
@@ -30,7 +30,8 @@ struct CheckSource
     std::vector<bool> IsWanted;
 };
 
-/// A check that is made in steps, so that others can have their turn in between.
+/// A check that is made in steps, so that others can have their turn in between. A locus is kept
+/// for as long as a group that it belongs to is still to be checked.
 class CheckRun
 {
 public:
@@ -43,20 +44,30 @@ public:
     bool Step();
     /// Loci and groups that have been checked, and how many there are.
     std::size_t Done() const { return m_done; }
-    std::size_t Total() const { return m_source.Count + m_source.Groups.size(); }
+    std::size_t Total() const { return m_steps.size(); }
 
     /// By locus in the source's order, and by rule; what no locus has comes last.
     const std::vector<Finding>& Found() const { return m_found; }
 
 private:
-    void CheckNextLocus();
-    void CheckNextGroup(const CheckSource::Group& group);
+    struct NextStep
+    {
+        bool IsGroup;
+        std::size_t Number;
+    };
+
+    void Plan();
+    void CheckOne(std::size_t number);
+    void CheckTogether(const CheckSource::Group& group);
     bool IsWanted(std::size_t locus) const;
     void Finish();
 
     CheckSource m_source;
     ChosenRules m_rules;
-    std::deque<CheckedLocus> m_loci; ///< Groups point into it.
+    std::vector<NextStep> m_steps;
+    std::vector<std::size_t> m_uses; ///< Of each locus: groups that are still to be checked.
+    std::vector<std::optional<CheckedLocus>> m_loci;
+    std::vector<std::string> m_tags;
     std::size_t m_done = 0;
     std::vector<Finding> m_found;
 };

@@ -4,6 +4,7 @@
 #include "contracts/locus_fields.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,8 @@ struct CheckedLocus
     std::vector<const AlleleFields*> Alleles; ///< By size.
     std::string Dye;                          ///< As people call it.
     bool HasKnownDye = true;
-    bool StatesConvention = true; ///< Whether anyone has chosen the naming convention.
+    bool StatesConvention = true;      ///< Whether anyone has chosen the naming convention.
+    std::shared_ptr<const void> Owner; ///< Keeps what the members point to, where nobody else does.
 };
 
 /// Loci that are analysed together: those of a panel or of an analysis parameter.

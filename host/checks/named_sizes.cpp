@@ -106,7 +106,7 @@ SizeModel::SizeModel(const NamedSizes& named) : m_named(&named)
 
 bool SizeModel::IsMisfit(std::size_t at, std::int32_t repeatLength) const
 {
-    constexpr double tolerance = 0.5; // nt
+    constexpr double tolerance = 0.6; // nt
     constexpr double drift = 0.035;   // nt a nt beyond two repeats
     const double far = std::max(0.0, m_distances[at] - 2.0 * repeatLength);
     return std::abs(m_named->Sizes[at] - m_expected[at]) > tolerance + drift * far;

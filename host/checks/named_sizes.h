@@ -42,7 +42,7 @@ public:
 
     /// The size, nt, that neighbours expect of an allele.
     double ExpectedSize(std::size_t at) const { return m_expected[at]; }
-    /// Whether a size is further off than 0.5 nt and what drift explains, which grows with the
+    /// Whether a size is further off than 0.6 nt and what drift explains, which grows with the
     /// distance to the neighbours.
     bool IsMisfit(std::size_t at, std::int32_t repeatLength) const;
 

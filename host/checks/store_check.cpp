@@ -110,11 +110,15 @@ private:
     {
         CheckSource source;
         source.Count = loci.size();
-        source.Locus = [loci = std::move(loci), dyes = m_dyes](std::size_t at) {
-            if (at % LociAtOnce == 0)
+        source.Locus = [loci = std::move(loci), dyes = m_dyes](std::size_t at) mutable {
+            const std::size_t begin = at - at % LociAtOnce;
+            const auto* locus = dynamic_cast<const StoredLocus*>(loci[at].get());
+            if (locus && !locus->LoadedAlleles())
                 LoadAlleles(LociWithoutAlleles(
-                    std::span(loci).subspan(at, std::min(LociAtOnce, loci.size() - at))));
-            return CheckedLocusOf(*loci[at], dyes);
+                    std::span(loci).subspan(begin, std::min(LociAtOnce, loci.size() - begin))));
+            CheckedLocus checked = CheckedLocusOf(*loci[at], dyes);
+            checked.Owner = std::move(loci[at]);
+            return checked;
         };
         return source;
     }

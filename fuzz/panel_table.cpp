@@ -2,7 +2,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const Tamrivo::PanelText file{"file", Tamrivo::Fuzz::Text(data, size)};
+    const Tamrivo::PanelFile file = Tamrivo::PanelFileOf("file", Tamrivo::Fuzz::Text(data, size));
     Tamrivo::Fuzz::ReadAll({&file, 1}, Tamrivo::PanelFormat::PanelTable);
     return 0;
 }

@@ -12,7 +12,7 @@ namespace Tamrivo::Fuzz
 {
 
 /// Reads files of a format and does with their markers what a plan does with them.
-inline void ReadAll(std::span<const PanelText> files, PanelFormat format)
+inline void ReadAll(std::span<const PanelFile> files, PanelFormat format)
 {
     PanelReading reading = ReadPanels(files, {.Format = format});
     for (const PanelComplaint& complaint : reading.Complaints)

@@ -62,10 +62,10 @@ ChosenRules RulesWithout(const std::vector<std::string>& names)
 /// The markers that have what a locus needs; the others are told on standard error.
 std::vector<PanelMarker> ReadFiles(Context& context, const std::vector<std::string>& files)
 {
-    std::vector<PanelText> texts;
+    std::vector<PanelFile> panels;
     for (const std::string& file : files)
-        texts.push_back(LoadPanelFile(file));
-    PanelReading reading = ReadPanels(texts);
+        panels.push_back(OpenPanelFile(file));
+    PanelReading reading = ReadPanels(panels);
     if (!reading.Complaints.empty())
         throw Failure(ErrorNumber::InvalidArgument, "Check",
                       "Nothing was checked: " + reading.Complaints.front().Text());

@@ -1,21 +1,17 @@
 #include "console/commands/command.h"
 #include "console/commands/progress_line.h"
 #include "console/commands/stored_loci.h"
-#include "core/text.h"
 #include "host/loci/counts.h"
-#include "host/panels/bins/panels_bins_writer.h"
-#include "host/panels/export_plan.h"
+#include "host/panels/export_files.h"
+#include "host/panels/export_scope.h"
 #include "host/panels/panel_files.h"
 #include "host/panels/table/kit_table_writer.h"
 #include "host/panels/whole_file.h"
-#include "host/store/parameter_store.h"
 #include "host/store/store.h"
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <memory>
-#include <unordered_map>
 
 namespace Tamrivo
 {
@@ -23,67 +19,14 @@ namespace Tamrivo
 namespace
 {
 
-using StoredLoci = std::vector<std::shared_ptr<BusinessObject>>;
-
 struct ExportOptions
 {
     std::vector<std::string> Files;
     std::string Format = "panel-table";
     ExportChoice Choice;
-    std::string Parameter;
-    std::string Panel;
-    std::vector<std::string> Tags;
+    ExportScope Scope;
     bool Append = false;
 };
-
-[[noreturn]] void Refuse(std::int32_t number, const std::string& why)
-{
-    throw Failure(number, "Export", "Nothing was exported: " + why);
-}
-
-/// The loci of an analysis parameter, in its order.
-StoredLoci LociOfParameter(Store& store, const StoredLoci& current, const std::string& name)
-{
-    ParameterStore parameters(store);
-    const auto parameter = parameters.Open(name);
-    StoredLoci loci;
-    if (parameter->FragAnalysisParam().LocusTagListCount() == 0)
-        return loci;
-    std::unordered_map<std::int32_t, std::size_t> places;
-    for (std::size_t at = 0; at < current.size(); ++at)
-        places.emplace(As<Locus>(current[at])->LocusTagID(), at);
-    for (const auto& entry : parameter->FragAnalysisParam().LocusTagList(0).Entries())
-    {
-        if (const auto place = places.find(entry->TagID(0)); place != places.end())
-            loci.push_back(current[place->second]);
-    }
-    return loci;
-}
-
-StoredLoci ChosenLoci(Store& store, const ExportOptions& options)
-{
-    StoredLoci loci;
-    if (!options.Tags.empty())
-    {
-        for (const std::string& tag : options.Tags)
-            loci.push_back(RequireLocus(store, tag));
-        return loci;
-    }
-    const auto list = CurrentLoci(store.Manager(), "");
-    loci.assign(list->Members().begin(), list->Members().end());
-    if (!options.Parameter.empty())
-        return LociOfParameter(store, loci, options.Parameter);
-    if (!options.Panel.empty())
-    {
-        std::erase_if(loci, [&options](const auto& locus) {
-            return !EqualNoCase(Trim(As<Locus>(locus)->PrimerSet), Trim(options.Panel));
-        });
-        if (loci.empty())
-            Refuse(StoreError::NotFound,
-                   "the store has no loci of a panel (primer set) \"" + options.Panel + "\"");
-    }
-    return loci;
-}
 
 void CheckFiles(const ExportOptions& options)
 {
@@ -99,20 +42,11 @@ void CheckFiles(const ExportOptions& options)
 
 void WriteFiles(const ExportOptions& options, const ExportPlan& plan, const LociProgress& progress)
 {
-    const std::string& file = options.Files.front();
-    if (options.Append)
-    {
-        const PanelText table = LoadPanelFile(file);
-        WriteWholeFile(
-            file, [&](std::ostream& out) { AppendToKitTable(out, table.Text, plan, progress); });
-    }
-    else if (plan.Choice.Format == PanelFormat::PanelsBins)
-    {
-        WriteWholeFile(file, [&](std::ostream& out) { WritePanelsFile(out, plan); });
-        WriteWholeFile(options.Files.back(), [&](std::ostream& out) { WriteBinsFile(out, plan); });
-    }
-    else
-        WriteWholeFile(file, [&](std::ostream& out) { WriteExport(out, plan, progress); });
+    if (!options.Append)
+        return WriteExportFiles(plan, options.Files, progress);
+    const PanelText table = LoadPanelFile(options.Files.front());
+    WriteWholeFile(options.Files.front(),
+                   [&](std::ostream& out) { AppendToKitTable(out, table.Text, plan, progress); });
 }
 
 void Export(Context& context, ExportOptions options)
@@ -120,9 +54,11 @@ void Export(Context& context, ExportOptions options)
     options.Choice.Format = FindFormat(options.Format).value_or(PanelFormat::PanelTable);
     CheckFiles(options);
     Store store(context.StoreLocation);
+    for (const std::string& tag : options.Scope.Tags)
+        RequireLocus(store, tag);
     ProgressLine progress(context.Err);
-    const ExportPlan plan = PlanExport(ChosenLoci(store, options), options.Choice, store.Dyes(),
-                                       progress.Counting("Reading the loci"));
+    const ExportPlan plan = PlanExport(LociInScope(store, options.Scope), options.Choice,
+                                       store.Dyes(), progress.Counting("Reading the loci"));
     progress.Clear();
     if (options.Files.empty())
     {
@@ -144,13 +80,14 @@ void Export(Context& context, ExportOptions options)
 void AddChoiceOfLoci(CLI::App& command, ExportOptions& options)
 {
     auto* parameter = command
-                          .add_option("--parameter", options.Parameter,
+                          .add_option("--parameter", options.Scope.Parameter,
                                       "Only the loci of this analysis parameter, in its order")
                           ->type_name("NAME");
     auto* panel =
-        command.add_option("--panel", options.Panel, "Only the loci of this panel (primer set)")
+        command
+            .add_option("--panel", options.Scope.Panel, "Only the loci of this panel (primer set)")
             ->type_name("NAME");
-    command.add_option("--tag", options.Tags, "Only this locus; may be given several times")
+    command.add_option("--tag", options.Scope.Tags, "Only this locus; may be given several times")
         ->type_name("TAG")
         ->expected(1)
         ->take_all()

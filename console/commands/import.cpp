@@ -43,13 +43,13 @@ std::string SourceOf(const ImportOptions& options)
 
 PanelReading ReadFiles(Context& context, const ImportOptions& options)
 {
-    std::vector<PanelText> texts;
+    const std::shared_ptr<std::istream> input(&context.In, [](std::istream*) {});
+    std::vector<PanelFile> files;
     for (const std::string& file : options.Files)
-        texts.push_back(file == "-" ? LoadPanelStream(context.In, "standard input")
-                                    : LoadPanelFile(file));
+        files.push_back(file == "-" ? PanelFile{"standard input", input} : OpenPanelFile(file));
     ReadChoice choice = options.Read;
     choice.Panels = options.Choice.Panels;
-    return ReadPanels(texts, choice);
+    return ReadPanels(files, choice);
 }
 
 /// A place with the file in front where the place leaves it out, since there is only one.

@@ -53,11 +53,11 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
     AddPreview(*layout);
     AddDecision(*layout);
 
-    m_options->onBinSet = [this] { m_actions.Run([this] { ReadTexts(); }); };
+    m_options->onReading = [this] { m_actions.Run([this] { ReadFiles(); }); };
     m_options->onPlan = [this] { m_actions.Run([this] { Plan(); }); };
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& row) { m_differences->Show(m_preview->PlannedAt(row)); });
-    connect(m_preview, &ImportPreviewModel::PanelsChosen, this,
+    connect(m_preview, &ImportPreviewModel::MarkersChosen, this,
             [this] { m_actions.Run([this] { Plan(); }); });
     m_replan.setSingleShot(true);
     m_replan.setInterval(300);
@@ -140,24 +140,29 @@ void ImportDialog::AddDecision(QBoxLayout& layout)
 void ImportDialog::Preview(const QStringList& paths)
 {
     m_paths = paths;
-    m_texts.clear();
-    for (const QString& path : paths)
-    {
-        m_texts.push_back(LoadPanelFile(FromQString(path)));
-        m_texts.back().Name = FromQString(QFileInfo(path).fileName());
-    }
     m_source->setToolTip(paths.join('\n'));
     OfferProjects();
     // Where a panel has several sets of bins one must be chosen before anything can be read.
     m_options->OfferBinSets({});
-    m_options->OfferBinSets(ReadPanels(m_texts).BinSets);
-    ReadTexts();
+    m_options->OfferBinSets(Read().BinSets);
+    ReadFiles();
 }
 
-void ImportDialog::ReadTexts()
+PanelReading ImportDialog::Read() const
+{
+    std::vector<PanelFile> files;
+    for (const QString& path : m_paths)
+    {
+        files.push_back(OpenPanelFile(FromQString(path)));
+        files.back().Name = FromQString(QFileInfo(path).fileName());
+    }
+    return ReadPanels(files, {.Format = m_options->Format(), .BinSet = m_options->BinSet()});
+}
+
+void ImportDialog::ReadFiles()
 {
     m_differences->Show(nullptr);
-    PanelReading reading = ReadPanels(m_texts, {.BinSet = m_options->BinSet()});
+    PanelReading reading = Read();
     m_complaints = std::move(reading.Complaints);
     m_preview->SetMarkers(std::move(reading.Markers));
     m_source->setText(QString("%1 (markers: %2, panels: %3)")
@@ -189,15 +194,15 @@ void ImportDialog::Plan()
     m_replan.stop();
     // Nothing of the former plan may stay in view if this one fails.
     ShowPlan({});
-    const auto panels = m_preview->ChosenPanels();
-    if (m_complaints.empty() && !panels.empty())
+    auto markers = m_preview->ChosenMarkers();
+    if (m_complaints.empty() && !markers.empty())
     {
         LongWork work(m_store, "Comparing the table with the store...", this);
         ShowPlan(PlanImport(m_preview->Markers(),
-                            {.Panels = panels,
-                             .Project = Trim(FromQString(m_project->currentText())),
+                            {.Project = Trim(FromQString(m_project->currentText())),
                              .AddDyes = m_options->AddDyes(),
-                             .Update = m_options->Update()},
+                             .Update = m_options->Update(),
+                             .Markers = std::move(markers)},
                             m_store,
                             [&](std::size_t done, std::size_t total) { work.Show(done, total); }));
     }
@@ -242,8 +247,8 @@ QString ImportDialog::Obstacle() const
                "import it again.";
     if (m_preview->Markers().empty())
         return "Nothing to import: the table has no markers.";
-    if (m_preview->ChosenPanels().empty())
-        return "Tick a panel to import.";
+    if (m_preview->ChosenMarkers().empty())
+        return "Tick a panel or a marker to import.";
     if (m_preview->Plan().Loci.empty())
         return "The table wasn't compared with the store. Untick and tick a panel to try again.";
     if (!m_preview->Plan().IsAny())

@@ -24,9 +24,9 @@ class DifferenceView;
 class ImportOptions;
 class ImportPreviewModel;
 
-/// Shows what the import of panel files would do before it is done: each panel with a box to
-/// tick, each marker with what it becomes or why it can't come in. Imports all that was ticked or
-/// nothing; what can't come in is left out only when the person says so.
+/// Shows what the import of panel files would do before it is done: panels and markers with a box
+/// to tick, each marker with what it becomes or why it can't come in. Imports all that was ticked
+/// or nothing; what can't come in is left out only when the person says so.
 class ImportDialog : public QDialog
 {
 public:
@@ -46,8 +46,11 @@ private:
     void AddSourceRow(QBoxLayout& layout);
     void AddPreview(QBoxLayout& layout);
     void AddDecision(QBoxLayout& layout);
-    /// Reads the files' texts by what is chosen, and shows their markers.
-    void ReadTexts();
+    /// Reads the files by what is chosen. Raises `ErrorNumber::InvalidArgument` when one can't be
+    /// read.
+    PanelReading Read() const;
+    /// Reads the files, and shows their markers.
+    void ReadFiles();
     /// Plans the import of what is ticked, and shows the plan.
     void Plan();
     void ShowPlan(ImportPlan plan);
@@ -60,7 +63,6 @@ private:
     Store& m_store;
     const Actions& m_actions;
     QStringList m_paths;
-    std::vector<PanelText> m_texts;
     QString m_result;
     std::vector<PanelComplaint> m_complaints; ///< Of the table's lines.
     QTimer m_replan; ///< Runs while the name of the project is being typed.

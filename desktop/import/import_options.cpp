@@ -1,6 +1,7 @@
 #include "desktop/import/import_options.h"
 
 #include "desktop/common/text.h"
+#include "desktop/import/import_words.h"
 #include "host/loci/counts.h"
 
 #include <QCheckBox>
@@ -16,11 +17,18 @@ namespace Tamrivo
 
 ImportOptions::ImportOptions(QWidget* parent)
     : QWidget(parent),
+      m_format(new QComboBox(this)),
       m_binsCaption(new QLabel("Set of &bins:", this)),
       m_bins(new QComboBox(this)),
       m_addDyes(new QCheckBox("&Add the dyes that are missing to the store", this)),
       m_update(new QCheckBox("&Update the loci that differ", this))
 {
+    auto* formatCaption = new QLabel("&Format:", this);
+    formatCaption->setBuddy(m_format);
+    m_format->setObjectName("importFormat");
+    m_format->setAccessibleName("Format");
+    m_format->addItem("As their content tells");
+    m_format->addItems(FormatTitles());
     m_binsCaption->setBuddy(m_bins);
     m_bins->setObjectName("importBins");
     m_bins->setAccessibleName("Set of bins");
@@ -30,16 +38,19 @@ ImportOptions::ImportOptions(QWidget* parent)
                          "the files can't carry stays.");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(formatCaption);
+    row->addWidget(m_format);
     row->addWidget(m_binsCaption);
     row->addWidget(m_bins);
     row->addWidget(m_addDyes);
     row->addWidget(m_update);
     row->addStretch(1);
 
-    connect(m_bins, &QComboBox::currentTextChanged, this, [this] {
-        if (onBinSet)
-            onBinSet();
-    });
+    for (QComboBox* box : {m_format, m_bins})
+        connect(box, &QComboBox::currentIndexChanged, this, [this] {
+            if (onReading)
+                onReading();
+        });
     for (QCheckBox* box : {m_addDyes, m_update})
         connect(box, &QCheckBox::toggled, this, [this] {
             if (onPlan)
@@ -57,6 +68,13 @@ void ImportOptions::OfferBinSets(const std::vector<std::string>& names)
         m_bins->addItem(ToQString(name));
     m_binsCaption->setVisible(names.size() > 1);
     m_bins->setVisible(names.size() > 1);
+}
+
+std::optional<PanelFormat> ImportOptions::Format() const
+{
+    if (m_format->currentIndex() < 1)
+        return std::nullopt;
+    return static_cast<PanelFormat>(m_format->currentIndex() - 1);
 }
 
 std::string ImportOptions::BinSet() const

@@ -63,17 +63,16 @@ void ImportPreviewModel::SetMarkers(std::vector<PanelMarker> markers)
     m_markers = std::move(markers);
     m_plan = {};
     m_panels.clear();
-    m_panelOf.clear();
     std::map<std::string, std::size_t> panelOfName;
     for (std::size_t marker = 0; marker < m_markers.size(); ++marker)
     {
         const std::string name = Trim(m_markers[marker].Panel);
         const auto [panel, isNew] = panelOfName.emplace(FoldCase(name), m_panels.size());
         if (isNew)
-            m_panels.push_back({name, true, {}});
+            m_panels.push_back({name, {}});
         m_panels[panel->second].Markers.push_back(marker);
-        m_panelOf.push_back(panel->second);
     }
+    m_isChosen.assign(m_markers.size(), true);
     m_plannedFor.assign(m_markers.size(), nullptr);
     endResetModel();
 }
@@ -81,14 +80,9 @@ void ImportPreviewModel::SetMarkers(std::vector<PanelMarker> markers)
 void ImportPreviewModel::SetPlan(ImportPlan plan)
 {
     m_plan = std::move(plan);
-    // The plan has the markers of the chosen panels, in the table's order.
-    auto planned = m_plan.Loci.cbegin();
-    for (std::size_t marker = 0; marker < m_plannedFor.size(); ++marker)
-    {
-        const bool isPlanned =
-            m_panels[m_panelOf[marker]].IsChosen && planned != m_plan.Loci.cend();
-        m_plannedFor[marker] = isPlanned ? &*planned++ : nullptr;
-    }
+    std::ranges::fill(m_plannedFor, nullptr);
+    for (const PlannedLocus& planned : m_plan.Loci)
+        m_plannedFor[planned.Index] = &planned;
     for (int panel = 0; panel < rowCount(); ++panel)
     {
         const QModelIndex parent = index(panel, 0);
@@ -101,19 +95,33 @@ const PlannedLocus* ImportPreviewModel::PlannedAt(const QModelIndex& index) cons
 {
     if (!index.isValid() || index.internalId() == panelRow)
         return nullptr;
-    const Panel& panel = m_panels[static_cast<std::size_t>(index.internalId()) - 1];
-    return m_plannedFor[panel.Markers[static_cast<std::size_t>(index.row())]];
+    return m_plannedFor[MarkerAt(index)];
 }
 
-std::vector<std::string> ImportPreviewModel::ChosenPanels() const
+std::size_t ImportPreviewModel::MarkerAt(const QModelIndex& index) const
 {
-    std::vector<std::string> chosen;
-    for (const Panel& panel : m_panels)
+    const Panel& panel = m_panels[static_cast<std::size_t>(index.internalId()) - 1];
+    return panel.Markers[static_cast<std::size_t>(index.row())];
+}
+
+std::vector<std::size_t> ImportPreviewModel::ChosenMarkers() const
+{
+    std::vector<std::size_t> chosen;
+    for (std::size_t marker = 0; marker < m_isChosen.size(); ++marker)
     {
-        if (panel.IsChosen)
-            chosen.push_back(panel.Name);
+        if (m_isChosen[marker])
+            chosen.push_back(marker);
     }
     return chosen;
+}
+
+Qt::CheckState ImportPreviewModel::StateOf(const Panel& panel) const
+{
+    const auto chosen = std::ranges::count_if(
+        panel.Markers, [this](std::size_t marker) { return m_isChosen[marker]; });
+    if (chosen == 0)
+        return Qt::Unchecked;
+    return chosen == std::ssize(panel.Markers) ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 QModelIndex ImportPreviewModel::index(int row, int column, const QModelIndex& parent) const
@@ -148,18 +156,16 @@ int ImportPreviewModel::columnCount(const QModelIndex& /*parent*/) const
 Qt::ItemFlags ImportPreviewModel::flags(const QModelIndex& index) const
 {
     Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    if (index.internalId() == panelRow && index.column() == Name)
+    if (index.column() == Name)
         flags |= Qt::ItemIsUserCheckable;
     return flags;
 }
 
 QVariant ImportPreviewModel::data(const QModelIndex& index, int role) const
 {
-    const auto row = static_cast<std::size_t>(index.row());
     if (index.internalId() == panelRow)
-        return PanelData(m_panels[row], index.column(), role);
-    const Panel& panel = m_panels[static_cast<std::size_t>(index.internalId()) - 1];
-    return MarkerData(panel.Markers[row], index.column(), role);
+        return PanelData(m_panels[static_cast<std::size_t>(index.row())], index.column(), role);
+    return MarkerData(MarkerAt(index), index.column(), role);
 }
 
 QVariant ImportPreviewModel::PanelData(const Panel& panel, int column, int role) const
@@ -169,7 +175,7 @@ QVariant ImportPreviewModel::PanelData(const Panel& panel, int column, int role)
     if (role == Qt::DisplayRole && column == Fate)
         return SummaryOf(panel);
     if (role == Qt::CheckStateRole && column == Name)
-        return panel.IsChosen ? Qt::Checked : Qt::Unchecked;
+        return StateOf(panel);
     if (role == Qt::FontRole)
     {
         QFont font;
@@ -181,7 +187,7 @@ QVariant ImportPreviewModel::PanelData(const Panel& panel, int column, int role)
 
 QString ImportPreviewModel::SummaryOf(const Panel& panel) const
 {
-    if (!panel.IsChosen)
+    if (StateOf(panel) == Qt::Unchecked)
         return "Not chosen";
     std::size_t comesIn = 0;
     for (const std::size_t marker : panel.Markers)
@@ -197,6 +203,10 @@ QVariant ImportPreviewModel::MarkerData(std::size_t marker, int column, int role
     switch (role)
     {
     case Qt::DisplayRole: return MarkerText(marker, column);
+    case Qt::CheckStateRole:
+        if (column == Name)
+            return m_isChosen[marker] ? Qt::Checked : Qt::Unchecked;
+        return {};
     case Qt::ToolTipRole:
         return planned != nullptr && column == Remarks ? RemarksOn(*planned) : QString();
     case Qt::TextAlignmentRole:
@@ -244,11 +254,18 @@ QString ImportPreviewModel::MarkerText(std::size_t marker, int column) const
 
 bool ImportPreviewModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || index.internalId() != panelRow)
+    if (role != Qt::CheckStateRole || index.column() != Name)
         return false;
-    m_panels[static_cast<std::size_t>(index.row())].IsChosen = value.toInt() == Qt::Checked;
-    emit dataChanged(index, index);
-    emit PanelsChosen();
+    const bool isChosen = value.toInt() == Qt::Checked;
+    if (index.internalId() != panelRow)
+        m_isChosen[MarkerAt(index)] = isChosen;
+    else
+    {
+        for (const std::size_t marker : m_panels[static_cast<std::size_t>(index.row())].Markers)
+            m_isChosen[marker] = isChosen;
+    }
+    // The rows follow once there is a plan for what is ticked now.
+    emit MarkersChosen();
     return true;
 }
 

@@ -10,7 +10,7 @@
 namespace Tamrivo
 {
 
-/// Panels with a box to tick each, and below them their markers with what an import would do.
+/// Panels, and below them their markers with what an import would do, each with a box to tick.
 class ImportPreviewModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -31,18 +31,18 @@ public:
 
     using QAbstractItemModel::QAbstractItemModel;
 
-    /// Shows the markers of a table, all panels ticked and nothing planned.
+    /// Shows the markers of a table, all of them ticked and nothing planned.
     void SetMarkers(std::vector<PanelMarker> markers);
     const std::vector<PanelMarker>& Markers() const { return m_markers; }
-    /// Shows what a plan for `ChosenPanels` says.
+    /// Shows what a plan for `ChosenMarkers` says.
     void SetPlan(ImportPlan plan);
     const ImportPlan& Plan() const { return m_plan; }
 
     /// The plan of the marker in a row; null for a panel, and for a marker that isn't planned.
     const PlannedLocus* PlannedAt(const QModelIndex& index) const;
 
-    /// The ticked panels; the table's first spelling of each name.
-    std::vector<std::string> ChosenPanels() const;
+    /// Positions of the ticked markers.
+    std::vector<std::size_t> ChosenMarkers() const;
     std::size_t PanelCount() const { return m_panels.size(); }
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -55,17 +55,19 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    /// The person has ticked a panel or taken a tick away.
-    void PanelsChosen();
+    /// The person has ticked a marker or a panel, or taken a tick away.
+    void MarkersChosen();
 
 private:
     struct Panel
     {
-        std::string Name;
-        bool IsChosen = true;
+        std::string Name;                 ///< In the table's first spelling.
         std::vector<std::size_t> Markers; ///< Positions in the table.
     };
 
+    /// The position of the marker in a row.
+    std::size_t MarkerAt(const QModelIndex& index) const;
+    Qt::CheckState StateOf(const Panel& panel) const;
     QVariant PanelData(const Panel& panel, int column, int role) const;
     QVariant MarkerData(std::size_t marker, int column, int role) const;
     QString MarkerText(std::size_t marker, int column) const;
@@ -74,8 +76,8 @@ private:
     std::vector<PanelMarker> m_markers;
     ImportPlan m_plan;
     std::vector<Panel> m_panels;
-    std::vector<std::size_t> m_panelOf;            ///< Of each marker.
-    std::vector<const PlannedLocus*> m_plannedFor; ///< In the plan; null when not chosen.
+    std::vector<bool> m_isChosen;                  ///< Of each marker.
+    std::vector<const PlannedLocus*> m_plannedFor; ///< Of each marker; null when not chosen.
 };
 
 /// Why a locus can't come in, or what is noteworthy about it, in sentences; may be empty.

@@ -2,6 +2,7 @@
 
 #include "desktop/common/text.h"
 #include "host/loci/counts.h"
+#include "host/panels/panel_format.h"
 
 namespace Tamrivo
 {
@@ -15,6 +16,18 @@ QString Sentence(const std::string& start, const QString& end)
 }
 
 } // namespace
+
+QStringList FormatTitles()
+{
+    QStringList titles;
+    for (const PanelFormatName& format : PanelFormatNames)
+    {
+        QString title = ToQString(format.Title);
+        title[0] = title[0].toUpper();
+        titles.append(title);
+    }
+    return titles;
+}
 
 QStringList ReasonsAgainst(const std::vector<PanelComplaint>& complaints, const ImportPlan& plan)
 {

@@ -11,6 +11,9 @@ namespace Tamrivo
 
 // What a person is told of an import, before and after.
 
+/// The formats of files by their names, in the order of `PanelFormat`.
+QStringList FormatTitles();
+
 /// What can't come in, line by line; past a number that nobody reads the rest is only counted.
 QStringList ReasonsAgainst(const std::vector<PanelComplaint>& complaints, const ImportPlan& plan);
 

@@ -1,14 +1,14 @@
 #include "host/panels/import_plan.h"
 
 #include "core/text.h"
-#include "host/loci/keys.h"
+#include "host/panels/import_choice.h"
+#include "host/panels/import_tags.h"
 #include "host/panels/locus_columns.h"
 #include "host/panels/marker_fields.h"
 #include "host/store/store.h"
 
 #include <algorithm>
 #include <map>
-#include <unordered_set>
 
 namespace Tamrivo
 {
@@ -17,11 +17,6 @@ namespace
 {
 
 constexpr std::string_view defaultProject = "Default";
-
-bool IsOf(const std::string& panel, const std::shared_ptr<Locus>& locus)
-{
-    return locus && EqualNoCase(locus->PrimerSet, panel);
-}
 
 std::vector<AlleleFields> AllelesOf(Locus& locus)
 {
@@ -56,62 +51,29 @@ std::string LackOf(const PanelMarker& marker)
 class Planner
 {
 public:
-    Planner(const ImportChoice& choice, Store& store)
-        : m_choice(choice), m_store(store), m_storedKeys(store.TagKeys())
+    Planner(const std::vector<const PanelMarker*>& markers, const ImportChoice& choice,
+            Store& store)
+        : m_markers(markers), m_choice(choice), m_store(store), m_tags(markers, store)
     {}
 
-    ImportPlan Plan(const std::vector<PanelMarker>& markers, const LociProgress& progress)
+    ImportPlan Plan(const PanelMarker* first, const LociProgress& progress)
     {
-        RequirePanels(markers);
-        std::vector<const PanelMarker*> chosen;
-        for (const PanelMarker& marker : markers)
-        {
-            if (!IsChosen(marker))
-                continue;
-            chosen.push_back(&marker);
-            if (marker.LocusTag.empty())
-                ++m_markersNamed[LookupKey(marker.Marker)];
-        }
         ImportPlan plan;
         plan.DyesBefore = m_store.Dyes();
-        m_dyes = m_choice.AddDyes ? WithDyesOf(chosen, plan.DyesBefore) : plan.DyesBefore;
+        m_dyes = m_choice.AddDyes ? WithDyesOf(m_markers, plan.DyesBefore) : plan.DyesBefore;
         plan.DyesAfter = m_dyes;
-        for (const PanelMarker* marker : chosen)
+        for (const PanelMarker* marker : m_markers)
         {
             plan.Loci.push_back(PlanMarker(*marker));
+            plan.Loci.back().Index = static_cast<std::size_t>(marker - first);
             RemarkOn(*marker, plan.Loci.back(), plan.Remarks);
             if (progress)
-                progress(plan.Loci.size(), chosen.size());
+                progress(plan.Loci.size(), m_markers.size());
         }
         return plan;
     }
 
 private:
-    bool IsChosen(const PanelMarker& marker) const
-    {
-        return m_choice.Panels.empty() || IsOfPanels(marker, m_choice.Panels);
-    }
-
-    void RequirePanels(const std::vector<PanelMarker>& markers) const
-    {
-        for (const std::string& panel : m_choice.Panels)
-        {
-            const std::vector<std::string> one{panel};
-            if (std::ranges::any_of(
-                    markers, [&one](const PanelMarker& marker) { return IsOfPanels(marker, one); }))
-                continue;
-            std::map<std::string, std::string> panels;
-            for (const PanelMarker& marker : markers)
-                panels.emplace(FoldCase(Trim(marker.Panel)), marker.Panel);
-            std::string names;
-            for (const auto& [key, name] : panels)
-                names += (names.empty() ? "" : ", ") + name;
-            throw Failure(ErrorNumber::InvalidArgument, "PlanImport",
-                          "There is no panel \"" + panel + "\" in what was read, but " +
-                              (names.empty() ? "none at all" : "these: " + names));
-        }
-    }
-
     /// The dyes and behind them those whose colours the markers have, as far as there is room.
     static Dyes WithDyesOf(const std::vector<const PanelMarker*>& markers, const Dyes& before)
     {
@@ -157,7 +119,7 @@ private:
         planned.Marker = marker.Marker;
         planned.Alleles = marker.Alleles;
         planned.Fields.PrimerSet = marker.Panel;
-        planned.Stored = Find(marker, planned.Tag);
+        planned.Stored = m_tags.Find(marker, planned.Tag);
         if (!CheckFlaws(marker, planned))
         {
             planned.Fate = ImportFate::LeftOut;
@@ -198,29 +160,6 @@ private:
         return marker.Flaws.empty();
     }
 
-    /// The stored locus with the tag. Few of the tags of a table are stored, as a rule.
-    std::shared_ptr<Locus> Stored(const std::string& tag)
-    {
-        return m_storedKeys.contains(LookupKey(tag)) ? m_store.FindLocus(tag) : nullptr;
-    }
-
-    /// Chooses the tag, and gives the locus that the store has under it. A locus of the marker's
-    /// own panel is found again under either tag, with whatever else it came in.
-    std::shared_ptr<Locus> Find(const PanelMarker& marker, std::string& tag)
-    {
-        tag = marker.LocusTag.empty() ? marker.Marker : marker.LocusTag;
-        auto stored = Stored(tag);
-        if (!marker.LocusTag.empty() || marker.Panel.empty() || IsOf(marker.Panel, stored))
-            return stored;
-        const std::string tagInPanel = MarkerInPanel(marker.Marker, marker.Panel);
-        auto storedInPanel = Stored(tagInPanel);
-        const bool isFree = !stored && m_markersNamed[LookupKey(marker.Marker)] == 1;
-        if (isFree && !IsOf(marker.Panel, storedInPanel))
-            return nullptr;
-        tag = tagInPanel;
-        return storedInPanel;
-    }
-
     std::string ProjectOf(const LocusFields& fields)
     {
         std::string name = m_choice.Project.empty() ? fields.ProjectName : m_choice.Project;
@@ -239,13 +178,7 @@ private:
     {
         CheckDye(marker, planned);
         std::ranges::move(MisfitsOf(planned.Fields), std::back_inserter(planned.Obstacles));
-        if (CharacterCount(planned.Tag) > MaxTagLength)
-            planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" is longer than " +
-                                        std::to_string(MaxTagLength) + " characters");
-        const auto [earlier, isFirst] = m_lineOfTag.emplace(LookupKey(planned.Tag), marker.Line);
-        if (!isFirst)
-            planned.Obstacles.push_back("The tag \"" + planned.Tag + "\" comes from line " +
-                                        std::to_string(earlier->second) + " already");
+        std::ranges::move(m_tags.Take(marker, planned.Tag), std::back_inserter(planned.Obstacles));
         if (planned.Fate == ImportFate::Changed && !m_choice.Update && planned.Obstacles.empty())
             planned.Obstacles.push_back("The store has a locus \"" + planned.Tag +
                                         "\" that differs in: " + NamesOf(planned.Differences) +
@@ -291,26 +224,15 @@ private:
         planned.Fate = planned.Differences.empty() ? ImportFate::Present : ImportFate::Changed;
     }
 
+    const std::vector<const PanelMarker*>& m_markers;
     const ImportChoice& m_choice;
     Store& m_store;
-    std::unordered_set<std::string> m_storedKeys;
+    ImportTags m_tags;
     Dyes m_dyes; ///< With those that are added.
-    std::map<std::string, std::size_t> m_markersNamed;
-    std::map<std::string, std::size_t> m_lineOfTag;
     std::map<std::string, std::string> m_projects;
 };
 
 } // namespace
-
-bool IsOfPanels(const PanelMarker& marker, const std::vector<std::string>& panels)
-{
-    return std::ranges::any_of(panels, [&marker](const std::string& name) {
-        const std::string wanted = Trim(name);
-        return EqualNoCase(wanted, Trim(marker.Panel)) ||
-               EqualNoCase(wanted, Trim(marker.ShortName)) ||
-               EqualNoCase(wanted, Trim(marker.FullName));
-    });
-}
 
 std::string_view NameOf(ImportFate fate)
 {
@@ -346,7 +268,8 @@ std::size_t ImportPlan::NewAlleles() const
 ImportPlan PlanImport(const std::vector<PanelMarker>& markers, const ImportChoice& choice,
                       Store& store, const LociProgress& progress)
 {
-    return Planner(choice, store).Plan(markers, progress);
+    const std::vector<const PanelMarker*> chosen = ChosenMarkers(markers, choice);
+    return Planner(chosen, choice, store).Plan(markers.data(), progress);
 }
 
 } // namespace Tamrivo

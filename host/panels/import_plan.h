@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,8 @@ struct ImportChoice
     std::string Project = {}; ///< Empty: as the file says, else "Default".
     bool AddDyes = false;     ///< The store gets the dyes that the markers need.
     bool Update = false;      ///< Loci that differ are brought to what the file says.
+    /// Positions of the markers that were chosen one by one, ascending; none: those of the panels.
+    std::optional<std::vector<std::size_t>> Markers = {};
 };
 
 /// Whether a panel of the marker is meant by one of the names.
@@ -45,8 +48,9 @@ std::string_view NameOf(ImportFate fate);
 struct PlannedLocus
 {
     ImportFate Fate = ImportFate::New;
-    std::string File;     ///< The marker's file; empty: there is only one.
-    std::size_t Line = 0; ///< The marker's first line in it.
+    std::size_t Index = 0; ///< Of the marker among those that the plan was made for.
+    std::string File;      ///< The marker's file; empty: there is only one.
+    std::size_t Line = 0;  ///< The marker's first line in it.
     std::string Marker;
     std::string Tag;
     /// Why the marker is left out, a sentence each.

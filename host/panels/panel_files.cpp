@@ -8,8 +8,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <fstream>
+#include <sstream>
 #include <system_error>
 
 namespace Tamrivo
@@ -29,22 +29,24 @@ class FilesReader
 public:
     FilesReader(const ReadChoice& choice, bool isOnly) : m_choice(choice), m_isOnly(isOnly) {}
 
-    void Read(const PanelText& file)
+    void Read(const PanelFile& file)
     {
         const std::string name = m_isOnly ? "" : file.Name;
-        std::string problem = ProblemOfBytes(file.Text);
+        LineSource source(*file.Bytes);
+        const std::string_view head = source.Head();
+        std::string problem = ProblemOfBytes(head);
         if (!problem.empty())
             return m_reading.Complaints.push_back({name, 0, {}, std::move(problem)});
-        switch (m_choice.Format.value_or(DetectFormat(file.Text)))
+        switch (m_choice.Format.value_or(DetectFormat(head)))
         {
         case PanelFormat::PanelTable:
-        case PanelFormat::KitTable: Add(ReadPanelTable(file.Text), name); break;
-        case PanelFormat::OsirisKit: Add(ReadOsirisKit(file.Text, m_choice.Interval), name); break;
+        case PanelFormat::KitTable: Add(ReadPanelTable(source), name); break;
+        case PanelFormat::OsirisKit: Add(ReadOsirisKit(source, m_choice.Interval), name); break;
         case PanelFormat::PanelsBins:
-            if (IsBins(file.Text))
-                m_binsFiles.push_back(ReadBinsFile(file.Text, file.Name));
+            if (IsBins(head))
+                m_binsFiles.push_back(ReadBinsFile(source, file.Name));
             else
-                m_panelsFiles.push_back(ReadPanelsFile(file.Text, file.Name));
+                m_panelsFiles.push_back(ReadPanelsFile(source, file.Name));
             break;
         }
     }
@@ -83,36 +85,37 @@ private:
 
 } // namespace
 
+PanelFile OpenPanelFile(const std::string& path)
+{
+    errno = 0;
+    auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
+    // A directory can be opened, but not read.
+    file->peek();
+    if (!file->is_open() || file->bad())
+        Refuse(path, std::generic_category().message(errno));
+    file->clear();
+    return {path, std::move(file)};
+}
+
+PanelFile PanelFileOf(const std::string& name, const std::string& text)
+{
+    return {name, std::make_shared<std::istringstream>(text)};
+}
+
 PanelText LoadPanelFile(const std::string& path)
 {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
-                                                               &std::fclose);
-    PanelText loaded{path, {}};
-    char block[65536];
-    std::size_t length = 1;
-    while (file && length > 0)
-    {
-        length = std::fread(block, 1, sizeof block, file.get());
-        loaded.Text.append(block, length);
-    }
-    if (!file || std::ferror(file.get()) != 0)
-        Refuse(path, std::generic_category().message(errno));
+    const PanelFile file = OpenPanelFile(path);
+    PanelText loaded{path, {std::istreambuf_iterator<char>(*file.Bytes), {}}};
+    if (file.Bytes->bad())
+        Refuse(path, "reading has failed");
     return loaded;
 }
 
-PanelText LoadPanelStream(std::istream& in, const std::string& name)
+PanelReading ReadPanels(std::span<const PanelFile> files, const ReadChoice& choice)
 {
-    PanelText loaded{name, {std::istreambuf_iterator<char>(in), {}}};
-    if (in.bad())
-        Refuse(name, "reading has failed");
-    return loaded;
-}
-
-PanelReading ReadPanels(std::span<const PanelText> texts, const ReadChoice& choice)
-{
-    FilesReader reader(choice, texts.size() == 1);
-    for (const PanelText& text : texts)
-        reader.Read(text);
+    FilesReader reader(choice, files.size() == 1);
+    for (const PanelFile& file : files)
+        reader.Read(file);
     return reader.Take();
 }
 

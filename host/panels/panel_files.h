@@ -4,6 +4,7 @@
 #include "host/panels/panel_marker.h"
 
 #include <istream>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -11,6 +12,18 @@
 
 namespace Tamrivo
 {
+
+/// A file that is to be read, once.
+struct PanelFile
+{
+    std::string Name; ///< As people know the file.
+    std::shared_ptr<std::istream> Bytes;
+};
+
+/// Opens a file. Raises `ErrorNumber::InvalidArgument` when it can't be read.
+PanelFile OpenPanelFile(const std::string& path);
+/// A text as a file.
+PanelFile PanelFileOf(const std::string& name, const std::string& text);
 
 /// What a file holds.
 struct PanelText
@@ -21,8 +34,6 @@ struct PanelText
 
 /// Reads the bytes of a file. Raises `ErrorNumber::InvalidArgument` when it can't be read.
 PanelText LoadPanelFile(const std::string& path);
-/// Reads a stream to its end. Raises `ErrorNumber::InvalidArgument` when it can't be read.
-PanelText LoadPanelStream(std::istream& in, const std::string& name);
 
 /// How files are read.
 struct ReadChoice
@@ -35,7 +46,8 @@ struct ReadChoice
 };
 
 /// Reads the markers of files of any formats, one after the other; panels files and bins files are
-/// put together. Places of what was read name the file where there are several.
-PanelReading ReadPanels(std::span<const PanelText> texts, const ReadChoice& choice = {});
+/// put together. Places of what was read name the file where there are several. Raises
+/// `ErrorNumber::InvalidArgument` when reading a file fails.
+PanelReading ReadPanels(std::span<const PanelFile> files, const ReadChoice& choice = {});
 
 } // namespace Tamrivo

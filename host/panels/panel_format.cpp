@@ -16,29 +16,24 @@ std::optional<PanelFormat> FindFormat(std::string_view option)
     return std::nullopt;
 }
 
-PanelFormat DetectFormat(std::string_view text)
+PanelFormat DetectFormat(std::string_view head)
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
-    const std::size_t start = text.find_first_not_of(" \t\r\n");
-    if (start != std::string_view::npos && text[start] == '<')
+    head.remove_prefix(std::min(head.find_first_not_of(" \t\r\n"), head.size()));
+    if (head.starts_with('<'))
         return PanelFormat::OsirisKit;
-    const std::string_view header =
-        text.substr(0, std::min(text.find('\n', start == std::string_view::npos ? 0 : start),
-                                std::size_t{4096}));
+    const std::string_view header = head.substr(0, std::min(head.find('\n'), std::size_t{4096}));
     if (header.find("Short.Name") != std::string_view::npos)
         return PanelFormat::KitTable;
-    return IsPanelsOrBins(text) ? PanelFormat::PanelsBins : PanelFormat::PanelTable;
+    return IsPanelsOrBins(head) ? PanelFormat::PanelsBins : PanelFormat::PanelTable;
 }
 
-std::string ProblemOfBytes(std::string_view bytes)
+std::string ProblemOfBytes(std::string_view head)
 {
-    if (bytes.empty())
+    if (head.empty())
         return "The file is empty";
-    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+    if (head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF"))
         return "The file is UTF-16; save it as UTF-8";
-    if (bytes.find('\0') != std::string_view::npos)
+    if (head.find('\0') != std::string_view::npos)
         return "The file is binary or UTF-16; a text in UTF-8 was expected";
     return {};
 }

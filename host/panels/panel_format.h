@@ -39,12 +39,12 @@ inline const PanelFormatName& NameOf(PanelFormat format)
 /// The format of the name for a command line, case aside, or none.
 std::optional<PanelFormat> FindFormat(std::string_view option);
 
-/// The format of a file by its content. A text that is none of them counts as a panel table, whose
-/// reader says what it expects.
-PanelFormat DetectFormat(std::string_view text);
+/// The format of a file by the bytes that it begins with. A text that is none of them counts as a
+/// panel table, whose reader says what it expects.
+PanelFormat DetectFormat(std::string_view head);
 
-/// Why the bytes are no text of any of the formats, a sentence without a full stop; empty when they
-/// may be one.
-std::string ProblemOfBytes(std::string_view bytes);
+/// Why a file that begins with these bytes is no text of any of the formats, a sentence without a
+/// full stop; empty when it may be one.
+std::string ProblemOfBytes(std::string_view head);
 
 } // namespace Tamrivo

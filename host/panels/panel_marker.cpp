@@ -22,8 +22,10 @@ std::string PanelComplaint::Text() const
     std::string place = File;
     if (Line > 0)
         place += (place.empty() ? "line " : ", line ") + std::to_string(Line);
+    if (Character > 0)
+        place += ", column " + std::to_string(Character);
     if (!Column.empty())
-        place += ", column " + Column;
+        place += (Character > 0 ? ", element " : ", column ") + Column;
     return place.empty() ? Problem : place + ": " + Problem;
 }
 

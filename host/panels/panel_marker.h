@@ -20,8 +20,11 @@ struct PanelComplaint
     std::string Column;   ///< Empty: the line as a whole.
     std::string Problem;  ///< What stands there and what was expected.
     bool IsLack = false;  ///< Nothing stands there that a locus needs.
+    /// The place's first character in the line, from 1, for XML, where `Column` is an element; 0
+    /// for tables.
+    std::size_t Character = 0;
 
-    /// "kit.txt, line 7, column Size: ...".
+    /// "kit.txt, line 7, column Size: ...", for XML "kit.xml, line 7, column 12, element BP: ...".
     std::string Text() const;
 };
 

@@ -138,6 +138,29 @@ TEST_F(ImportDialogTest, ImportsTheTickedPanelsIntoTheChosenProject)
     EXPECT_THAT(Status(), HasSubstr("Tick a panel"));
 }
 
+TEST_F(ImportDialogTest, ImportsTheTickedMarkers)
+{
+    // A panel whose lines don't stand together.
+    Preview(purple + d3OfQ + d3);
+    auto& tree = Find<QTreeView>("importPreview");
+    QAbstractItemModel& model = *tree.model();
+    const QModelIndex panel = model.index(0, 0);
+    tree.setCurrentIndex(model.index(0, 0, panel));
+    QTest::keyClick(&tree, Qt::Key_Space);
+    EXPECT_EQ(panel.data(Qt::CheckStateRole), Qt::PartiallyChecked);
+    EXPECT_EQ(Cell(0, 0, "What happens"), "");
+    EXPECT_EQ(Cell(0, 1, "Tag"), "D3S1358 (P)");
+    EXPECT_EQ(Cell(1, 0, "Tag"), "D3S1358 (Q)");
+    QTest::mouseClick(&ImportButton(), Qt::LeftButton);
+    EXPECT_THAT(Tags(), ElementsAre("D3S1358 (P)", "D3S1358 (Q)"));
+
+    // Read as something else, the table has nothing.
+    Find<QComboBox>("importFormat").setCurrentIndex(4);
+    EXPECT_FALSE(ImportButton().isEnabled());
+    EXPECT_THAT(Find<QPlainTextEdit>("importReasons").toPlainText().toStdString(),
+                HasSubstr("XML"));
+}
+
 TEST_F(ImportDialogTest, RefusesWhatBringsNothing)
 {
     Preview(d3OfQ + "P\tFGA\t12.2\tmuch\t257.95\t258.95\t0\tYellow\t4\t257\t420\t208\n");

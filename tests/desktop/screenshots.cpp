@@ -95,8 +95,8 @@ private:
     void FillStore()
     {
         Store store(Address());
-        const PanelText text = LoadPanelFile(m_table.toStdString());
-        const PanelReading reading = ReadPanels({&text, 1});
+        const PanelFile table = OpenPanelFile(m_table.toStdString());
+        const PanelReading reading = ReadPanels({&table, 1});
         CarryOutImport(PlanImport(reading.Markers, {}, store), store);
         ParameterStore parameters(store);
         parameters.Create("Paternity", TagLists::OneEmpty);

@@ -44,7 +44,7 @@ protected:
     Export()
     {
         std::filesystem::create_directories(m_directory);
-        const PanelText text{"table", table};
+        const PanelFile text = PanelFileOf("table", table);
         CarryOutImport(PlanImport(ReadPanels({&text, 1}).Markers, {}, m_store), m_store);
     }
     ~Export() override { std::filesystem::remove_all(m_directory); }
@@ -65,9 +65,9 @@ protected:
     /// What an import of the files into this store would do.
     ImportPlan Back(const std::vector<std::string>& texts, const ImportChoice& choice = {})
     {
-        std::vector<PanelText> files;
+        std::vector<PanelFile> files;
         for (const std::string& text : texts)
-            files.push_back({"file" + std::to_string(files.size()), text});
+            files.push_back(PanelFileOf("file" + std::to_string(files.size()), text));
         const PanelReading reading = ReadPanels(files);
         EXPECT_THAT(reading.Complaints, IsEmpty());
         return PlanImport(reading.Markers, choice, m_store);
@@ -131,7 +131,7 @@ TEST_F(Export, OfAKitFileFollowsTheRepeats)
     const ExportChoice choice{
         .Format = PanelFormat::OsirisKit, .Kit = "K", .SizeStandards = {"S1", "S2"}};
     const std::string text = Text(choice);
-    const PanelText file{"kit", text};
+    const PanelFile file = PanelFileOf("kit", text);
     const PanelReading reading = ReadPanels({&file, 1});
     ASSERT_EQ(reading.Markers.size(), 3U);
     std::string sizes;

@@ -18,6 +18,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
+using testing::StartsWith;
 
 const std::string kitTable =
     "\"Panel\"\t\"Marker\"\t\"Allele\"\t\"Size\"\t\"Size.Min\"\t\"Size."
@@ -62,16 +63,16 @@ const std::string kit =
 
 PanelReading Read(const std::vector<std::string>& texts, const ReadChoice& choice = {})
 {
-    std::vector<PanelText> files;
+    std::vector<PanelFile> files;
     for (const std::string& text : texts)
-        files.push_back({"file" + std::to_string(files.size() + 1), text});
+        files.push_back(PanelFileOf("file" + std::to_string(files.size() + 1), text));
     return ReadPanels(files, choice);
 }
 
 TEST(Formats, AreKnownFromTheContent)
 {
     EXPECT_EQ(DetectFormat(kitTable), PanelFormat::KitTable);
-    EXPECT_EQ(DetectFormat("\xEF\xBB\xBF\n" + panels), PanelFormat::PanelsBins);
+    EXPECT_EQ(DetectFormat("\n" + panels), PanelFormat::PanelsBins);
     EXPECT_EQ(DetectFormat(Bins("S", "P1")), PanelFormat::PanelsBins);
     EXPECT_EQ(DetectFormat("\n  " + kit), PanelFormat::OsirisKit);
     EXPECT_EQ(DetectFormat("Panel\tMarker\tAllele\n"), PanelFormat::PanelTable);
@@ -163,6 +164,8 @@ TEST(Formats, AKitFileGivesNominalLoci)
 TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
 {
     using namespace std::string_literals;
+    const std::string columns = "Panel\tMarker\tAllele\tSize\tSize.Min\tSize.Max\tColor\tRepeat\t"
+                                "Marker.Min\tMarker.Max\n";
     for (const auto& [text, problem] : {
              std::pair{""s, "is empty"},
              {"\xFF\xFEP\0"s, "UTF-16"},
@@ -170,6 +173,9 @@ TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
              {kit.substr(0, 300), "cut off"},
              {"<svg/>"s, "root is <svg>"},
              {"<KitData/>"s, "no loci"},
+             {"<KitData>" + std::string(16'000'000, ' '), "larger than"},
+             {columns + std::string(1'000'001, 'x') + "\n", "longer than a million bytes"},
+             {columns + std::string(100'000, '\n') + "P\0"s, "zero byte"},
              {"<!DOCTYPE a [<!ENTITY b \"bb\">]><KitData>&b;</KitData>"s, "no loci"},
          })
     {
@@ -177,6 +183,11 @@ TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
         ASSERT_THAT(reading.Complaints, SizeIs(1)) << problem;
         EXPECT_THAT(reading.Complaints[0].Problem, HasSubstr(problem));
     }
+    EXPECT_THAT(Read({kit.substr(0, 300)}).Complaints[0].Text(), StartsWith("line 5, column 71: "));
+    std::string flawed = kit;
+    flawed.replace(flawed.find("101<"), 3, "x");
+    EXPECT_THAT(Read({flawed}).Markers[0].Flaws[0].Text(),
+                StartsWith("line 7, column 97, element BP: "));
 }
 
 class FormatsInAStore : public testing::Test

@@ -1,10 +1,10 @@
 #include "host/panels/import.h"
 #include "host/panels/panel_files.h"
-#include "host/panels/table/panel_reader.h"
 #include "host/panels/table/panel_writer.h"
 #include "host/panels/whole_file.h"
 #include "host/store/store.h"
 #include "tests/fakes/locales.h"
+#include "tests/panels/read_table.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -44,7 +44,7 @@ protected:
 
     ImportPlan Plan(const std::string& rows, const ImportChoice& choice = {})
     {
-        const PanelReading reading = ReadPanelTable(header + rows);
+        const PanelReading reading = ReadTable(header + rows);
         EXPECT_THAT(reading.Complaints, IsEmpty());
         return PlanImport(reading.Markers, choice, m_store);
     }
@@ -79,7 +79,7 @@ protected:
     void Copy(const std::string& path)
     {
         Store copy(path);
-        const PanelReading reading = ReadPanelTable(Exported(m_store));
+        const PanelReading reading = ReadTable(Exported(m_store));
         ASSERT_THAT(reading.Complaints, IsEmpty());
         const ImportPlan plan = PlanImport(reading.Markers, {}, copy);
         ASSERT_EQ(plan.Count(ImportFate::New), plan.Loci.size());
@@ -276,7 +276,7 @@ TEST_F(Import, OfAnExportGivesEqualLociAndAlleles)
             EXPECT_EQ(static_cast<const AlleleFields&>(*As<Allele>(copied->Alleles().Item(index))),
                       *As<Allele>(locus->Alleles().Item(index)));
     }
-    const PanelReading again = ReadPanelTable(Exported(m_store));
+    const PanelReading again = ReadTable(Exported(m_store));
     EXPECT_EQ(PlanImport(again.Markers, {}, m_store).Count(ImportFate::Present), 4U);
 }
 
@@ -294,7 +294,7 @@ TEST_F(Import, AndExportDontFollowTheLocale)
 TEST_F(Import, TableKeepsTheColumnsOfAPanel)
 {
     Run(amel + fga);
-    const PanelReading reading = ReadPanelTable(Exported(m_store));
+    const PanelReading reading = ReadTable(Exported(m_store));
     ASSERT_THAT(reading.Markers, SizeIs(2));
     EXPECT_EQ(reading.Markers[0].Panel, "P");
     EXPECT_EQ(reading.Markers[0].Marker, "AMEL");
@@ -317,6 +317,38 @@ TEST_F(Import, FileReplacesAnotherOnlyWhenComplete)
     EXPECT_THROW(WriteWholeFile("/dev/full", write), Failure);
     EXPECT_THROW(LoadPanelFile(Path("none.tsv")), Failure);
     EXPECT_THROW(LoadPanelFile(m_directory), Failure);
+    EXPECT_THROW(OpenPanelFile(m_directory), Failure);
+}
+
+TEST_F(Import, FilesThatBelongTogetherAreReplacedTogether)
+{
+    const auto contents = [this] {
+        return LoadPanelFile(Path("a.txt")).Text + LoadPanelFile(Path("b.txt")).Text;
+    };
+    const auto files = [this](const std::string& text, const std::string& second) {
+        const auto write = [text](std::ostream& out) { out << text; };
+        return std::vector<FileToWrite>{{Path("a.txt"), write}, {Path(second), write}};
+    };
+    WriteWholeFiles(files("1", "b.txt"));
+    EXPECT_EQ(contents(), "11");
+    WriteWholeFiles(files("2", "b.txt"));
+    EXPECT_EQ(contents(), "22");
+    EXPECT_THROW(WriteWholeFiles(files("3", "a.txt")), Failure);
+    EXPECT_THROW(WriteWholeFiles(files("3", "none/b.txt")), Failure);
+    // The second one can't be replaced once both are complete.
+    auto late = files("3", "c.txt");
+    late[1].Write = [this](std::ostream& out) {
+        out << "3";
+        std::filesystem::create_directories(Path("c.txt"));
+    };
+    EXPECT_THROW(WriteWholeFiles(late), Failure);
+    EXPECT_EQ(contents(), "22");
+    std::filesystem::remove(Path("a.txt"));
+    std::filesystem::remove(Path("c.txt"));
+    EXPECT_THROW(WriteWholeFiles(late), Failure);
+    EXPECT_FALSE(std::filesystem::exists(Path("a.txt")));
+    for (const auto& entry : std::filesystem::directory_iterator(m_directory))
+        EXPECT_THAT(entry.path().extension(), testing::AnyOf(".txt", ".sqlite"));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "host/panels/cells.h"
-#include "host/panels/table/panel_reader.h"
+#include "tests/panels/read_table.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ const std::string columnLine =
 
 TEST(PanelTable, IsReadWhateverTheOrderAndTheFurtherColumns)
 {
-    const PanelReading reading = ReadPanelTable(
+    const PanelReading reading = ReadTable(
         "\xEF\xBB\xBF"
         "Color\tmarker.max\tMarker.Min\tRepeat\tNotes\tSize.Max\tSize.Min\tSize\tAllele\tMarker"
         "\tPanel\r\n"
@@ -80,7 +80,7 @@ TEST(PanelTable, NamesThePlaceOfWhatCantBeRead)
     };
     for (const BadLine& bad : badLines)
     {
-        const PanelReading reading = ReadPanelTable(
+        const PanelReading reading = ReadTable(
             columnLine + "P\tOK\t8\t94\t93\t95\t0\tblue\t4\t90\t150\t62\n" + bad.Line + "\n");
         EXPECT_THAT(reading.Complaints, IsEmpty());
         const auto& flaws = reading.Markers.back().Flaws;
@@ -98,12 +98,12 @@ TEST(PanelTable, NeedsItsHeader)
                                          {"P\xE4nel\n", "UTF-8"},
                                          {longLine.c_str(), "longer than a million bytes"}})
     {
-        const PanelReading reading = ReadPanelTable(text);
+        const PanelReading reading = ReadTable(text);
         ASSERT_THAT(reading.Complaints, SizeIs(1));
         EXPECT_THAT(reading.Complaints[0].Text(), HasSubstr(expected));
     }
-    EXPECT_THAT(ReadPanelTable("Size\tsize\t" + columnLine).Complaints, testing::Not(IsEmpty()));
-    EXPECT_THAT(ReadPanelTable(columnLine).Complaints, IsEmpty());
+    EXPECT_THAT(ReadTable("Size\tsize\t" + columnLine).Complaints, testing::Not(IsEmpty()));
+    EXPECT_THAT(ReadTable(columnLine).Complaints, IsEmpty());
 }
 
 TEST(PanelTable, CollectsFlawsUpToALimit)
@@ -111,7 +111,7 @@ TEST(PanelTable, CollectsFlawsUpToALimit)
     std::string text = columnLine;
     for (int line = 0; line < 100; ++line)
         text += "P\tA\t8\tx\t93\t95\t0\tblue\t4\t90\t150\t62\n";
-    EXPECT_THAT(ReadPanelTable(text).Markers[0].Flaws, SizeIs(MaxPanelComplaints));
+    EXPECT_THAT(ReadTable(text).Markers[0].Flaws, SizeIs(MaxPanelComplaints));
 }
 
 TEST(Cells, KeepEveryTextAndNumber)

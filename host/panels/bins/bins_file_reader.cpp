@@ -23,7 +23,7 @@ double Limit(double size, double distance)
 class BinsFileReader
 {
 public:
-    BinsFileReader(std::string_view text, const std::string& file) : m_lines(text)
+    BinsFileReader(LineSource& source, const std::string& file) : m_lines(source)
     {
         m_read.File = file;
     }
@@ -103,9 +103,9 @@ private:
 
 } // namespace
 
-BinsFile ReadBinsFile(std::string_view text, const std::string& file)
+BinsFile ReadBinsFile(LineSource& source, const std::string& file)
 {
-    return BinsFileReader(text, file).Read();
+    return BinsFileReader(source, file).Read();
 }
 
 } // namespace Tamrivo

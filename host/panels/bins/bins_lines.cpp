@@ -1,6 +1,7 @@
 #include "host/panels/bins/bins_lines.h"
 
 #include "core/text.h"
+#include "host/panels/cells.h"
 
 #include <algorithm>
 
@@ -26,6 +27,15 @@ constexpr Word words[] = {
     {"Panel", BinsLine::Panel},
 };
 
+/// The cells of the next line that has anything in it.
+void NextCells(std::string_view& rest, std::vector<std::string_view>& cells)
+{
+    rest.remove_prefix(std::min(rest.find_first_not_of("\t \r\n"), rest.size()));
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    rest.remove_prefix(line.size());
+    SplitCells(line.substr(0, line.find('\r')), cells);
+}
+
 } // namespace
 
 std::string_view BinsCell(std::string_view cell)
@@ -44,25 +54,24 @@ BinsLine KindOf(std::string_view firstCell)
     return word == std::end(words) ? BinsLine::Content : word->Kind;
 }
 
-bool IsPanelsOrBins(std::string_view text)
+bool IsPanelsOrBins(std::string_view head)
 {
-    TableLines lines(text);
-    if (!lines.Next())
-        return false;
-    const BinsLine kind = KindOf(lines.Cell(0));
+    std::vector<std::string_view> cells;
+    NextCells(head, cells);
     // A panel table's header may begin with "Panel" or "Marker" as well.
-    const bool isTable = std::ranges::any_of(lines.Cells(), [](std::string_view cell) {
+    const bool isTable = std::ranges::any_of(cells, [](std::string_view cell) {
         return EqualNoCase(BinsCell(cell), "Allele") || EqualNoCase(BinsCell(cell), "Color");
     });
-    return kind != BinsLine::Content && !isTable;
+    return KindOf(cells.front()) != BinsLine::Content && !isTable;
 }
 
-bool IsBins(std::string_view text)
+bool IsBins(std::string_view head)
 {
-    TableLines lines(text);
-    for (int line = 0; line < 20 && lines.Next(); ++line)
+    std::vector<std::string_view> cells;
+    for (int line = 0; line < 20 && !head.empty(); ++line)
     {
-        const BinsLine kind = KindOf(lines.Cell(0));
+        NextCells(head, cells);
+        const BinsLine kind = KindOf(cells.front());
         if (kind == BinsLine::BinSet || kind == BinsLine::BinsPanel || kind == BinsLine::Marker)
             return true;
         if (kind == BinsLine::KitType || kind == BinsLine::Panel)

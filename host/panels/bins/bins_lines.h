@@ -26,10 +26,10 @@ enum class BinsLine
 
 BinsLine KindOf(std::string_view firstCell);
 
-/// Whether the text begins as a panels or a bins file does.
-bool IsPanelsOrBins(std::string_view text);
+/// Whether a file that begins with these bytes is a panels or a bins file.
+bool IsPanelsOrBins(std::string_view head);
 /// Which of the two it is.
-bool IsBins(std::string_view text);
+bool IsBins(std::string_view head);
 
 /// The cell without blanks and double quotes around it.
 std::string_view BinsCell(std::string_view cell);

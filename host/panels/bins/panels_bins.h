@@ -1,10 +1,10 @@
 #pragma once
 
+#include "host/panels/line_source.h"
 #include "host/panels/panel_marker.h"
 
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Tamrivo
@@ -44,8 +44,8 @@ struct BinsFile
     std::vector<PanelComplaint> Complaints;
 };
 
-PanelsFile ReadPanelsFile(std::string_view text, const std::string& file);
-BinsFile ReadBinsFile(std::string_view text, const std::string& file);
+PanelsFile ReadPanelsFile(LineSource& source, const std::string& file);
+BinsFile ReadBinsFile(LineSource& source, const std::string& file);
 
 /// Puts the bins to the panels of their names. Complains about bins of panels that aren't there,
 /// panels without bins, and panels with several sets of bins of which none is chosen.

@@ -31,7 +31,7 @@ std::vector<std::string> SplitNames(std::string_view list)
 class PanelsFileReader
 {
 public:
-    PanelsFileReader(std::string_view text, const std::string& file) : m_lines(text)
+    PanelsFileReader(LineSource& source, const std::string& file) : m_lines(source)
     {
         m_read.File = file;
     }
@@ -114,9 +114,9 @@ private:
 
 } // namespace
 
-PanelsFile ReadPanelsFile(std::string_view text, const std::string& file)
+PanelsFile ReadPanelsFile(LineSource& source, const std::string& file)
 {
-    return PanelsFileReader(text, file).Read();
+    return PanelsFileReader(source, file).Read();
 }
 
 } // namespace Tamrivo

@@ -26,48 +26,96 @@ std::string ValueOf(const pugi::xml_node& node, const char* name)
     return std::string(text.substr(0, text.find_last_not_of(" \t\r\n") + 1));
 }
 
+constexpr std::size_t largestKit = 16'000'000; // Bytes; the largest real one has 200,000.
+
+/// Where characters of a text stand. Places are asked for in the text's order, as a rule.
+class TextPlaces
+{
+public:
+    explicit TextPlaces(const std::string& text) : m_text(text) {}
+
+    struct Place
+    {
+        std::size_t Line;      ///< From 1.
+        std::size_t Character; ///< In its line, from 1.
+    };
+
+    Place At(std::ptrdiff_t offset)
+    {
+        const auto end =
+            static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(m_text)));
+        if (end < m_lineStart)
+        {
+            m_counted = m_lineStart = 0;
+            m_line = 1;
+        }
+        for (std::size_t at = m_text.find('\n', m_counted); at < end;
+             at = m_text.find('\n', at + 1))
+        {
+            ++m_line;
+            m_lineStart = at + 1;
+        }
+        m_counted = end; // A place in the same line may lie before the last one.
+        const std::string_view before(m_text.data() + m_lineStart, end - m_lineStart);
+        return {m_line, CharacterCount(before) + 1};
+    }
+
+private:
+    const std::string& m_text;
+    std::size_t m_counted = 0; ///< Up to where lines have been counted.
+    std::size_t m_line = 1;
+    std::size_t m_lineStart = 0; ///< Of the line in which `m_counted` is.
+};
+
 class KitReader
 {
 public:
-    KitReader(std::string_view text, double interval) : m_text(text), m_interval(interval) {}
+    KitReader(LineSource& source, double interval) : m_interval(interval)
+    {
+        m_isTooLarge = !source.ReadRest(m_text, largestKit);
+    }
 
     PanelReading Read()
     {
-        pugi::xml_document document;
-        const pugi::xml_parse_result result = document.load_buffer(
-            m_text.data(), m_text.size(), pugi::parse_default, pugi::encoding_utf8);
-        if (!IsUtf8(m_text))
-            Complain(0, "The text isn't UTF-8; save the kit file as UTF-8");
-        else if (!result)
-            Complain(result.offset, "The XML can't be read (" + std::string(result.description()) +
-                                        "); the file may have been cut off");
-        else if (!document.child("KitData"))
-            Complain(0, "The XML is no kit file of OSIRIS: its root is <" +
-                            std::string(document.document_element().name()) +
-                            ">; expected <KitData>");
+        if (m_isTooLarge)
+            Complain("The XML is larger than 16 million bytes; this is no kit file of OSIRIS");
+        else if (!IsUtf8(m_text))
+            Complain("The text isn't UTF-8; save the kit file as UTF-8");
         else
-            ReadKits(document.child("KitData"));
+            Parse();
         return std::move(m_reading);
     }
 
 private:
-    std::size_t LineAt(std::ptrdiff_t offset)
+    void Parse()
     {
-        const auto end = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(m_text));
-        if (end < m_counted)
+        pugi::xml_document document;
+        const pugi::xml_parse_result result = document.load_buffer(
+            m_text.data(), m_text.size(), pugi::parse_default, pugi::encoding_utf8);
+        const pugi::xml_node root = document.child("KitData");
+        if (!result)
         {
-            m_counted = 0;
-            m_line = 0;
+            Complain("The XML can't be read (" + std::string(result.description()) +
+                     "); the file may have been cut off");
+            SetPlace(m_reading.Complaints.back(), result.offset);
         }
-        m_line += static_cast<std::size_t>(
-            std::count(m_text.begin() + m_counted, m_text.begin() + end, '\n'));
-        m_counted = end;
-        return m_line + 1;
+        else if (!root)
+            Complain("The XML is no kit file of OSIRIS: its root is <" +
+                     std::string(document.document_element().name()) + ">; expected <KitData>");
+        else
+            ReadKits(root);
     }
 
-    void Complain(std::ptrdiff_t offset, std::string problem)
+    void Complain(std::string problem)
     {
-        m_reading.Complaints.push_back({{}, LineAt(offset), {}, std::move(problem)});
+        m_reading.Complaints.push_back({{}, 0, {}, std::move(problem)});
+    }
+
+    void SetPlace(PanelComplaint& complaint, std::ptrdiff_t offset)
+    {
+        const auto [line, character] = m_places.At(offset);
+        complaint.Line = line;
+        complaint.Character = character;
     }
 
     void ReadKits(const pugi::xml_node& root)
@@ -79,7 +127,7 @@ private:
                 ReadLocus(set, locus, colors);
         }
         if (m_reading.Markers.empty())
-            Complain(0, "The kit file has no loci, perhaps a size standard alone");
+            Complain("The kit file has no loci, perhaps a size standard alone");
     }
 
     static std::map<int, std::string> ColorsOf(const pugi::xml_node& set)
@@ -98,10 +146,12 @@ private:
             return;
         const std::string value = ValueOf(node, element);
         marker.Flaws.push_back({{},
-                                LineAt(node.offset_debug()),
+                                0,
                                 element,
                                 QuotedCell(value) + " stands there; expected " + expected,
                                 value.empty()});
+        const pugi::xml_node child = node.child(element);
+        SetPlace(marker.Flaws.back(), (child ? child : node).offset_debug());
     }
 
     double Number(PanelMarker& marker, const pugi::xml_node& node, const char* element,
@@ -117,7 +167,7 @@ private:
                    const std::map<int, std::string>& colors)
     {
         PanelMarker& marker = m_reading.Markers.emplace_back();
-        marker.Line = LineAt(locus.offset_debug());
+        marker.Line = m_places.At(locus.offset_debug()).Line;
         marker.IsNominal = true;
         marker.Stated = {.Virtual = false};
         marker.Panel = ValueOf(set, "Name");
@@ -182,18 +232,18 @@ private:
         widen(locus, "MinGridLSBasePair", "MaxGridLSBasePair");
     }
 
-    std::string_view m_text;
+    std::string m_text;
+    bool m_isTooLarge = false;
     double m_interval;
-    std::ptrdiff_t m_counted = 0; ///< Up to where lines have been counted.
-    std::size_t m_line = 0;
+    TextPlaces m_places{m_text};
     PanelReading m_reading;
 };
 
 } // namespace
 
-PanelReading ReadOsirisKit(std::string_view text, double interval)
+PanelReading ReadOsirisKit(LineSource& source, double interval)
 {
-    return KitReader(text, interval).Read();
+    return KitReader(source, interval).Read();
 }
 
 } // namespace Tamrivo

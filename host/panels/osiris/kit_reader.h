@@ -1,8 +1,7 @@
 #pragma once
 
+#include "host/panels/line_source.h"
 #include "host/panels/panel_marker.h"
-
-#include <string_view>
 
 namespace Tamrivo
 {
@@ -11,6 +10,6 @@ namespace Tamrivo
 /// The kit is the panel. Its loci are nominal: sizes are whole, bins reach as far as told, and the
 /// range is the outer one of the alleles' and the search regions'.
 /// @param interval from a size to either limit of its bin, nt
-PanelReading ReadOsirisKit(std::string_view text, double interval);
+PanelReading ReadOsirisKit(LineSource& source, double interval);
 
 } // namespace Tamrivo

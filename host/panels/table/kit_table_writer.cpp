@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <sstream>
 
 namespace Tamrivo
 {
@@ -204,7 +205,9 @@ void AppendToKitTable(std::ostream& out, const std::string& table, const ExportP
                       const LociProgress& progress)
 {
     KitTableWriter writer(out, plan);
-    TableLines lines(table);
+    std::istringstream bytes(table);
+    LineSource source(bytes);
+    TableLines lines(source);
     if (!lines.Next())
         RefuseTable("the table that should be added to is empty");
     std::size_t shortName = lines.Cells().size();

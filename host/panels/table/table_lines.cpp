@@ -3,30 +3,19 @@
 #include "core/text.h"
 #include "host/panels/cells.h"
 
-#include <algorithm>
-
 namespace Tamrivo
 {
 
-TableLines::TableLines(std::string_view text) : m_rest(text)
-{
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (m_rest.starts_with(byteOrderMark))
-        m_rest.remove_prefix(byteOrderMark.size());
-}
-
 bool TableLines::Next()
 {
-    constexpr std::size_t longestLine = 1'000'000;
-    while (m_problem.empty() && !m_rest.empty())
+    std::string_view line;
+    while (m_problem.empty() && m_source.Next(line))
     {
         ++m_number;
-        std::string_view line = m_rest.substr(0, m_rest.find('\n'));
-        m_rest.remove_prefix(std::min(line.size() + 1, m_rest.size()));
         if (line.ends_with('\r'))
             line.remove_suffix(1);
-        if (line.size() > longestLine)
-            m_problem = "The line is longer than a million bytes; this is no table of markers";
+        if (line.find('\0') != std::string_view::npos)
+            m_problem = "The line has a zero byte; the file is binary or damaged";
         else if (!IsUtf8(line))
             m_problem = "The text isn't UTF-8; save the table as UTF-8";
         else if (line.find_first_not_of("\t ") != std::string_view::npos)
@@ -34,6 +23,11 @@ bool TableLines::Next()
             SplitCells(line, m_cells);
             return true;
         }
+    }
+    if (m_source.IsTooLong())
+    {
+        ++m_number;
+        m_problem = "The line is longer than a million bytes; this is no table of markers";
     }
     return false;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/panels/line_source.h"
+
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -7,19 +9,20 @@
 namespace Tamrivo
 {
 
-/// Walks the lines of a tab-separated table. Empty lines, a byte order mark and carriage returns
-/// at the ends are passed over.
+/// Walks the lines of a tab-separated table. Empty lines and carriage returns at the ends are
+/// passed over.
 class TableLines
 {
 public:
-    /// @param text must outlive this object and the cells
-    explicit TableLines(std::string_view text);
+    /// @param source must outlive this object
+    explicit TableLines(LineSource& source) : m_source(source) {}
 
     /// Goes to the next line that has anything in it. False at the end, and from a line on that
     /// no text file has.
     bool Next();
 
     std::size_t Number() const { return m_number; } ///< Of the line, from 1.
+    /// They stand until the next line is read.
     const std::vector<std::string_view>& Cells() const { return m_cells; }
     /// The cell at a position; nothing past the end of the line.
     std::string_view Cell(std::size_t position) const
@@ -30,7 +33,7 @@ public:
     std::string_view Problem() const { return m_problem; }
 
 private:
-    std::string_view m_rest;
+    LineSource& m_source;
     std::size_t m_number = 0;
     std::vector<std::string_view> m_cells;
     std::string_view m_problem;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/panels/table/panel_reader.h"
+
+#include <sstream>
+#include <string>
+
+namespace Tamrivo
+{
+
+/// What a text says as a panel table.
+inline PanelReading ReadTable(const std::string& text)
+{
+    std::istringstream bytes(text);
+    LineSource source(bytes);
+    return ReadPanelTable(source);
+}
+
+} // namespace Tamrivo

@@ -24,6 +24,11 @@ double MemoryOfLocus();
 double AlleleGeneration();
 
 double ImportOfPanels();
+double ImportOfKitTable();
+double ReadingOfPanelTable();
+double ReadingOfKitTable();
+double ReadingOfPanelsBins();
+double ReadingOfKitFile();
 
 double ReadingOfLibrary();
 double SearchAgainstScan();
@@ -59,6 +64,14 @@ inline constexpr Figure Figures[] = {
     {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
     {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
     {"import", "Import of 100,000 alleles / bare inserts", 3, "", ImportOfPanels},
+    {"import_kit", "Import of a kit table / a panel table of the same loci", 1.5, "",
+     ImportOfKitTable},
+    {"read_panel_table", "Reading a panel table / splitting it into strings", 4, "",
+     ReadingOfPanelTable},
+    {"read_kit_table", "Reading a kit table / splitting it into strings", 4, "", ReadingOfKitTable},
+    {"read_panels_bins", "Reading panels and bins files / splitting them", 4, "",
+     ReadingOfPanelsBins},
+    {"read_osiris", "Reading a kit file of OSIRIS / the parse of its XML", 4, "", ReadingOfKitFile},
     {"library", "Reading the library of 100,000 loci / CurrentLoci", 1, "", ReadingOfLibrary},
     {"search", "A search of two words and two terms, 100,000 loci / a scan", 3, "",
      SearchAgainstScan},

@@ -1,9 +1,10 @@
 #include "bench/bare_sqlite.h"
 #include "bench/figures.h"
+#include "bench/panel_samples.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
 #include "host/panels/import.h"
-#include "host/panels/table/panel_reader.h"
+#include "host/panels/panel_files.h"
 #include "host/store/locus_row.h"
 
 namespace Tamrivo::Bench
@@ -12,37 +13,18 @@ namespace Tamrivo::Bench
 namespace
 {
 
-constexpr int markers = 4'000;
-constexpr int allelesOfMarker = 25;
-
 void Step(const BareStatement& statement, const BareConnection& connection)
 {
     Require(sqlite3_step(statement.get()) == SQLITE_DONE, connection);
     sqlite3_reset(statement.get());
 }
 
-/// A panel table of 100,000 alleles.
-std::string PanelText()
-{
-    std::string text = "Panel\tMarker\tAllele\tSize\tSize.Min\tSize.Max\tVirtual\tColor\tRepeat"
-                       "\tMarker.Min\tMarker.Max\tOffset\n";
-    for (int marker = 0; marker < markers; ++marker)
-    {
-        for (int allele = 5; allele < 5 + allelesOfMarker; ++allele)
-        {
-            const std::string size = std::to_string(80 + 4 * allele);
-            text += "Panel\t" + SampleTag(marker) + '\t' + std::to_string(allele) + '\t' + size +
-                    ".25\t" + size + "\t" + size + ".5\t0\tblue\t4\t90.5\t240.5\t80\n";
-        }
-    }
-    return text;
-}
-
 double ImportSeconds(const std::string& text)
 {
     TemporaryStore store;
     return SecondsOf([&] {
-        const PanelReading reading = ReadPanelTable(text);
+        const PanelFile file = PanelFileOf("table", text);
+        const PanelReading reading = ReadPanels({&file, 1});
         CarryOutImport(PlanImport(reading.Markers, {}, store.Get()), store.Get());
     });
 }
@@ -67,11 +49,11 @@ double InsertSeconds()
         Prepare(connection, "INSERT INTO Allele VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     return SecondsOf([&] {
         Execute(connection, "BEGIN IMMEDIATE");
-        for (int marker = 1; marker <= markers; ++marker)
+        for (int marker = 1; marker <= SampleMarkers; ++marker)
         {
             sqlite3_bind_int(insertLocus.get(), 1, marker);
             Step(insertLocus, connection);
-            for (int allele = 1; allele <= allelesOfMarker; ++allele)
+            for (int allele = 1; allele <= SampleAlleles; ++allele)
             {
                 const std::string name = std::to_string(allele);
                 sqlite3_bind_int(insertAllele.get(), 1, marker);
@@ -93,7 +75,7 @@ double InsertSeconds()
 
 double ImportOfPanels()
 {
-    const std::string text = PanelText();
+    const std::string text = SamplePanelTable();
     double import = std::numeric_limits<double>::max();
     double inserts = import;
     for (int turn = 0; turn < 5; ++turn)
@@ -102,6 +84,20 @@ double ImportOfPanels()
         inserts = std::min(inserts, InsertSeconds());
     }
     return import / inserts;
+}
+
+double ImportOfKitTable()
+{
+    const std::string kit = SampleKitTable();
+    const std::string panel = SamplePanelTable();
+    double kitSeconds = std::numeric_limits<double>::max();
+    double panelSeconds = kitSeconds;
+    for (int turn = 0; turn < 5; ++turn)
+    {
+        kitSeconds = std::min(kitSeconds, ImportSeconds(kit));
+        panelSeconds = std::min(panelSeconds, ImportSeconds(panel));
+    }
+    return kitSeconds / panelSeconds;
 }
 
 } // namespace Tamrivo::Bench

@@ -23,7 +23,7 @@ double SecondsOf(Work&& work)
     }
     else
     {
-        const auto result = work();
+        [[maybe_unused]] const auto result = work();
         return seconds();
     }
 }

@@ -49,6 +49,8 @@ std::string EscapeCell(std::string_view text)
 
 std::string UnescapeCell(std::string_view cell)
 {
+    if (cell.find('\\') == std::string_view::npos)
+        return std::string(cell);
     std::string text;
     for (std::size_t at = 0; at < cell.size(); ++at)
     {

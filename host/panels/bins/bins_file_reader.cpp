@@ -11,6 +11,8 @@ namespace Tamrivo
 namespace
 {
 
+constexpr std::size_t usualAlleles = 32;
+
 /// A limit of a bin from the allele's size and the distance to it, without the noise of binary
 /// fractions: 93.47 - 0.5 is 92.97.
 double Limit(double size, double distance)
@@ -49,13 +51,16 @@ private:
     void ReadLine()
     {
         const BinsLine kind = KindOf(m_lines.Cell(0));
-        const std::string value(BinsCell(m_lines.Cell(1)));
+        const std::string_view value = BinsCell(m_lines.Cell(1));
         if (kind == BinsLine::BinSet)
             m_read.BinSet = value;
         else if (kind == BinsLine::BinsPanel)
             m_panel = value;
         else if (kind == BinsLine::Marker)
-            m_read.Markers.push_back({m_panel, value, m_lines.Number(), {}, {}});
+        {
+            m_read.Markers.push_back({m_panel, std::string(value), m_lines.Number(), {}, {}});
+            m_read.Markers.back().Alleles.reserve(usualAlleles);
+        }
         else if (kind == BinsLine::Content && !BinsCell(m_lines.Cell(0)).empty())
             ReadBin();
         // The line end between two lines of the header may have been lost.

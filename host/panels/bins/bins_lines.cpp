@@ -40,17 +40,19 @@ void NextCells(std::string_view& rest, std::vector<std::string_view>& cells)
 
 std::string_view BinsCell(std::string_view cell)
 {
-    const std::size_t start = cell.find_first_not_of(" \"");
-    if (start == std::string_view::npos)
-        return {};
-    return cell.substr(start, cell.find_last_not_of(" \"") - start + 1);
+    while (cell.starts_with(' ') || cell.starts_with('"'))
+        cell.remove_prefix(1);
+    while (cell.ends_with(' ') || cell.ends_with('"'))
+        cell.remove_suffix(1);
+    return cell;
 }
 
 BinsLine KindOf(std::string_view firstCell)
 {
     const std::string_view cell = BinsCell(firstCell);
-    const auto* word = std::ranges::find_if(
-        words, [cell](const Word& row) { return EqualNoCase(cell, row.Text); });
+    const auto* word = std::ranges::find_if(words, [cell](const Word& row) {
+        return cell.size() == row.Text.size() && EqualNoCase(cell, row.Text);
+    });
     return word == std::end(words) ? BinsLine::Content : word->Kind;
 }
 

@@ -169,8 +169,22 @@ private:
         RemarkOnLadder(marker, read.Ladder);
     }
 
+    /// Whether the ladder is the alleles that aren't virtual, name by name, as a rule.
+    static bool IsLadderOf(const PanelMarker& marker, const std::vector<std::string>& ladder)
+    {
+        auto name = ladder.begin();
+        for (const AlleleFields& allele : marker.Alleles)
+        {
+            if (allele.AlleleInt2 == 0 && (name == ladder.end() || *name++ != allele.AlleleText1))
+                return false;
+        }
+        return name == ladder.end();
+    }
+
     void RemarkOnLadder(const PanelMarker& marker, const std::vector<std::string>& ladder)
     {
+        if (IsLadderOf(marker, ladder))
+            return;
         const std::string place = marker.File + ", line " + std::to_string(marker.Line) + ": " +
                                   marker.Marker + ", allele ";
         std::set<std::string> names;

@@ -38,7 +38,7 @@ struct PanelColumnRule
 {
     std::string_view Name;
     bool IsRequired;
-    bool IsOfMarker; ///< All lines of a marker agree.
+    bool IsOfMarker; ///< The lines of a marker, which has one panel, name and tag, must agree.
 };
 
 /// In the order of `PanelColumn`. The columns before the last two are written in this order; of
@@ -46,11 +46,11 @@ struct PanelColumnRule
 /// `LocusFieldColumns`. `Short.Name` and `Full.Name` are of the kit table, the dialect of open
 /// programs that analyse.
 inline constexpr PanelColumnRule PanelColumnRules[] = {
-    {"Panel", true, true},       {"Marker", true, true},        {"Allele", true, false},
+    {"Panel", true, false},      {"Marker", true, false},       {"Allele", true, false},
     {"Size", true, false},       {"Size.Min", true, false},     {"Size.Max", true, false},
     {"Virtual", false, false},   {"Color", true, true},         {"Repeat", true, true},
     {"Marker.Min", true, true},  {"Marker.Max", true, true},    {"Offset", false, true},
-    {"LocusTag", false, true},   {"AlleleReal4", false, false}, {"AlleleInt1", false, false},
+    {"LocusTag", false, false},  {"AlleleReal4", false, false}, {"AlleleInt1", false, false},
     {"Short.Name", false, true}, {"Full.Name", false, true},
 };
 

@@ -6,6 +6,20 @@
 namespace Tamrivo
 {
 
+namespace
+{
+
+/// Whether all characters are of ASCII. One loop without a branch, since nearly all lines are.
+bool IsAscii(std::string_view line)
+{
+    unsigned char all = 0;
+    for (const char character : line)
+        all |= static_cast<unsigned char>(character);
+    return all < 0x80;
+}
+
+} // namespace
+
 bool TableLines::Next()
 {
     std::string_view line;
@@ -16,7 +30,7 @@ bool TableLines::Next()
             line.remove_suffix(1);
         if (line.find('\0') != std::string_view::npos)
             m_problem = "The line has a zero byte; the file is binary or damaged";
-        else if (!IsUtf8(line))
+        else if (!IsAscii(line) && !IsUtf8(line))
             m_problem = "The text isn't UTF-8; save the table as UTF-8";
         else if (line.find_first_not_of("\t ") != std::string_view::npos)
         {

@@ -53,7 +53,9 @@ std::string TableRow::Text(PanelColumn column) const
     const std::string_view cell = Cell(column);
     if (m_header.IsOwn())
         return UnescapeCell(cell);
-    return cell == "NA" ? "" : UnescapeCell(UnquotedCell(cell));
+    if (cell.starts_with('"'))
+        return UnescapeCell(UnquotedCell(cell));
+    return cell == "NA" ? "" : UnescapeCell(cell);
 }
 
 std::string TableRow::Name(PanelMarker& marker, PanelColumn column) const

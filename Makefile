@@ -25,7 +25,7 @@ build:               ## build everything into build/
 	cmake --build --preset default
 
 bench:               ## measure, one line a figure
-	@scripts/install-packages run
+	@scripts/install-packages run test
 	cmake --preset programs
 	cmake --build --preset programs --target tamrivo_bench
 	build/bin/tamrivo_bench

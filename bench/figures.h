@@ -23,6 +23,17 @@ double LookupOfTag();
 double MemoryOfLocus();
 double AlleleGeneration();
 
+double ReadingOfAlleles();
+
+double SaveInLongHistory();
+double HistoryOfLocus();
+
+double OneWriterOnServer();
+double TwelveWritersOnServer();
+double TwelveWritersOverOne();
+double QueryOnServer();
+double AllelesOnServer();
+
 double ImportOfPanels();
 double ImportOfKitTable();
 double ReadingOfPanelTable();
@@ -63,6 +74,11 @@ inline constexpr Figure Figures[] = {
     {"lookup", "Looking up a tag, 100,000 loci / 100 loci", 2, "", LookupOfTag},
     {"memory", "Memory of a listed locus without alleles", 1024, "bytes", MemoryOfLocus},
     {"generate", "Generating the widest allele list", 2, "ms", AlleleGeneration},
+    {"alleles", "Reading all alleles of 4,000 loci with 25 each / a bare scan", 2, "",
+     ReadingOfAlleles},
+    {"history_save", "Save in a history of 1,000,000 records / of 1,000", 1.1, "",
+     SaveInLongHistory},
+    {"history_tag", "History of a locus in 1,000,000 records / in 1,000", 1.5, "", HistoryOfLocus},
     {"import", "Import of 100,000 alleles / bare inserts", 3, "", ImportOfPanels},
     {"import_kit", "Import of a kit table / a panel table of the same loci", 1.5, "",
      ImportOfKitTable},
@@ -97,6 +113,14 @@ inline constexpr Figure Figures[] = {
     {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},
     {"window_sort", "Sorting 100,000 rows in the window / without one", 1.3, "", WindowSort},
     {"window_move", "Moving one row of 100,000 in the window", 16, "ms", WindowMove},
+    {"server_one", "Bare saves a second on a server / the store's, one writer", 1 / 0.6, "",
+     OneWriterOnServer},
+    {"server_twelve", "The same, twelve writers", 1 / 0.5, "", TwelveWritersOnServer},
+    {"server_growth", "From one to twelve writers, bare / the store", 1 / 0.7, "",
+     TwelveWritersOverOne},
+    {"server_query", "CurrentLoci of 100,000 loci on a server / bare query", 2, "", QueryOnServer},
+    {"server_alleles", "Reading the alleles of 100,000 loci on a server / bare query", 2, "",
+     AllelesOnServer},
 };
 
 } // namespace Tamrivo::Bench

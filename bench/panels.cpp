@@ -3,8 +3,11 @@
 #include "bench/panel_samples.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
+#include "host/database/columns.h"
 #include "host/panels/import.h"
 #include "host/panels/panel_files.h"
+#include "host/store/allele_row.h"
+#include "host/store/bulk_alleles.h"
 #include "host/store/locus_row.h"
 
 namespace Tamrivo::Bench
@@ -13,20 +16,48 @@ namespace Tamrivo::Bench
 namespace
 {
 
+volatile long long sink = 0;
+
 void Step(const BareStatement& statement, const BareConnection& connection)
 {
     Require(sqlite3_step(statement.get()) == SQLITE_DONE, connection);
     sqlite3_reset(statement.get());
 }
 
+/// Reads each value as the number or text that it is.
+void BareScanOfAlleles(const BareConnection& connection)
+{
+    AlleleRow row;
+    const BareStatement select = Prepare(connection, "SELECT " + ColumnNames(row) +
+                                                         " FROM Allele ORDER BY LocusID, Position");
+    long long sum = 0;
+    while (sqlite3_step(select.get()) == SQLITE_ROW)
+    {
+        int column = 0;
+        row.VisitColumns([&](std::string_view, const auto& value) {
+            using Value = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<Value, std::string>)
+                sum += *sqlite3_column_text(select.get(), column++);
+            else if constexpr (std::is_same_v<Value, double>)
+                sum += static_cast<long long>(sqlite3_column_double(select.get(), column++));
+            else
+                sum += sqlite3_column_int(select.get(), column++);
+        });
+    }
+    sink = sum;
+}
+
+void Import(const std::string& text, Store& store)
+{
+    const PanelFile file = PanelFileOf("table", text);
+    const PanelReading reading = ReadPanels({&file, 1});
+    CarryOutImport(PlanImport(reading.Markers, {}, store), store);
+}
+
 double ImportSeconds(const std::string& text)
 {
     TemporaryStore store;
-    return SecondsOf([&] {
-        const PanelFile file = PanelFileOf("table", text);
-        const PanelReading reading = ReadPanels({&file, 1});
-        CarryOutImport(PlanImport(reading.Markers, {}, store.Get()), store.Get());
-    });
+    return SecondsOf([&] { Import(text, store.Get()); });
 }
 
 /// Inserts as many rows, with every column bound, in one transaction.
@@ -72,6 +103,17 @@ double InsertSeconds()
 }
 
 } // namespace
+
+double ReadingOfAlleles()
+{
+    TemporaryStore store;
+    Import(SamplePanelTable(), store.Get());
+    const auto loci = CurrentLoci(store.Get().Manager(), "");
+    const BareConnection connection = Connect(store.Path());
+    return RatioOf(
+        7, [&] { ForEachWithAlleles(loci->Members(), [](Locus&, std::size_t) {}); },
+        [&] { BareScanOfAlleles(connection); });
+}
 
 double ImportOfPanels()
 {

@@ -119,8 +119,8 @@ inline constexpr Figure Figures[] = {
     {"server_growth", "From one to twelve writers, bare / the store", 1 / 0.7, "",
      TwelveWritersOverOne},
     {"server_query", "CurrentLoci of 100,000 loci on a server / bare query", 2, "", QueryOnServer},
-    {"server_alleles", "Reading the alleles of 100,000 loci on a server / bare query", 2, "",
-     AllelesOnServer},
+    {"server_alleles", "Reading all alleles of 4,000 loci with 25 each on a server / bare query", 2,
+     "", AllelesOnServer},
 };
 
 } // namespace Tamrivo::Bench

@@ -1,7 +1,6 @@
 #include "bench/sample_store.h"
 
 #include "contracts/object_manager.h"
-#include "host/store/seal.h"
 
 #include <cstdlib>
 #include <map>
@@ -72,8 +71,6 @@ TemporaryStore& StoreOfLoci(int count)
         for (int number = 0; number < count; ++number)
             store.Manager().Save(*SampleLocus(store.Manager(), number), true);
         transaction.Commit();
-        // The library of the digests is gone by the time that this store is closed.
-        WriteSeals(store.SharedDatabase());
     }
     return found->second;
 }

@@ -162,23 +162,17 @@ double BareOverStore(int writers)
     return rates.Bare / rates.OfStore;
 }
 
-/// A store on the scratch server with many loci and a row of Allele for each.
-Store& StoreOfManyLoci()
+void Fill(Store& store, int loci, int alleles)
 {
-    static Store store(ScratchServer::Get().NewDatabase());
-    static const bool isFilled = [] {
-        store.Together([&] {
-            for (int number = 0; number < ManyLoci; ++number)
-            {
-                const auto locus = SampleLocus(store.Manager(), number);
+    store.Together([&] {
+        for (int number = 0; number < loci; ++number)
+        {
+            const auto locus = SampleLocus(store.Manager(), number);
+            for (int allele = 0; allele < alleles; ++allele)
                 locus->Alleles().Add(CreateObject<Allele>(store.Manager(), "Allele"));
-                store.Manager().Save(*locus, true);
-            }
-        });
-        return true;
-    }();
-    static_cast<void>(isFilled);
-    return store;
+            store.Manager().Save(*locus, true);
+        }
+    });
 }
 
 /// Reads rows and looks at each value as the number or text that it is.
@@ -226,7 +220,8 @@ double TwelveWritersOverOne()
 
 double QueryOnServer()
 {
-    Store& store = StoreOfManyLoci();
+    Store store(ScratchServer::Get().NewDatabase());
+    Fill(store, ManyLoci, 0);
     const BareServerConnection connection = ConnectToServer(store.Name());
     return RatioOf(
         3, [&] { return CurrentLoci(store.Manager(), ""); },
@@ -235,7 +230,9 @@ double QueryOnServer()
 
 double AllelesOnServer()
 {
-    Store& store = StoreOfManyLoci();
+    constexpr int count = 4000;
+    Store store(ScratchServer::Get().NewDatabase());
+    Fill(store, count, Alleles);
     const BareServerConnection connection = ConnectToServer(store.Name());
     const auto loci = CurrentLoci(store.Manager(), "");
     return RatioOf(

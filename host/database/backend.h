@@ -3,6 +3,7 @@
 #include <soci/soci.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -34,6 +35,17 @@ public:
     virtual std::string ServerUser(soci::session&) { return {}; }
     /// Whether the connection still leads to the store that stands at its address.
     virtual bool IsReachable(soci::session& session) = 0;
+    /// What tells the store from all others, however its address is spelt.
+    virtual std::string Identity(soci::session& session) = 0;
+    /// Begins a transaction that only reads, and sees the store as it is when it first does.
+    virtual void BeginSnapshot(soci::session& session) = 0;
+    /// Copies the store, as it is at one moment, into an SQLite file that isn't there, and calls
+    /// `progress` meanwhile. False: the back end has no way of its own to do so.
+    virtual bool BackUpTo(soci::session&, const std::string& /*file*/,
+                          const std::function<void()>& /*progress*/)
+    {
+        return false;
+    }
     /// Begins a transaction that is going to write.
     virtual void Begin(soci::session& session) = 0;
     /// Ends it. When the connection was lost at that moment, `witness`, a query that counts what
@@ -53,6 +65,10 @@ public:
     virtual bool WritesManyRows() const { return false; }
     /// A number that no object of this store has had before. Only inside a transaction.
     virtual std::int32_t NextNumber(soci::session& session) = 0;
+    /// The last such number.
+    virtual std::int32_t LastNumber(soci::session& session) = 0;
+    /// For a store that was filled with the objects and records of another one.
+    virtual void SetLastNumber(soci::session& session, std::int32_t number) = 0;
     /// The `StoreError` that a failed statement amounts to.
     virtual std::int32_t ErrorNumberOf(const soci::soci_error& error) const = 0;
     /// Whether work that failed so, and that was taken back, may succeed when it is done again.
@@ -68,6 +84,9 @@ inline constexpr int LockTimeoutSeconds = 5;
 /// Raises `StoreError::Unreachable` for a server of a version that is too old.
 /// @param version as the server gives it: 150003 is 15.3
 void RequireServerVersion(int version);
+
+/// `Backend::Identity` of the store in an SQLite file.
+std::string IdentityOfFile(const std::string& path);
 
 /// The back end for an address, not connected yet.
 std::unique_ptr<Backend> BackendFor(const std::string& address);

@@ -89,6 +89,26 @@ bool Database::Testifies(const std::string& witness)
     });
 }
 
+std::string Database::Identity()
+{
+    return Run("The store is not looked at",
+               [this](soci::session& session) { return m_backend->Identity(session); });
+}
+
+bool Database::BackUpTo(const std::string& file)
+{
+    return Run("The backup \"" + file + "\" is not written", [&](soci::session& session) {
+        return m_backend->BackUpTo(session, file, [this] { Progress(); });
+    });
+}
+
+void Database::BeginSnapshot()
+{
+    m_backend->BeginSnapshot(m_session);
+    m_undone = false;
+    ++m_depth;
+}
+
 void Database::Begin()
 {
     if (m_depth == 0)

@@ -95,12 +95,20 @@ public:
 
     /// A number that no object of this store has had before. Only inside a transaction.
     std::int32_t NextNumber() { return m_backend->NextNumber(m_session); }
+    /// `Backend::LastNumber`, `Backend::SetLastNumber`
+    std::int32_t LastNumber() { return m_backend->LastNumber(m_session); }
+    void SetLastNumber(std::int32_t number) { m_backend->SetLastNumber(m_session, number); }
+    /// `Backend::Identity`
+    std::string Identity();
+    /// `Backend::BackUpTo`
+    bool BackUpTo(const std::string& file);
     /// `Backend::TryReserveSeals`
     bool TryReserveSeals() { return m_backend->TryReserveSeals(m_session); }
     /// `Backend::ReserveSchema`
     void ReserveSchema() { m_backend->ReserveSchema(m_session); }
 
 private:
+    friend class Snapshot;
     friend class Transaction;
 
     /// Counts the pieces of work that run one inside the other.
@@ -113,6 +121,7 @@ private:
         int& Depth;
     };
 
+    void BeginSnapshot();
     void Begin();
     void Commit();
     void RollBack() noexcept;

@@ -126,6 +126,20 @@ public:
 
     bool IsReachable(soci::session&) override { return true; }
 
+    std::string Identity(soci::session& session) override
+    {
+        std::string identity;
+        session << "SELECT CAST(pg_postmaster_start_time() AS TEXT) || ' ' || oid FROM pg_database "
+                   "WHERE datname = current_database()",
+            soci::into(identity);
+        return "postgresql " + identity;
+    }
+
+    void BeginSnapshot(soci::session& session) override
+    {
+        session << "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
+    }
+
     void Begin(soci::session& session) override { session << "BEGIN"; }
 
     void Commit(soci::session& session, const std::string& witness) override
@@ -168,6 +182,19 @@ public:
         std::int32_t number = 0;
         session << "SELECT nextval('ObjectNumber')", soci::into(number);
         return number;
+    }
+
+    std::int32_t LastNumber(soci::session& session) override
+    {
+        std::int32_t number = 0;
+        session << "SELECT last_value FROM ObjectNumber", soci::into(number);
+        return number;
+    }
+
+    void SetLastNumber(soci::session& session, std::int32_t number) override
+    {
+        session << "SELECT setval('ObjectNumber', " << number << ")";
+        session << "SELECT setval('history_number_seq', (SELECT MAX(Number) FROM History))";
     }
 
     bool MayTryAgain(const soci::soci_error& error) const override

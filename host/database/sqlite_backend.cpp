@@ -1,6 +1,9 @@
 #include "host/database/backend.h"
+#include "host/database/sqlite_backup.h"
 #include "host/database/sqlite_row.h"
 #include "host/database/store_failure.h"
+
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -74,6 +77,17 @@ public:
         return moved == 0;
     }
 
+    std::string Identity(soci::session&) override { return IdentityOfFile(m_file); }
+
+    void BeginSnapshot(soci::session& session) override { session << "BEGIN"; }
+
+    bool BackUpTo(soci::session& session, const std::string& file,
+                  const std::function<void()>& progress) override
+    {
+        BackUpSqlite(Handle(session), file, progress);
+        return true;
+    }
+
     void Begin(soci::session& session) override { session << "BEGIN IMMEDIATE"; }
 
     void Commit(soci::session& session, const std::string&) override { session << "COMMIT"; }
@@ -84,6 +98,18 @@ public:
         session << "UPDATE LastNumber SET Number = Number + 1";
         session << "SELECT Number FROM LastNumber", soci::into(number);
         return number;
+    }
+
+    std::int32_t LastNumber(soci::session& session) override
+    {
+        std::int32_t number = 0;
+        session << "SELECT Number FROM LastNumber", soci::into(number);
+        return number;
+    }
+
+    void SetLastNumber(soci::session& session, std::int32_t number) override
+    {
+        session << "UPDATE LastNumber SET Number = " << number;
     }
 
     std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
@@ -119,6 +145,15 @@ private:
 };
 
 } // namespace
+
+std::string IdentityOfFile(const std::string& path)
+{
+    struct stat file
+    {};
+    if (stat(path.c_str(), &file) != 0)
+        return "sqlite " + std::filesystem::absolute(path).string();
+    return "sqlite " + std::to_string(file.st_dev) + " " + std::to_string(file.st_ino);
+}
 
 std::unique_ptr<Backend> MakeSqliteBackend(const std::string& path)
 {

@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 
 #include <array>
@@ -13,6 +14,10 @@ namespace Tamrivo
 
 std::string Sha256(std::string_view text)
 {
+    // A store that is closed while the program ends seals its history; the library must not have
+    // cleaned up by then.
+    static const int staysToTheEnd = OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr);
+    static_cast<void>(staysToTheEnd);
     std::array<unsigned char, EVP_MAX_MD_SIZE> digest{};
     unsigned int length = 0;
     if (EVP_Digest(text.data(), text.size(), digest.data(), &length, EVP_sha256(), nullptr) != 1)

@@ -1,5 +1,6 @@
 #include "console/commands/aligned_table.h"
 #include "console/commands/definition_commands.h"
+#include "console/commands/difference_lines.h"
 #include "console/commands/output_format.h"
 #include "console/commands/progress_line.h"
 #include "console/commands/stored_loci.h"
@@ -9,6 +10,7 @@
 #include "host/panels/panel_files.h"
 #include "host/reports/finding_list.h"
 #include "host/reports/locus_listing.h"
+#include "host/store/integrity.h"
 #include "host/store/store.h"
 
 #include <algorithm>
@@ -26,6 +28,7 @@ struct CheckOptions
     std::vector<std::string> Files;
     std::vector<std::string> Without;
     OutputFormat Format = OutputFormat::Table;
+    bool StoreIntegrity = false;
 };
 
 std::string RuleNames()
@@ -122,6 +125,22 @@ void Check(Context& context, const CheckOptions& options)
         context.Status = ExitStatus::Failed;
 }
 
+/// Looks at the store itself instead of at the definitions in it.
+void CheckTheStore(Context& context)
+{
+    Store store(context.StoreLocation);
+    const std::vector<std::string> faults = CheckIntegrity(store);
+    for (const std::string& fault : faults)
+        context.Out << OneLine(fault) << '\n';
+    if (faults.empty())
+        context.Out << "The store is whole, and its history as it was written.\n";
+    else
+    {
+        context.Out << "The store is damaged. Go on with a backup (tamrivo backup makes them).\n";
+        context.Status = ExitStatus::Failed;
+    }
+}
+
 } // namespace
 
 void AddCheckCommand(CLI::App& program, Context& context)
@@ -134,7 +153,8 @@ void AddCheckCommand(CLI::App& program, Context& context)
         "  tamrivo check --panel Panel-17           the loci of a panel, together\n"
         "  tamrivo check --file panels.tsv          a file, before it is imported\n"
         "  tamrivo check --without ladder-gap       all rules but one\n"
-        "  tamrivo check --format tsv | cut -f3     the tags that have findings\n\n"
+        "  tamrivo check --format tsv | cut -f3     the tags that have findings\n"
+        "  tamrivo check --store-integrity          is the store itself undamaged?\n\n"
         "Status 0: no errors, though there may be warnings; 1: errors, or no check was made.\n\n"
         "Rules:\n" +
             RuleLines());
@@ -166,9 +186,19 @@ void AddCheckCommand(CLI::App& program, Context& context)
             return FindCheckRule(name) != nullptr ? std::string()
                                                   : "\"" + name + "\" is none of " + RuleNames();
         });
+    command
+        .add_flag("--store-integrity", options->StoreIntegrity,
+                  "Check the store itself: its tables, its history, and whether they agree; status "
+                  "1 when it is damaged")
+        ->excludes(tags);
     AddFormatOption(command, options->Format,
                     {OutputFormat::Table, OutputFormat::Tsv, OutputFormat::Json});
-    command.callback([&context, options] { Check(context, *options); });
+    command.callback([&context, options] {
+        if (options->StoreIntegrity)
+            CheckTheStore(context);
+        else
+            Check(context, *options);
+    });
 }
 
 } // namespace Tamrivo

@@ -37,6 +37,8 @@ public:
     virtual bool IsReachable(soci::session& session) = 0;
     /// What tells the store from all others, however its address is spelt.
     virtual std::string Identity(soci::session& session) = 0;
+    /// What the database itself finds wrong with its files or tables, a text each.
+    virtual std::vector<std::string> Faults(soci::session&) { return {}; }
     /// Begins a transaction that only reads, and sees the store as it is when it first does.
     virtual void BeginSnapshot(soci::session& session) = 0;
     /// Copies the store, as it is at one moment, into an SQLite file that isn't there, and calls

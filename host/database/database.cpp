@@ -95,6 +95,12 @@ std::string Database::Identity()
                [this](soci::session& session) { return m_backend->Identity(session); });
 }
 
+std::vector<std::string> Database::Faults()
+{
+    return Run("The store is not checked",
+               [this](soci::session& session) { return m_backend->Faults(session); });
+}
+
 bool Database::BackUpTo(const std::string& file)
 {
     return Run("The backup \"" + file + "\" is not written", [&](soci::session& session) {

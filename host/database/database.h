@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Tamrivo
 {
@@ -100,6 +101,8 @@ public:
     void SetLastNumber(std::int32_t number) { m_backend->SetLastNumber(m_session, number); }
     /// `Backend::Identity`
     std::string Identity();
+    /// `Backend::Faults`
+    std::vector<std::string> Faults();
     /// `Backend::BackUpTo`
     bool BackUpTo(const std::string& file);
     /// `Backend::TryReserveSeals`

@@ -79,6 +79,19 @@ public:
 
     std::string Identity(soci::session&) override { return IdentityOfFile(m_file); }
 
+    std::vector<std::string> Faults(soci::session& session) override
+    {
+        std::vector<std::string> faults;
+        std::string fault;
+        soci::statement rows = (session.prepare << "PRAGMA integrity_check(20)", soci::into(fault));
+        for (rows.execute(); rows.fetch();)
+        {
+            if (fault != "ok")
+                faults.push_back(fault);
+        }
+        return faults;
+    }
+
     void BeginSnapshot(soci::session& session) override { session << "BEGIN"; }
 
     bool BackUpTo(soci::session& session, const std::string& file,

@@ -59,16 +59,12 @@ bool IsRevision(const std::string& at)
 void History::ForEach(const HistoryFilter& filter,
                       const std::function<void(const HistoryRecord&)>& handler)
 {
+    const std::string key = LookupKey(filter.Name);
     long long after = filter.After;
     std::vector<HistoryRecord> page;
     do
     {
-        page = m_database.Run(NotRead, [&](soci::session& session) {
-            std::vector<HistoryRecord> records;
-            HistoryRecord record;
-            const std::string key = LookupKey(filter.Name);
-            soci::statement statement(session);
-            BindRecord(m_database, statement, record);
+        page = ReadPage(ConditionOf(filter) + " ORDER BY Number", [&](soci::statement& statement) {
             statement.exchange(soci::use(after));
             if (!filter.Name.empty())
                 statement.exchange(soci::use(key));
@@ -77,20 +73,57 @@ void History::ForEach(const HistoryFilter& filter,
                 statement.exchange(soci::use(filter.By));
                 statement.exchange(soci::use(filter.By));
             }
-            Prepare(statement, SelectRecords(record) + "WHERE " + ConditionOf(filter) +
-                                   " ORDER BY Number LIMIT " + std::to_string(RecordsOfPage));
-            for (statement.execute(); statement.fetch();)
-                records.push_back(record);
-            return records;
         });
-        for (const HistoryRecord& record : page)
-        {
-            m_database.Progress();
-            handler(record);
-        }
+        HandOver(page, handler);
         if (!page.empty())
             after = page.back().Number;
     } while (page.size() == RecordsOfPage);
+}
+
+void History::ForEachLast(std::string_view kind,
+                          const std::function<void(const HistoryRecord&)>& handler)
+{
+    std::int32_t after = -1;
+    std::vector<HistoryRecord> page;
+    do
+    {
+        page = ReadPage(
+            "Kind = '" + std::string(kind) +
+                "' AND ObjectNumber > :After AND NOT EXISTS (SELECT 1 FROM History AS Later WHERE "
+                "Later.Kind = History.Kind AND Later.ObjectNumber = History.ObjectNumber AND "
+                "Later.Revision > History.Revision) ORDER BY ObjectNumber",
+            [&](soci::statement& statement) { statement.exchange(soci::use(after)); });
+        HandOver(page, handler);
+        if (!page.empty())
+            after = page.back().ObjectNumber;
+    } while (page.size() == RecordsOfPage);
+}
+
+std::vector<HistoryRecord> History::ReadPage(const std::string& condition,
+                                             const std::function<void(soci::statement&)>& bind)
+{
+    return m_database.Run(NotRead, [&](soci::session& session) {
+        std::vector<HistoryRecord> records;
+        HistoryRecord record;
+        soci::statement statement(session);
+        BindRecord(m_database, statement, record);
+        bind(statement);
+        Prepare(statement, SelectRecords(record) + "WHERE " + condition + " LIMIT " +
+                               std::to_string(RecordsOfPage));
+        for (statement.execute(); statement.fetch();)
+            records.push_back(record);
+        return records;
+    });
+}
+
+void History::HandOver(const std::vector<HistoryRecord>& page,
+                       const std::function<void(const HistoryRecord&)>& handler)
+{
+    for (const HistoryRecord& record : page)
+    {
+        m_database.Progress();
+        handler(record);
+    }
 }
 
 std::optional<HistoryRecord> History::ReadOne(const std::string& condition,

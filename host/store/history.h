@@ -7,6 +7,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+namespace soci
+{
+class statement;
+}
 
 namespace Tamrivo
 {
@@ -28,6 +34,7 @@ struct HistoryFinding
 {
     long long Records = 0;
     long long Seals = 0;
+    long long Sealed = 0; ///< Records that have a seal.
     std::string LastSeal; ///< Its digest; empty when there is none.
     /// The first record that isn't as it was written, or that is gone; 0 when all is well.
     long long Number = 0;
@@ -45,6 +52,11 @@ public:
     void ForEach(const HistoryFilter& filter,
                  const std::function<void(const HistoryRecord&)>& handler);
 
+    /// Calls the handler with the last record of each object of a kind, in the order of their
+    /// numbers.
+    void ForEachLast(std::string_view kind,
+                     const std::function<void(const HistoryRecord&)>& handler);
+
     /// The record of a locus that a person means.
     /// @param tag of the locus, or that it once had; where several loci had it, that of the one
     ///     which has it now, else the last one
@@ -61,6 +73,11 @@ public:
     HistoryFinding Verify();
 
 private:
+    /// The first records that meet a condition, for whose values `bind` sees.
+    std::vector<HistoryRecord> ReadPage(const std::string& condition,
+                                        const std::function<void(soci::statement&)>& bind);
+    void HandOver(const std::vector<HistoryRecord>& page,
+                  const std::function<void(const HistoryRecord&)>& handler);
     std::optional<HistoryRecord> ReadOne(const std::string& condition, const std::string& value);
 
     Database& m_database;

@@ -132,6 +132,7 @@ void CheckSeals(Database& database, HistoryFinding& finding)
         database.Progress();
         ++finding.Seals;
         const auto sealed = SealedRecords(seal.Records);
+        finding.Sealed += static_cast<long long>(sealed.size());
         if (seal.Number != last.Number + 1 ||
             seal.Digest != SealDigest(last.Digest, seal.WrittenAt, seal.Records))
             Note(finding, sealed.empty() ? 1 : sealed.front().first,

@@ -14,7 +14,17 @@ namespace
 /// A store has one set of settings, an object of the history.
 constexpr std::int32_t settingsNumber = 0;
 
+std::string ReasonRule(bool isRequired)
+{
+    return isRequired ? "required" : "optional";
+}
+
 } // namespace
+
+std::string ReasonRuleContent(bool isRequired)
+{
+    return ContentOfValue("Value", ReasonRule(isRequired));
+}
 
 bool IsReasonRequired(Database& database)
 {
@@ -32,13 +42,13 @@ void SetReasonRequired(Database& database, bool required)
         if (IsReasonRequired(database) == required)
             return;
         const std::string name = "reason";
-        const std::string value = required ? "required" : "optional";
+        const std::string value = ReasonRule(required);
         // First, so that the rule until now holds for its change.
         HistoryWriter(database).Record({.Kind = HistoryKind::Setting,
                                         .ObjectNumber = settingsNumber,
                                         .Operation = HistoryOperation::Changed,
                                         .Name = name,
-                                        .Content = ContentOfValue("Value", value)});
+                                        .Content = ReasonRuleContent(required)});
         session << "INSERT INTO Setting (Name, Value) VALUES (:Name, :Value) "
                    "ON CONFLICT (Name) DO UPDATE SET Value = EXCLUDED.Value",
             soci::use(name), soci::use(value);

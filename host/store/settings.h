@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace Tamrivo
@@ -9,6 +10,9 @@ class Database;
 
 /// The condition on the table Setting that each change has to have a reason.
 inline constexpr std::string_view ReasonIsRequired = "Name = 'reason' AND Value = 'required'";
+
+/// What the history keeps of the rule.
+std::string ReasonRuleContent(bool isRequired);
 
 /// Whether each change has to have a reason.
 bool IsReasonRequired(Database& database);

@@ -13,6 +13,7 @@
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -115,7 +116,8 @@ private:
             const auto* locus = dynamic_cast<const StoredLocus*>(loci[at].get());
             if (locus && !locus->LoadedAlleles())
                 LoadAlleles(LociWithoutAlleles(
-                    std::span(loci).subspan(begin, std::min(LociAtOnce, loci.size() - begin))));
+                    std::span(std::as_const(loci))
+                        .subspan(begin, std::min(LociAtOnce, loci.size() - begin))));
             CheckedLocus checked = CheckedLocusOf(*loci[at], dyes);
             checked.Owner = std::move(loci[at]);
             return checked;

@@ -36,7 +36,7 @@ namespace
 struct WizardText
 {
     std::string_view Wizard;
-    const char* Title;
+    const char* Title;         ///< What the page is about.
     const char* Invalid;       ///< When the page marks no field.
     bool AsksToCancel = false; ///< When something was changed.
 };
@@ -74,13 +74,27 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
       m_stored(ContentOf(wizard.Page()))
 {
     setObjectName(ToQString(wizard.Name()));
-    setWindowTitle(TextOf(wizard.Name()).Title);
     setSizeGripEnabled(true);
     SetUpReasons();
     LayOut();
     AskAboutAlleles();
-    m_validated = m_wizard.Validated.Connect([this] { ShowReasons(); });
+    m_validated = m_wizard.Validated.Connect([this] {
+        ShowReasons();
+        ShowTitle();
+    });
     ShowReasons();
+    ShowTitle();
+}
+
+void WizardDialog::ShowTitle()
+{
+    QString title = TextOf(m_wizard.Name()).Title;
+    if (const auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page()))
+    {
+        const QString tag = ToQString(editor->txtLocusTag.Text()).trimmed();
+        title = (tag.isEmpty() ? "New locus" : tag) + " – " + title;
+    }
+    setWindowTitle(title);
 }
 
 void WizardDialog::SetUpReasons()
@@ -192,8 +206,10 @@ void WizardDialog::NoteSavedAs()
             return;
         const auto locus =
             ParameterItem<std::shared_ptr<Locus>>(parameters, ParameterKey::SaveLocusAs);
-        if (locus->LocusID() > 0)
-            m_stored = ContentOf(m_wizard.Page());
+        if (locus->LocusID() <= 0)
+            return;
+        m_stored = ContentOf(m_wizard.Page());
+        emit SavedAs(ToQString(locus->LocusTag()));
     });
 }
 

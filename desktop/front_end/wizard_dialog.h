@@ -15,11 +15,13 @@ class Actions;
 class FormView;
 class WizardSession;
 
-/// A wizard with its page. Finish is refused while the page is not valid, and the reasons then
-/// stand above the buttons. What would lose a person's work is asked first. Whatever ends the
-/// dialog ends the wizard.
+/// A wizard with its page, named by what stands on it. Finish is refused while the page is not
+/// valid, and the reasons then stand above the buttons. What would lose a person's work is asked
+/// first. Whatever ends the dialog ends the wizard.
 class WizardDialog : public QDialog
 {
+    Q_OBJECT
+
 public:
     WizardDialog(WizardSession& wizard, const Actions& actions, QWidget* parent);
     ~WizardDialog() override;
@@ -32,11 +34,16 @@ public:
     void accept() override;
     void reject() override;
 
+signals:
+    /// What another page has stored of this one stands under the tag.
+    void SavedAs(const QString& tag);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void ShowTitle();
     void SetUpReasons();
     void LayOut();
     void AskAboutAlleles();

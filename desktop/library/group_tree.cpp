@@ -87,10 +87,8 @@ GroupTree::GroupTree(QWidget* parent) : QTreeWidget(parent)
     // A question may follow, which must not come in the middle of a press of the mouse.
     m_chosenChanged.setSingleShot(true);
     m_chosenChanged.setInterval(0);
-    connect(&m_chosenChanged, &QTimer::timeout, this, [this] {
-        if (onChosen)
-            onChosen(LocusGroup(m_chosen));
-    });
+    connect(&m_chosenChanged, &QTimer::timeout, this,
+            [this] { emit GroupChosen(LocusGroup(m_chosen)); });
     connect(this, &QTreeWidget::itemSelectionChanged, this, &GroupTree::TakeChosen);
     // The chosen group can be gone back to when a search or the selector has replaced it.
     connect(this, &QTreeWidget::itemClicked, this, &GroupTree::TakeChosen);
@@ -252,7 +250,7 @@ void GroupTree::dragMoveEvent(QDragMoveEvent* event)
 void GroupTree::dropEvent(QDropEvent* event)
 {
     const QTreeWidgetItem* target = DropTarget(*event);
-    if (target == nullptr || !onDropped)
+    if (target == nullptr)
         return event->ignore();
     std::vector<std::string> tags;
     for (const QByteArray& tag : event->mimeData()->data(LibraryModel::TagsType).split('\n'))
@@ -261,7 +259,7 @@ void GroupTree::dropEvent(QDropEvent* event)
             tags.push_back(tag.toStdString());
     }
     event->acceptProposedAction();
-    onDropped(FromQString(GroupOf(*target).Name), tags);
+    emit LociDropped(FromQString(GroupOf(*target).Name), tags);
 }
 
 } // namespace Tamrivo

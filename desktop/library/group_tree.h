@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include <functional>
 #include <map>
 #include <string>
 
@@ -16,13 +15,15 @@ namespace Tamrivo
 /// added to it.
 class GroupTree : public QTreeWidget
 {
+    Q_OBJECT
+
 public:
     explicit GroupTree(QWidget* parent);
 
     /// Shows these groups and keeps the chosen one chosen, else the first.
     void Show(const std::vector<CountedGroup>& groups, const Library& library);
     const LocusGroup& Chosen() const { return m_chosen; }
-    /// Chooses a group without raising `onChosen`.
+    /// Chooses a group without raising `GroupChosen`.
     void Choose(const LocusGroup& group);
     /// Marks the parameter that is open, with the present number of its loci; an empty name for
     /// none.
@@ -32,11 +33,12 @@ public:
     QList<QAction*> ParameterCommands;
     QList<QAction*> SearchCommands;
 
-    std::function<void(const LocusGroup& group)> onChosen;
-    std::function<void(const std::string& parameter, const std::vector<std::string>& tags)>
-        onDropped;
-
     QSize sizeHint() const override;
+
+signals:
+    /// Shortly after the person has chosen a group.
+    void GroupChosen(const LocusGroup& group);
+    void LociDropped(const std::string& parameter, const std::vector<std::string>& tags);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

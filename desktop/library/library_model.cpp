@@ -133,9 +133,9 @@ Qt::ItemFlags LibraryModel::flags(const QModelIndex& index) const
 
 bool LibraryModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || !m_ticks || !onTicked)
+    if (role != Qt::CheckStateRole || !m_ticks)
         return false;
-    onTicked(LocusAt(index.row()).Tag, value.toInt() == Qt::Checked);
+    emit Ticked(LocusAt(index.row()).Tag, value.toInt() == Qt::Checked);
     return true;
 }
 

@@ -4,7 +4,6 @@
 
 #include <QAbstractTableModel>
 
-#include <functional>
 #include <optional>
 #include <unordered_set>
 #include <vector>
@@ -16,6 +15,8 @@ namespace Tamrivo
 /// that adds its locus or takes it out.
 class LibraryModel : public QAbstractTableModel
 {
+    Q_OBJECT
+
 public:
     /// The type of what is dragged out of the table: tags, a line each.
     static constexpr const char* TagsType = "application/x-tamrivo-tags";
@@ -33,9 +34,6 @@ public:
     /// Numbers of the loci that have a tick; none when there are no ticks to be seen.
     void SetTicks(std::optional<std::unordered_set<std::int32_t>> ticks);
 
-    /// The person has ticked the locus, or taken its tick away.
-    std::function<void(const std::string& tag, bool isTicked)> onTicked;
-
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -45,6 +43,10 @@ public:
     void sort(int column, Qt::SortOrder order) override;
     QStringList mimeTypes() const override { return {TagsType}; }
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
+
+signals:
+    /// The person has ticked the locus, or taken its tick away.
+    void Ticked(const std::string& tag, bool isTicked);
 
 private:
     void SortRows();

@@ -66,10 +66,7 @@ LibraryTable::LibraryTable(QWidget* parent) : QTableView(parent)
     header.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&header, &QWidget::customContextMenuRequested, this,
             [this](QPoint place) { OfferColumns(horizontalHeader()->mapToGlobal(place)); });
-    connect(this, &QTableView::doubleClicked, this, [this] {
-        if (onEdit)
-            onEdit();
-    });
+    connect(this, &QTableView::doubleClicked, this, &LibraryTable::EditAsked);
     FitRows();
 }
 
@@ -156,11 +153,12 @@ void LibraryTable::ChooseRows(const std::vector<int>& rows)
 void LibraryTable::keyPressEvent(QKeyEvent* event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && onEdit)
-        return onEdit();
-    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier && onDelete)
-        return onDelete();
-    QTableView::keyPressEvent(event);
+    if (isReturn)
+        emit EditAsked();
+    else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier)
+        emit DeleteAsked();
+    else
+        QTableView::keyPressEvent(event);
 }
 
 void LibraryTable::OfferColumns(QPoint place)

@@ -2,7 +2,6 @@
 
 #include <QTableView>
 
-#include <functional>
 #include <vector>
 
 namespace Tamrivo
@@ -12,6 +11,8 @@ namespace Tamrivo
 /// chosen in its menu, which is remembered. Return and a double click edit, Delete deletes.
 class LibraryTable : public QTableView
 {
+    Q_OBJECT
+
 public:
     explicit LibraryTable(QWidget* parent);
     ~LibraryTable() override;
@@ -23,8 +24,10 @@ public:
     /// Chooses these rows instead, and brings the first one into view.
     void ChooseRows(const std::vector<int>& rows);
 
-    std::function<void()> onEdit;
-    std::function<void()> onDelete;
+signals:
+    /// The person wants to edit, or delete, the chosen loci.
+    void EditAsked();
+    void DeleteAsked();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -81,8 +81,7 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     m_chosenChanged.setInterval(0);
     connect(&m_chosenChanged, &QTimer::timeout, this, [this] {
         ShowPreview();
-        if (onChosen)
-            onChosen();
+        emit Chosen();
     });
     connect(m_search, &QLineEdit::textChanged, this,
             [this] { m_actions.Run([this] { Filter(); }); });
@@ -93,10 +92,7 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { m_chosenChanged.start(); });
-    m_model->onTicked = [this](const std::string& tag, bool isTicked) {
-        if (onTicked)
-            onTicked(tag, isTicked);
-    };
+    connect(m_model, &LibraryModel::Ticked, this, &LibraryView::Ticked);
 }
 
 LibraryView::~LibraryView()

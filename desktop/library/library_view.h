@@ -6,7 +6,6 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class QLabel;
@@ -24,6 +23,8 @@ class Store;
 /// preview of the chosen ones.
 class LibraryView : public QWidget
 {
+    Q_OBJECT
+
 public:
     LibraryView(const Actions& actions, QWidget* parent);
     ~LibraryView() override;
@@ -55,9 +56,10 @@ public:
     LibraryTable& LociTable() const { return *m_table; }
     LocusPreview& Preview() const { return *m_preview; }
 
+signals:
     /// Shortly after another choice of loci, or other loci are on show.
-    std::function<void()> onChosen;
-    std::function<void(const std::string& tag, bool isTicked)> onTicked;
+    void Chosen();
+    void Ticked(const std::string& tag, bool isTicked);
 
 private:
     void Filter();

@@ -1,12 +1,12 @@
-#include "controls/user.h"
+#include "desktop/window/locus_commands.h"
+
 #include "core/text.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
-#include "desktop/front_end/desktop_front_end.h"
 #include "desktop/library/library_view.h"
-#include "desktop/window/main_window.h"
-#include "desktop/window/parameter_view.h"
-#include "desktop/window/store_session.h"
+#include "desktop/window/ask_name.h"
+#include "desktop/window/workbench.h"
+#include "host/framework/host_application.h"
 #include "host/library/changes.h"
 #include "host/loci/counts.h"
 
@@ -35,129 +35,97 @@ QString FirstOf(const QStringList& texts)
     return texts.size() <= most ? first : first + QString(" and %1 more").arg(texts.size() - most);
 }
 
-/// The tag under which a wizard has stored its locus; empty when it has stored nothing that its
-/// parameters tell of.
-std::string StoredTag(const WizardOutcome& outcome, const std::string& edited)
-{
-    std::string stored = outcome.Completed ? edited : std::string();
-    for (const char* key : {ParameterKey::NewLocus, ParameterKey::NewSaveAs})
-    {
-        if (outcome.Completed && outcome.Parameters->KeyExists(key))
-            stored = ParameterItem<std::shared_ptr<Locus>>(*outcome.Parameters, key)->LocusTag();
-    }
-    return TrimRight(stored);
-}
-
 } // namespace
 
-std::vector<std::string> MainWindow::ChosenLoci() const
+void LocusCommands::New()
 {
-    auto tags = IsSelectorShown() ? m_view->HighlightedTags() : m_library->ChosenTags();
-    if (tags.empty())
-        throw User::Refusal("No locus is chosen");
-    return tags;
+    m_workbench.Editors().OpenNew(m_workbench.Host());
 }
 
-std::string MainWindow::ChosenLocus() const
+void LocusCommands::Edit()
 {
-    const auto tags = ChosenLoci();
-    if (tags.size() > 1)
-        throw User::Refusal("Choose one locus for this");
-    return tags.front();
+    m_workbench.Editors().Open(m_workbench.Host(), m_workbench.ChosenLocus(), false);
 }
 
-void MainWindow::ShowStored(const WizardOutcome& outcome, const std::string& edited)
+void LocusCommands::EditForBinning()
 {
-    const std::string stored = StoredTag(outcome, edited);
-    if (!stored.empty())
-        Reload("Stored " + ToQString(stored) + ".", {stored});
-    // A Save As has stored a locus even if the wizard was cancelled after it.
-    else if (outcome.Parameters->KeyExists(ParameterKey::SaveTimes))
-        Reload("Stored the locus under its new tag.");
+    m_workbench.Editors().Open(m_workbench.Host(), m_workbench.ChosenLocus(), true);
 }
 
-void MainWindow::NewLocus()
+void LocusCommands::Rename()
 {
-    ShowStored(Host().NewLocus(false), {});
-}
-
-void MainWindow::EditLocus(bool binning)
-{
-    const std::string tag = ChosenLocus();
-    ShowStored(Host().EditLocus(tag, binning), tag);
-}
-
-void MainWindow::RenameChosenLocus()
-{
-    const std::string before = ChosenLocus();
-    AskName("Rename Locus", "Tag:", before, [&](const std::string& tag) {
-        RenameLocus(Host().Store(), before, tag);
-        Reload("Renamed " + ToQString(before) + " to " + ToQString(tag) + ".", {tag});
-    });
-}
-
-void MainWindow::DuplicateChosenLocus()
-{
-    const std::string original = ChosenLocus();
-    AskName("Duplicate Locus", "Tag of the copy:", TagForCopy(Host().Store(), original),
+    const std::string before = m_workbench.ChosenLocus();
+    AskName(&m_workbench.Window(), m_workbench.UserActions(), "Rename Locus", "Tag:", before,
             [&](const std::string& tag) {
-                DuplicateLocus(Host().Store(), original, tag);
-                Reload("Stored a copy as " + ToQString(tag) + ".", {tag});
+                RenameLocus(m_workbench.Host().Store(), before, tag);
+                m_workbench.Reload("Renamed " + ToQString(before) + " to " + ToQString(tag) + ".",
+                                   {tag});
             });
 }
 
-void MainWindow::SetDyeOfChosen()
+void LocusCommands::Duplicate()
 {
-    const auto tags = ChosenLoci();
-    const Dyes dyes = Host().Store().Dyes();
+    const std::string original = m_workbench.ChosenLocus();
+    AskName(&m_workbench.Window(), m_workbench.UserActions(), "Duplicate Locus",
+            "Tag of the copy:", TagForCopy(m_workbench.Host().Store(), original),
+            [&](const std::string& tag) {
+                DuplicateLocus(m_workbench.Host().Store(), original, tag);
+                m_workbench.Reload("Stored a copy as " + ToQString(tag) + ".", {tag});
+            });
+}
+
+void LocusCommands::SetDye()
+{
+    const auto tags = m_workbench.ChosenLoci();
+    const Dyes dyes = m_workbench.Host().Store().Dyes();
     QStringList titles;
     for (std::int32_t dye = 0; dye < dyes.Count(); ++dye)
         titles += ToQString(dyes.TitleOf(dye));
     bool isGiven = false;
-    const QString title = QInputDialog::getItem(this, "Set Dye", "Dye of " + WordsFor(tags) + ":",
-                                                titles, 0, false, &isGiven);
+    const QString title =
+        QInputDialog::getItem(&m_workbench.Window(), "Set Dye", "Dye of " + WordsFor(tags) + ":",
+                              titles, 0, false, &isGiven);
     if (!isGiven)
         return;
-    SetDye(Host().Store(), tags, static_cast<std::int32_t>(titles.indexOf(title)));
-    Reload("Changed " + WordsFor(tags) + ".", tags);
+    Tamrivo::SetDye(m_workbench.Host().Store(), tags,
+                    static_cast<std::int32_t>(titles.indexOf(title)));
+    m_workbench.Reload("Changed " + WordsFor(tags) + ".", tags);
 }
 
-void MainWindow::SetProjectOfChosen()
+void LocusCommands::SetProject()
 {
-    const auto tags = ChosenLoci();
+    const auto tags = m_workbench.ChosenLoci();
     QStringList projects;
-    for (const NameList::Entry& project : m_library->Loci()->Projects().Entries())
+    for (const NameList::Entry& project : m_workbench.Loci().Loci()->Projects().Entries())
         projects += ToQString(project.Name);
     bool isGiven = false;
     const QString project = QInputDialog::getItem(
-        this, "Set Project", "Project of " + WordsFor(tags) + ", made if there is none:", projects,
-        0, true, &isGiven);
+        &m_workbench.Window(), "Set Project",
+        "Project of " + WordsFor(tags) + ", made if there is none:", projects, 0, true, &isGiven);
     if (!isGiven)
         return;
-    SetProject(Host().Store(), tags, FromQString(project));
-    Reload("Changed " + WordsFor(tags) + ".", tags);
+    Tamrivo::SetProject(m_workbench.Host().Store(), tags, FromQString(project));
+    m_workbench.Reload("Changed " + WordsFor(tags) + ".", tags);
 }
 
-void MainWindow::DeleteChosenLoci()
+bool LocusCommands::MayDelete(const std::vector<std::string>& tags)
 {
-    const auto tags = ChosenLoci();
     QStringList names;
     std::set<std::string> users;
     for (const std::string& tag : tags)
     {
         names += ToQString(TrimRight(tag));
-        if (const auto locus = Host().Store().FindLocus(tag))
+        if (const auto locus = m_workbench.Host().Store().FindLocus(tag))
         {
-            const auto parameters = Host().Parameters().NamesUsing(locus->LocusTagID());
+            const auto parameters = m_workbench.Host().Parameters().NamesUsing(locus->LocusTagID());
             users.insert(parameters.begin(), parameters.end());
         }
     }
+    const QString whom = tags.size() == 1 ? "the locus \"" + names.front() + "\" with all its"
+                                          : WordsFor(tags) + " with all their";
     QMessageBox box(QMessageBox::Warning, "Delete Loci",
-                    tags.size() == 1 ? "Delete the locus \"" + names.front() +
-                                           "\" with all its alleles? This can't be undone."
-                                     : "Delete " + WordsFor(tags) +
-                                           " with all their alleles? This can't be undone.",
-                    QMessageBox::Yes | QMessageBox::No, this);
+                    "Delete " + whom + " alleles? This can't be undone.",
+                    QMessageBox::Yes | QMessageBox::No, &m_workbench.Window());
     box.setObjectName("deleteLocus");
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
@@ -167,24 +135,31 @@ void MainWindow::DeleteChosenLoci()
     const QString used = parameters.isEmpty() ? QString("No analysis parameter uses them.")
                                               : FirstOf(parameters) + " will then go without them.";
     box.setInformativeText(tags.size() == 1 ? used : FirstOf(names) + ".\n" + used);
-    if (box.exec() != QMessageBox::Yes)
+    return box.exec() == QMessageBox::Yes;
+}
+
+void LocusCommands::Delete()
+{
+    const auto tags = m_workbench.ChosenLoci();
+    if (!MayDelete(tags))
         return;
     {
-        const LongWork work(Host().Store(), "Deleting the loci...", this);
-        DeleteLoci(Host().Store(), tags);
+        const LongWork work(m_workbench.Host().Store(), "Deleting the loci...",
+                            &m_workbench.Window());
+        DeleteLoci(m_workbench.Host().Store(), tags);
     }
-    Reload("Deleted " + WordsFor(tags) + ".");
+    m_workbench.Reload("Deleted " + WordsFor(tags) + ".");
 }
 
-void MainWindow::CompareChosen()
+void LocusCommands::Compare()
 {
-    m_library->Preview().setCurrentIndex(LocusPreview::Compare);
+    m_workbench.Loci().Preview().setCurrentIndex(LocusPreview::Compare);
 }
 
-void MainWindow::CopyChosen()
+void LocusCommands::Copy()
 {
-    m_library->CopyChosen();
-    Tell("Copied " + WordsFor(ChosenLoci()) + ".");
+    m_workbench.Loci().CopyChosen();
+    m_workbench.Tell("Copied " + WordsFor(m_workbench.ChosenLoci()) + ".");
 }
 
 } // namespace Tamrivo

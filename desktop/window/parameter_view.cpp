@@ -11,6 +11,7 @@
 #include "host/grid/grid_model.h"
 #include "host/grid/grid_user.h"
 
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTableView>
@@ -118,8 +119,7 @@ void ParameterView::ShowSelection()
         loci.push_back({locus->LocusTag(), locus->DyeIndex, locus->FragStart, locus->FragEnd});
     m_lanes->SetLoci(std::move(loci), m_host.Store().Dyes());
     m_isChanged = m_page->IsChanged();
-    if (onChanged)
-        onChanged();
+    emit Changed();
 }
 
 bool ParameterView::IsChanged() const
@@ -138,6 +138,26 @@ void ParameterView::Revert()
 {
     Open();
     ShowSelection();
+}
+
+bool ParameterView::MayLeave()
+{
+    if (!IsChanged())
+        return true;
+    QMessageBox box(QMessageBox::Warning, "Unsaved Changes",
+                    "The selection of \"" + ToQString(m_name) +
+                        "\" has changes that are not saved.",
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setObjectName("unsaved");
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText("Save them before going on?");
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec())
+    {
+    case QMessageBox::Save: return m_actions.Run([this] { Save(); });
+    case QMessageBox::Discard: return true;
+    default: return false;
+    }
 }
 
 void ParameterView::Reload()

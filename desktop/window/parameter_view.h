@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -26,6 +25,8 @@ class ParameterPage;
 /// The page of one analysis parameter: the selector, under it the picture of the selected loci.
 class ParameterView : public QWidget
 {
+    Q_OBJECT
+
 public:
     /// Raises what opening the page raises. Host and actions must outlive the view.
     ParameterView(HostApplication& host, const Actions& actions, const std::string& name,
@@ -38,6 +39,8 @@ public:
     void Save();
     /// Drops what wasn't saved.
     void Revert();
+    /// Whether the page may go: nothing unsaved, or the person has been asked and has decided.
+    bool MayLeave();
     /// Reads the store's loci anew and keeps the selection as far as they are still there.
     void Reload();
 
@@ -55,8 +58,9 @@ public:
     FormView& Selector() const { return *m_form; }
     LocusLanes& Picture() const { return *m_lanes; }
 
+signals:
     /// The selection may have changed, shortly after it did.
-    std::function<void()> onChanged;
+    void Changed();
 
 private:
     void Open();

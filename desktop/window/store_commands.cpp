@@ -1,25 +1,16 @@
-#include "desktop/common/actions.h"
-#include "desktop/common/text.h"
-#include "desktop/front_end/desktop_front_end.h"
-#include "desktop/import/export_dialog.h"
-#include "desktop/import/import_dialog.h"
-#include "desktop/library/group_tree.h"
-#include "desktop/library/library_view.h"
-#include "desktop/window/dyes_dialog.h"
-#include "desktop/window/main_window.h"
-#include "desktop/window/store_session.h"
+#include "desktop/window/store_commands.h"
 
-#include <QDropEvent>
+#include "desktop/common/settings.h"
+#include "desktop/common/text.h"
+#include "desktop/window/dyes_dialog.h"
+#include "desktop/window/workbench.h"
+#include "host/framework/host_application.h"
+
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QStackedWidget>
-#include <QTimer>
-#include <QUrl>
-
-#include <unordered_set>
 
 namespace Tamrivo
 {
@@ -31,16 +22,25 @@ const char* const storeFilter = "Stores (*.sqlite);;All files (*)";
 
 } // namespace
 
-void MainWindow::ChooseStore()
+StoreCommands::StoreCommands(Workbench& workbench)
+    : m_workbench(workbench), m_recent(std::make_unique<QMenu>())
 {
-    const QString path = QFileDialog::getOpenFileName(this, "Open Store", {}, storeFilter);
-    if (!path.isEmpty())
-        OpenStore(FromQString(path));
+    connect(m_recent.get(), &QMenu::aboutToShow, this, [this] { FillRecentMenu(); });
 }
 
-void MainWindow::CreateStore()
+StoreCommands::~StoreCommands() = default;
+
+void StoreCommands::Open()
 {
-    QFileDialog dialog(this, "Create Store", {}, storeFilter);
+    const QString path =
+        QFileDialog::getOpenFileName(&m_workbench.Window(), "Open Store", {}, storeFilter);
+    if (!path.isEmpty())
+        m_workbench.OpenStore(FromQString(path));
+}
+
+void StoreCommands::Create()
+{
+    QFileDialog dialog(&m_workbench.Window(), "Create Store", {}, storeFilter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("sqlite");
     // A store is never written over: what stands there would be lost.
@@ -49,85 +49,51 @@ void MainWindow::CreateStore()
         return;
     const QString path = dialog.selectedFiles().value(0);
     if (QFile::exists(path))
-        QMessageBox::warning(this, "Create Store",
+        QMessageBox::warning(&m_workbench.Window(), "Create Store",
                              "The file " + path +
                                  " exists already and was left as it is. Open it with Open Store, "
                                  "or give the new store another name.");
     else
-        OpenStore(FromQString(path));
+        m_workbench.OpenStore(FromQString(path));
 }
 
-void MainWindow::ChooseServer()
+void StoreCommands::OpenServer()
 {
     const QString address = QInputDialog::getText(
-        this, "Open Database Server",
+        &m_workbench.Window(), "Open Database Server",
         "Address of the database (postgresql://user@host/database):", QLineEdit::Normal,
         "postgresql://");
     if (!address.isEmpty())
-        OpenStore(FromQString(address.trimmed()));
+        m_workbench.OpenStore(FromQString(address.trimmed()));
 }
 
-void MainWindow::Import()
+QMenu& StoreCommands::RecentMenu()
 {
-    ImportFiles({});
+    return *m_recent;
 }
 
-void MainWindow::ImportFiles(const QStringList& paths)
+void StoreCommands::FillRecentMenu()
 {
-    ShowImported(ImportPanelFiles(Host().Store(), m_frontEnd.UserActions(), this, paths));
+    m_recent->clear();
+    for (const QString& address : RecentStores())
+        m_recent->addAction(address, this, [this, address] {
+            if (!m_workbench.OpenStore(FromQString(address)))
+                ForgetStore(address);
+        });
+    if (m_recent->isEmpty())
+        m_recent->addAction("No store yet")->setEnabled(false);
 }
 
-void MainWindow::ShowImported(const QString& news)
+void StoreCommands::ShowProperties()
 {
-    if (news.isEmpty())
-        return;
-    std::unordered_set<std::int32_t> before;
-    for (const LibraryLocus& locus : m_library->Loci()->Loci())
-        before.insert(locus.LocusID);
-    m_groups->Choose({});
-    m_library->SetSearch({});
-    Reload(news);
-    m_pages->setCurrentWidget(m_library);
-    std::unordered_set<std::int32_t> imported;
-    for (const LibraryLocus& locus : m_library->Loci()->Loci())
-    {
-        if (!before.contains(locus.LocusID))
-            imported.insert(locus.LocusID);
-    }
-    m_library->ChooseNumbers(imported);
-    ShowState();
-}
-
-void MainWindow::Export()
-{
-    Tell(ExportLoci(Host().Store(), m_frontEnd.UserActions(), this));
-}
-
-void MainWindow::ShowStoreProperties()
-{
-    DyesDialog dialog(Host().Store(), m_frontEnd.UserActions(), this);
+    DyesDialog dialog(m_workbench.Host().Store(), m_workbench.UserActions(), &m_workbench.Window());
     if (dialog.exec() == QDialog::Accepted)
-        Reload("The store has the dyes that you said.");
+        m_workbench.Reload("The store has the dyes that you said.");
 }
 
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+void StoreCommands::Quit()
 {
-    if (event->mimeData()->hasUrls() && CommandNamed("import")->isEnabled())
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls())
-    {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    event->acceptProposedAction();
-    // The program that the files come from waits until the drop has ended.
-    if (!paths.isEmpty())
-        QTimer::singleShot(0, this, [this, paths] { Run([&] { ImportFiles(paths); }); });
+    m_workbench.Window().close();
 }
 
 } // namespace Tamrivo

@@ -27,6 +27,16 @@ private:
     Event<>& m_progress;
 };
 
+std::shared_ptr<ParameterCollection> EditorParameters(const std::shared_ptr<Locus>& locus,
+                                                      bool binning)
+{
+    auto parameters = std::make_shared<ParameterCollection>();
+    parameters->Add(locus, ParameterKey::Locus);
+    if (binning)
+        parameters->Add(std::make_shared<SharedBinning>(), ParameterKey::Binning);
+    return parameters;
+}
+
 } // namespace
 
 HostApplication::HostApplication(Tamrivo::Store& store, FrontEnd& frontEnd)
@@ -43,6 +53,16 @@ WizardOutcome HostApplication::EditLocus(const std::string& tag, bool binning)
     return RunEditor(StoredLocus(tag), binning);
 }
 
+OpenWizard HostApplication::OpenNewLocus(bool binning)
+{
+    return OpenLocus(CreateObject<Locus>(m_store.Manager(), "Locus"), binning);
+}
+
+OpenWizard HostApplication::OpenLocus(const std::shared_ptr<Locus>& locus, bool binning)
+{
+    return m_launcher.Open(LocusEditorWizard.Name, EditorParameters(locus, binning));
+}
+
 std::shared_ptr<Locus> HostApplication::StoredLocus(const std::string& tag)
 {
     if (auto locus = m_store.FindLocus(tag))
@@ -52,10 +72,7 @@ std::shared_ptr<Locus> HostApplication::StoredLocus(const std::string& tag)
 
 WizardOutcome HostApplication::RunEditor(const std::shared_ptr<Locus>& locus, bool binning)
 {
-    const auto parameters = std::make_shared<ParameterCollection>();
-    parameters->Add(locus, ParameterKey::Locus);
-    if (binning)
-        parameters->Add(std::make_shared<SharedBinning>(), ParameterKey::Binning);
+    const auto parameters = EditorParameters(locus, binning);
     const auto result = StartWizard(m_launcher, LocusEditorWizard, parameters);
     return {!result->Cancelled(), parameters};
 }

@@ -44,6 +44,9 @@ public:
     WizardOutcome NewLocus(bool binning);
     /// Runs the locus editor on a stored locus. Raises `StoreError::NotFound`.
     WizardOutcome EditLocus(const std::string& tag, bool binning);
+    /// Opens the locus editor on a new locus, or on a stored one, and leaves its end to the caller.
+    OpenWizard OpenNewLocus(bool binning);
+    OpenWizard OpenLocus(const std::shared_ptr<Locus>& locus, bool binning);
 
     /// The stored locus with the tag. Raises `StoreError::NotFound`.
     std::shared_ptr<Locus> StoredLocus(const std::string& tag);

@@ -76,6 +76,14 @@ std::shared_ptr<LauncherResult> HostLauncher::Start(
     const std::shared_ptr<BusinessObject>&, std::int32_t /*mode*/, std::int32_t, std::int32_t,
     std::int32_t, std::int32_t, std::int32_t, std::string_view, std::int32_t, std::int32_t)
 {
+    const OpenWizard open = Open(wizard, parameters);
+    m_host.ShownBy().RunWizard(*open.Session);
+    return std::make_shared<Result>(open.Session->IsCancelled());
+}
+
+OpenWizard HostLauncher::Open(std::string_view wizard,
+                              const std::shared_ptr<ParameterCollection>& parameters)
+{
     const NewPage page = CreatePage(wizard, m_host);
     const auto pageBase = std::dynamic_pointer_cast<HostPageBase>(page.Base);
     if (!pageBase)
@@ -84,16 +92,16 @@ std::shared_ptr<LauncherResult> HostLauncher::Start(
                           "\" has no page object of this host");
     pageBase->SetParameters(parameters);
 
-    WizardSession session(std::string(wizard), page.Form, pageBase);
-    const Connection reports = session.ValidateFailed.Connect(
+    auto session = std::make_unique<WizardSession>(std::string(wizard), page.Form, pageBase);
+    Connection failures = session->ValidateFailed.Connect(
         [this](const ErrorRecord& error) { m_host.ShowFailure(error); });
-    const Connection menus = m_host.AttachForm(session.Page());
+    Connection menus = m_host.AttachForm(session->Page());
     std::optional<ErrorRecord> failure;
     m_host.ShownBy().RunOpening([&] {
-        session.Initialize();
+        session->Initialize();
         try
         {
-            session.Activate();
+            session->Activate();
         }
         catch (const std::exception&)
         {
@@ -102,8 +110,7 @@ std::shared_ptr<LauncherResult> HostLauncher::Start(
     });
     if (failure)
         m_host.ShowFailure(*failure);
-    m_host.ShownBy().RunWizard(session);
-    return std::make_shared<Result>(session.IsCancelled());
+    return {std::move(session), parameters, std::move(failures), std::move(menus)};
 }
 
 } // namespace Tamrivo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contracts/launcher.h"
+#include "host/framework/open_wizard.h"
 
 namespace Tamrivo
 {
@@ -20,6 +21,10 @@ public:
                                           std::int32_t, std::int32_t, std::int32_t, std::int32_t,
                                           std::int32_t, std::string_view, std::int32_t,
                                           std::int32_t) override;
+
+    /// Opens a wizard as `Start` does, and leaves its end to the caller.
+    OpenWizard Open(std::string_view wizard,
+                    const std::shared_ptr<ParameterCollection>& parameters);
 
 private:
     HostApplication& m_host;

@@ -28,7 +28,7 @@ TEST_F(MainWindowTest, LociAreFoundByAClickOrAFewKeys)
     EXPECT_TRUE(search.hasFocus());
     Type(search, "dye:blue");
     EXPECT_EQ(Shown(), QStringList({"D3S1358", "TH01"}));
-    Trigger("keepSearch");
+    Trigger(Do<&SearchCommands::Keep>);
     search.setText("dye:pink");
     auto& errors = Named<QLabel>(*m_window, "searchErrors");
     EXPECT_TRUE(errors.isVisible() && errors.text().contains("dye:pink"));
@@ -37,7 +37,7 @@ TEST_F(MainWindowTest, LociAreFoundByAClickOrAFewKeys)
     ClickGroup("dye:blue");
     EXPECT_EQ(Shown().size(), 2);
     EXPECT_EQ(search.text(), "dye:blue");
-    Trigger("forgetSearch");
+    Trigger(Do<&SearchCommands::Forget>);
     EXPECT_TRUE(KeptSearches().isEmpty());
     search.clear();
 
@@ -47,7 +47,7 @@ TEST_F(MainWindowTest, LociAreFoundByAClickOrAFewKeys)
     EXPECT_EQ(m_actions, 2);
     EXPECT_EQ(Table().ChosenRows().size(), 2U);
     EXPECT_TRUE(Named<QLabel>(*m_window, "status").text().startsWith("2 of 2 chosen."));
-    Trigger("copy");
+    Trigger(Do<&LocusCommands::Copy>);
     EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Tag\tDye\t"));
     EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 3);
 }
@@ -55,7 +55,7 @@ TEST_F(MainWindowTest, LociAreFoundByAClickOrAFewKeys)
 TEST_F(MainWindowTest, SeveralAreDeletedWithOneQuestion)
 {
     ClickTick("FGA");
-    Trigger("save");
+    Trigger(Do<&ParameterCommands::Save>);
     m_actions = 0;
     ClickRow("D3S1358");
     ClickRow("FGA", Qt::ShiftModifier);
@@ -66,16 +66,16 @@ TEST_F(MainWindowTest, SeveralAreDeletedWithOneQuestion)
     Answer("Yes", "D3S1358, FGA");
     PressInTable(Qt::Key_Delete);
     EXPECT_EQ(Shown(), QStringList({"TH01"}));
-    EXPECT_TRUE(m_window->OpenParameter()->SelectedTags().empty());
+    EXPECT_TRUE(m_window->Bench().Parameter()->SelectedTags().empty());
     EXPECT_EQ(m_window->statusBar()->currentMessage(), "Deleted 2 loci.");
 }
 
 TEST_F(MainWindowTest, TwoAreCompared)
 {
     ClickRow("D3S1358");
-    EXPECT_FALSE(Named<QAction>(*m_window, "compare").isEnabled());
+    EXPECT_FALSE(m_window->Commands()[Do<&LocusCommands::Compare>].isEnabled());
     ClickRow("TH01", Qt::ControlModifier);
-    ClickTool("compare");
+    ClickTool(Do<&LocusCommands::Compare>);
     EXPECT_EQ(m_actions, 3);
     const auto& fields = Named<QTableWidget>(*m_window, "differences");
     EXPECT_TRUE(fields.isVisible());
@@ -86,40 +86,67 @@ TEST_F(MainWindowTest, TwoAreCompared)
 
 TEST_F(MainWindowTest, ALocusIsEditedRenamedCopiedAndMoved)
 {
-    OnModal([](QDialog& editor) {
-        EXPECT_EQ(Named<QLineEdit>(editor, "txtFragEnd").text(), "180");
-        Named<QLineEdit>(editor, "txtFragEnd").setFocus();
-        Named<QLineEdit>(editor, "txtFragEnd").selectAll();
-        Type(Named(editor, "txtFragEnd"), "190");
-        QTest::keyClick(&Named(editor, "txtFragEnd"), Qt::Key_Return);
-    });
     ClickRow("TH01");
     PressInTable(Qt::Key_Return);
+    EditEnd(Editor(), "180", "190");
+    Settle();
     EXPECT_EQ(m_window->statusBar()->currentMessage(), "Stored TH01.");
     EXPECT_EQ(RowOf("TH01").siblingAtColumn(2).data().toString(), "120\u2013190");
     ASSERT_EQ(Table().ChosenRows().size(), 1U);
 
     AnswerName("TH01-2026");
-    Trigger("renameLocus");
+    Trigger(Do<&LocusCommands::Rename>);
     OnModal([](QDialog& dialog) {
         EXPECT_EQ(dynamic_cast<QInputDialog&>(dialog).textValue(), "TH01-2026 copy");
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    Trigger("duplicateLocus");
+    Trigger(Do<&LocusCommands::Duplicate>);
     EXPECT_EQ(Shown(), QStringList({"D3S1358", "FGA", "TH01-2026", "TH01-2026 copy"}));
     OnModal([](QDialog& dialog) {
         dynamic_cast<QInputDialog&>(dialog).setTextValue("red");
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    Trigger("setDye");
+    Trigger(Do<&LocusCommands::SetDye>);
     OnModal([](QDialog& dialog) {
         dynamic_cast<QInputDialog&>(dialog).setTextValue("Trial");
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    Trigger("setProject");
+    Trigger(Do<&LocusCommands::SetProject>);
     ClickGroup("Trial");
     EXPECT_EQ(Shown(), QStringList({"TH01-2026 copy"}));
     EXPECT_EQ(RowOf("TH01-2026 copy").siblingAtColumn(1).data().toString(), "red");
+}
+
+TEST_F(MainWindowTest, EditorsStandBesideTheWindowOneALocus)
+{
+    for (const char* tag : {"TH01", "FGA", "TH01"})
+    {
+        ClickRow(tag);
+        PressInTable(Qt::Key_Return);
+    }
+    ASSERT_EQ(Editors().size(), 2U);
+    for (WizardDialog* editor : Editors())
+    {
+        const QString tag = Named<QLineEdit>(*editor, "txtLocusTag").text();
+        EXPECT_TRUE(editor->windowTitle().startsWith(tag));
+        EditEnd(*editor, tag == "FGA" ? "300" : "180", "310");
+        Settle();
+        EXPECT_EQ(m_window->statusBar()->currentMessage(), "Stored " + tag + ".");
+    }
+    EXPECT_TRUE(Editors().empty());
+
+    // What is changed and open keeps the window, until the person has decided.
+    ClickTool(Do<&LocusCommands::Edit>);
+    auto& end = Named<QLineEdit>(Editor(), "txtFragEnd");
+    Focus(end);
+    end.selectAll();
+    Type(end, "320");
+    Answer("Go On Editing");
+    EXPECT_FALSE(m_window->close());
+    EXPECT_EQ(Editors().size(), 1U);
+    Answer("Discard Changes");
+    EXPECT_TRUE(m_window->close());
+    EXPECT_TRUE(Editors().empty());
 }
 
 TEST_F(MainWindowTest, ABarOfTheLanesIsItsLocus)
@@ -137,13 +164,11 @@ TEST_F(MainWindowTest, ABarOfTheLanesIsItsLocus)
     ASSERT_EQ(Table().ChosenRows().size(), 1U);
     const QString tag = QString::fromStdString(lanes.Drawing().Loci()[bar.Locus].Tag);
     EXPECT_EQ(Shown()[Table().ChosenRows().front()], tag);
-    OnModal([&](QDialog& editor) {
-        EXPECT_EQ(Named<QLineEdit>(editor, "txtLocusTag").text(), tag);
-        editor.reject();
-    });
     QTest::mouseDClick(lanes.viewport(), Qt::LeftButton, Qt::NoModifier,
                        bar.Rect.center().toPoint());
     QTest::qWait(50);
+    EXPECT_EQ(Named<QLineEdit>(Editor(), "txtLocusTag").text(), tag);
+    Editor().reject();
 }
 
 TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
@@ -154,7 +179,7 @@ TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
         AnswerName("FGA-2");
         QTest::keyClick(&Named(list, "filter"), Qt::Key_Return);
     });
-    Trigger("commands");
+    Trigger(Do<&Commands::ShowList>);
     EXPECT_TRUE(Shown().contains("FGA-2"));
 }
 
@@ -166,10 +191,10 @@ TEST_F(MainWindowTest, AFileThatIsNoStoreIsRefusedInWordsAndTheOpenOneStays)
         EXPECT_TRUE(dynamic_cast<QMessageBox&>(failure).text().contains("letter.sqlite"));
         QTest::keyClick(&failure, Qt::Key_Escape);
     });
-    EXPECT_FALSE(m_window->OpenStore(path));
+    EXPECT_FALSE(m_window->Bench().OpenStore(path));
     EXPECT_EQ(Open(), "Casework");
     AddAll();
-    Trigger("save");
+    Trigger(Do<&ParameterCommands::Save>);
     EXPECT_FALSE(m_window->isWindowModified());
 }
 

@@ -4,13 +4,16 @@
 #include "desktop/library/library_table.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/parameter_view.h"
+#include "desktop/window/workbench.h"
 #include "tests/desktop/desktop_test.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace Tamrivo::Testing
 {
@@ -33,7 +36,7 @@ protected:
         m_window = std::make_unique<MainWindow>(m_frontEnd);
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
-        ASSERT_TRUE(m_window->OpenStore(Address()));
+        ASSERT_TRUE(m_window->Bench().OpenStore(Address()));
         Settle();
     }
 
@@ -102,33 +105,69 @@ protected:
         ++m_actions;
     }
 
-    void ClickTool(const char* command)
+    void ClickTool(CommandProcedure command)
     {
         auto& tools = Named<QToolBar>(*m_window, "commands");
-        QTest::mouseClick(tools.widgetForAction(&Named<QAction>(*m_window, command)),
-                          Qt::LeftButton);
+        QTest::mouseClick(tools.widgetForAction(&m_window->Commands()[command]), Qt::LeftButton);
         Settle();
         ++m_actions;
     }
 
-    void Trigger(const char* command)
+    void Trigger(CommandProcedure command)
     {
-        Named<QAction>(*m_window, command).trigger();
+        m_window->Commands()[command].trigger();
         Settle();
         ++m_actions;
     }
+
+    void ClickBar(CommandProcedure command)
+    {
+        for (auto* button : Named(*m_window, "parameterBar").findChildren<QToolButton*>())
+        {
+            if (button->defaultAction() == &m_window->Commands()[command])
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        Settle();
+        ++m_actions;
+    }
+
+    /// Gives the fragment range another end, and finishes with Return.
+    static void EditEnd(WizardDialog& editor, const QString& before, const QString& end)
+    {
+        auto& field = Named<QLineEdit>(editor, "txtFragEnd");
+        EXPECT_EQ(field.text(), before);
+        QApplication::setActiveWindow(&editor);
+        field.setFocus();
+        field.selectAll();
+        Type(field, end);
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+
+    /// The editors that stand open beside the window.
+    static std::vector<WizardDialog*> Editors()
+    {
+        std::vector<WizardDialog*> editors;
+        for (QWidget* window : QApplication::topLevelWidgets())
+        {
+            auto* editor = dynamic_cast<WizardDialog*>(window);
+            if (editor != nullptr && editor->isVisible())
+                editors.push_back(editor);
+        }
+        return editors;
+    }
+    static WizardDialog& Editor() { return *Editors().at(0); }
 
     void AddAll()
     {
         if (!Named(*m_window, "cmdAddAll").isVisible())
-            Trigger("selectLoci");
+            Trigger(Do<&ParameterCommands::TurnToSelector>);
         QTest::mouseClick(&Named(*m_window, "cmdAddAll"), Qt::LeftButton);
         Settle();
     }
 
     std::string Open() const
     {
-        return m_window->OpenParameter() ? m_window->OpenParameter()->Name() : "";
+        return m_window->Bench().Parameter() ? m_window->Bench().Parameter()->Name() : "";
     }
 
     static void AnswerName(const QString& name)

@@ -17,7 +17,7 @@ TEST_F(MainWindowTest, AParameterIsMadeOfAPanel)
     ClickGroup("H24");
     PressInTable(Qt::Key_A, Qt::ControlModifier);
     AnswerName("Kit");
-    Trigger("newParameter");
+    Trigger(Do<&ParameterCommands::New>);
     EXPECT_LE(m_actions + 1, 4) << "with the name";
     EXPECT_EQ(Open(), "Kit");
     EXPECT_EQ(Shown(), QStringList({"D3S1358", "FGA"}));
@@ -31,16 +31,16 @@ TEST_F(MainWindowTest, TicksAndTheSelectorActOnOneSelection)
     EXPECT_TRUE(IsTicked("TH01"));
     EXPECT_TRUE(m_window->isWindowModified());
     EXPECT_EQ(Group("Casework*").text(1), "1");
-    Trigger("selectLoci");
+    Trigger(Do<&ParameterCommands::TurnToSelector>);
     EXPECT_EQ(Named<QTableView>(*m_window, "gridSelected").model()->rowCount(), 1);
     AddAll();
-    Trigger("selectLoci");
+    Trigger(Do<&ParameterCommands::TurnToSelector>);
     EXPECT_TRUE(IsTicked("FGA"));
     EXPECT_TRUE(Named<QLabel>(*m_window, "status")
                     .text()
                     .contains("Casework: 1 overlap: D3S1358 and TH01, 120 to 136 nt (blue)"));
     ClickTick("TH01");
-    EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 2U);
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 2U);
 
     // Loci dropped on another parameter open it; what was changed is asked about.
     QMimeData tags;
@@ -55,8 +55,8 @@ TEST_F(MainWindowTest, TicksAndTheSelectorActOnOneSelection)
     QApplication::sendEvent(groups.viewport(), &drop);
     Settle();
     EXPECT_EQ(Open(), "Research");
-    EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 2U);
-    Trigger("revert");
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 2U);
+    Trigger(Do<&ParameterCommands::Revert>);
     EXPECT_FALSE(IsTicked("FGA"));
     ClickGroup("Casework");
     EXPECT_EQ(Shown(), QStringList({"D3S1358", "FGA"}));
@@ -65,7 +65,7 @@ TEST_F(MainWindowTest, TicksAndTheSelectorActOnOneSelection)
 TEST_F(MainWindowTest, MenusTakeLettersThatTheSelectorHasNot)
 {
     ClickGroup("Casework");
-    Trigger("selectLoci");
+    Trigger(Do<&ParameterCommands::TurnToSelector>);
     const auto letterOf = [](const QString& caption) {
         return caption.contains('&') ? caption[caption.indexOf('&') + 1].toLower() : QChar();
     };
@@ -97,39 +97,39 @@ TEST_F(MainWindowTest, ChangesAreShownAskedAboutAndKept)
 
     OpenWindow();
     EXPECT_EQ(Open(), "Research") << "the last parameter is remembered";
-    EXPECT_TRUE(m_window->OpenParameter()->SelectedTags().empty());
+    EXPECT_TRUE(m_window->Bench().Parameter()->SelectedTags().empty());
     ClickGroup("Casework");
-    EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 3U) << "all there after a restart";
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U) << "all there after a restart";
     EXPECT_EQ(RecentStores().value(0).toStdString(), Address());
 }
 
 TEST_F(MainWindowTest, RevertGoesBackToWhatIsStored)
 {
     AddAll();
-    Trigger("save");
+    Trigger(Do<&ParameterCommands::Save>);
     QTest::mouseClick(&Named(*m_window, "cmdRemoveAll"), Qt::LeftButton);
     QTest::qWait(20);
     EXPECT_TRUE(m_window->isWindowModified());
-    QTest::mouseClick(&Named<QToolButton>(*m_window, "revert"), Qt::LeftButton);
-    EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 3U);
+    ClickBar(Do<&ParameterCommands::Revert>);
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U);
     EXPECT_FALSE(m_window->isWindowModified());
 }
 
 TEST_F(MainWindowTest, ParametersAreMadeRenamedCopiedAndDeleted)
 {
     AnswerName("Teaching");
-    Trigger("newParameter");
+    Trigger(Do<&ParameterCommands::New>);
     EXPECT_EQ(Open(), "Teaching");
     AddAll();
-    Trigger("save");
+    Trigger(Do<&ParameterCommands::Save>);
     AnswerName("Lessons");
-    Trigger("renameParameter");
+    Trigger(Do<&ParameterCommands::Rename>);
     AnswerName("Exam");
-    Trigger("duplicateParameter");
+    Trigger(Do<&ParameterCommands::Duplicate>);
     EXPECT_EQ(Open(), "Exam");
-    EXPECT_EQ(m_window->OpenParameter()->SelectedTags().size(), 3U);
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U);
     Answer("Yes", "Exam");
-    Trigger("deleteParameter");
+    Trigger(Do<&ParameterCommands::Delete>);
     EXPECT_EQ(Open(), "");
     EXPECT_EQ(Group("Parameters").childCount(), 3);
 
@@ -143,7 +143,7 @@ TEST_F(MainWindowTest, ParametersAreMadeRenamedCopiedAndDeleted)
         });
         QTest::keyClick(&input, Qt::Key_Return);
     });
-    Trigger("newParameter");
+    Trigger(Do<&ParameterCommands::New>);
     EXPECT_EQ(Open(), "Fourth");
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/message_boxes.h"
+#include "desktop/front_end/wizard_dialog.h"
 #include "desktop/import/export_dialog.h"
 #include "desktop/import/import_dialog.h"
 #include "desktop/library/library_table.h"
@@ -7,6 +8,7 @@
 #include "desktop/window/dyes_dialog.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/parameter_view.h"
+#include "desktop/window/workbench.h"
 #include "host/grid/grid_user.h"
 #include "host/panels/import.h"
 #include "host/panels/panel_files.h"
@@ -31,6 +33,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 
@@ -57,26 +60,26 @@ public:
         window.show();
         Settle();
         Take(window, "start");
-        window.OpenStore(Address());
+        window.Bench().OpenStore(Address());
         Settle();
         TakeLibrary(window);
-        window.findChild<QAction*>("darkTheme")->trigger();
+        window.Commands()[Do<&ViewCommands::UseDarkTheme>].trigger();
         Settle();
         Take(window, "library-dark");
-        window.findChild<QAction*>("selectLoci")->trigger();
+        window.Commands()[Do<&ParameterCommands::TurnToSelector>].trigger();
         Settle();
         Take(window, "selector-dark");
         TakeEditor(window, "-dark");
-        window.findChild<QAction*>("lightTheme")->trigger();
+        window.Commands()[Do<&ViewCommands::UseLightTheme>].trigger();
         Settle();
         Take(window, "selector");
         TakeEditor(window, "");
         TakeMenu(window);
-        window.findChild<QAction*>("selectLoci")->trigger();
+        window.Commands()[Do<&ParameterCommands::TurnToSelector>].trigger();
         TakeFailure(window);
         TakeImport(window);
         TakeExport(window);
-        window.findChild<QAction*>("report")->trigger();
+        window.Commands()[Do<&ReportCommands::ShowAll>].trigger();
         Settle();
         for (QWidget* top : QApplication::topLevelWidgets())
         {
@@ -167,39 +170,48 @@ private:
                           grid->visualRect(grid->model()->index(0, 0)).center());
     }
 
+    static QDialog& OpenEditor()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        return dynamic_cast<QDialog&>(**std::ranges::find_if(windows, [](QWidget* window) {
+            return dynamic_cast<WizardDialog*>(window) != nullptr && window->isVisible();
+        }));
+    }
+
     void TakeEditor(MainWindow& window, const QString& suffix)
     {
         Highlight(window);
-        OnModal([&](QDialog& editor) {
-            // The screen of the platform without one is smaller than the form.
-            editor.resize(1020, 860);
-            Settle();
-            editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>()->selectRow(3);
-            Settle();
-            Take(editor, "editor" + suffix);
-            editor.findChild<QTabWidget*>()->setCurrentIndex(1);
-            Settle();
-            Take(editor, "editor-criteria" + suffix);
-            editor.findChild<QTabWidget*>()->setCurrentIndex(0);
-            auto* alleles =
-                editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>();
-            alleles->model()->setData(alleles->model()->index(2, 3), "96.2");
-            alleles->model()->setData(alleles->model()->index(12, 3), "140.5");
-            alleles->model()->setData(alleles->model()->index(12, 2), "139.5");
-            alleles->model()->setData(alleles->model()->index(12, 1), "140");
-            auto* end = editor.findChild<QLineEdit*>("txtFragEnd");
-            end->setFocus();
-            Settle();
-            Take(editor, "editor-problems" + suffix);
-            if (!suffix.isEmpty())
-                return;
+        window.Commands()[Do<&LocusCommands::Edit>].trigger();
+        Settle();
+        QDialog& editor = OpenEditor();
+        // The screen of the platform without one is smaller than the form.
+        editor.resize(1020, 860);
+        Settle();
+        editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>()->selectRow(3);
+        Settle();
+        Take(editor, "editor" + suffix);
+        editor.findChild<QTabWidget*>()->setCurrentIndex(1);
+        Settle();
+        Take(editor, "editor-criteria" + suffix);
+        editor.findChild<QTabWidget*>()->setCurrentIndex(0);
+        auto* alleles = editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>();
+        alleles->model()->setData(alleles->model()->index(2, 3), "96.2");
+        alleles->model()->setData(alleles->model()->index(12, 3), "140.5");
+        alleles->model()->setData(alleles->model()->index(12, 2), "139.5");
+        alleles->model()->setData(alleles->model()->index(12, 1), "140");
+        auto* end = editor.findChild<QLineEdit*>("txtFragEnd");
+        end->setFocus();
+        Settle();
+        Take(editor, "editor-problems" + suffix);
+        if (suffix.isEmpty())
+        {
             OnModal([&](QDialog& saveAs) {
                 Settle();
                 Take(saveAs, "save-as");
             });
             QTest::mouseClick(editor.findChild<QWidget*>("cmdSaveAs"), Qt::LeftButton);
-        });
-        window.findChild<QAction*>("editLocus")->trigger();
+        }
+        Close(editor);
     }
 
     void TakeMenu(MainWindow& window)
@@ -236,7 +248,7 @@ private:
         Settle();
         Take(window, "library-details");
         ChooseRows(window, {2, 5});
-        window.findChild<QAction*>("compare")->trigger();
+        window.Commands()[Do<&LocusCommands::Compare>].trigger();
         Settle();
         Take(window, "library-compare");
         auto* search = window.findChild<QLineEdit*>("search");
@@ -257,12 +269,12 @@ private:
             Settle();
             Take(list, "commands");
         });
-        window.findChild<QAction*>("commands")->trigger();
+        window.Commands()[Do<&Commands::ShowList>].trigger();
         OnModal([&](QDialog& question) {
             Settle();
             Take(question, "delete");
         });
-        window.findChild<QAction*>("deleteLocus")->trigger();
+        window.Commands()[Do<&LocusCommands::Delete>].trigger();
         ChooseRows(window, {3});
     }
 
@@ -272,7 +284,7 @@ private:
             Settle();
             Take(box, "failure");
         });
-        window.OpenStore(m_table.toStdString());
+        window.Bench().OpenStore(m_table.toStdString());
     }
 
     void TakeImport(MainWindow& window)

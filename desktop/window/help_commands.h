@@ -1,0 +1,21 @@
+#pragma once
+
+namespace Tamrivo
+{
+
+class Workbench;
+
+/// What tells about the program.
+class HelpCommands
+{
+public:
+    explicit HelpCommands(Workbench& workbench) : m_workbench(workbench) {}
+
+    void OpenLog();
+    void ShowAbout();
+
+private:
+    Workbench& m_workbench;
+};
+
+} // namespace Tamrivo

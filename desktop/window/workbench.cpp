@@ -1,0 +1,343 @@
+#include "desktop/window/workbench.h"
+
+#include "controls/user.h"
+#include "core/text.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/settings.h"
+#include "desktop/common/text.h"
+#include "desktop/front_end/desktop_front_end.h"
+#include "desktop/lanes/locus_lanes.h"
+#include "desktop/library/group_tree.h"
+#include "desktop/library/library_table.h"
+#include "desktop/library/library_view.h"
+#include "desktop/window/commands.h"
+#include "desktop/window/locus_commands.h"
+#include "desktop/window/parameter_bar.h"
+#include "desktop/window/parameter_commands.h"
+#include "desktop/window/parameter_view.h"
+#include "desktop/window/start_page.h"
+#include "desktop/window/store_session.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <unordered_set>
+#include <utility>
+
+namespace Tamrivo
+{
+
+Workbench::Workbench(DesktopFrontEnd& frontEnd, QMainWindow& window)
+    : QSplitter(&window),
+      m_frontEnd(frontEnd),
+      m_editors(frontEnd.UserActions()),
+      m_groups(new GroupTree(this)),
+      m_pages(new QStackedWidget(this)),
+      m_library(new LibraryView(frontEnd.UserActions(), this))
+{
+    ConnectParts();
+}
+
+Workbench::~Workbench()
+{
+    // The pages go while what they show is there.
+    disconnect(m_library, nullptr, this, nullptr);
+    CloseParameter();
+}
+
+void Workbench::Offer(const Commands& commands)
+{
+    m_bar = new ParameterBar(commands.For(CommandPlace::ParameterBar), this);
+    m_noStore = new StartPage("No store is open.", commands.For(CommandPlace::NoStore), this);
+    m_emptyStore =
+        new StartPage("The store has no loci yet.\nBring in a panel, or define a locus by hand.",
+                      commands.For(CommandPlace::EmptyStore), this);
+    for (QWidget* page : {m_noStore, m_emptyStore, static_cast<QWidget*>(m_library)})
+        m_pages->addWidget(page);
+    auto* right = new QWidget(this);
+    auto* layout = new QVBoxLayout(right);
+    layout->setContentsMargins(0, fontMetrics().averageCharWidth(), 0, 0);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_pages, 1);
+    setStretchFactor(1, 1);
+    setChildrenCollapsible(false);
+
+    m_groups->ParameterCommands = commands.For(CommandPlace::ParameterMenu);
+    m_groups->SearchCommands = commands.For(CommandPlace::SearchMenu);
+    LibraryTable& table = m_library->LociTable();
+    table.addActions(commands.For(CommandPlace::LocusMenu));
+    table.setContextMenuPolicy(Qt::ActionsContextMenu);
+    commands[Do<&ParameterCommands::TurnToSelector>].setCheckable(true);
+    QAction& edit = commands[Do<&LocusCommands::Edit>];
+    connect(&table, &LibraryTable::EditAsked, &edit, &QAction::trigger);
+    connect(&table, &LibraryTable::DeleteAsked, &commands[Do<&LocusCommands::Delete>],
+            &QAction::trigger);
+    m_library->Preview().Picture().onDoubleClicked = [this, &edit](const std::string& tag) {
+        m_library->ChooseTags({tag});
+        // Once what was chosen has been noticed.
+        QTimer::singleShot(0, &edit, &QAction::trigger);
+    };
+    connect(this, &Workbench::Changed, this, [this, &commands] {
+        ShowPage();
+        commands[Do<&ParameterCommands::TurnToSelector>].setChecked(IsSelectorShown());
+    });
+    emit Changed();
+}
+
+void Workbench::ConnectParts()
+{
+    connect(m_groups, &GroupTree::GroupChosen, this,
+            [this](const LocusGroup& group) { UserActions().Run([&] { ChooseGroup(group); }); });
+    connect(m_groups, &GroupTree::LociDropped, this,
+            [this](const std::string& parameter, const std::vector<std::string>& tags) {
+                UserActions().Run([&] { DropOn(parameter, tags); });
+            });
+    connect(m_library, &LibraryView::Chosen, this, &Workbench::Changed);
+    connect(m_library, &LibraryView::Ticked, this, [this](const std::string& tag, bool isTicked) {
+        UserActions().Run([&] { m_parameter->Select({tag}, isTicked); });
+    });
+    connect(&m_editors, &EditorWindows::Stored, this,
+            [this](const QString& tag) { Reload("Stored " + tag + ".", {FromQString(tag)}); });
+    m_library->Preview().Picture().onClicked = [this](const std::string& tag) {
+        m_library->ChooseTags({tag});
+    };
+}
+
+HostApplication& Workbench::Host() const
+{
+    return m_session->Host();
+}
+
+const Actions& Workbench::UserActions() const
+{
+    return m_frontEnd.UserActions();
+}
+
+QWidget& Workbench::Window() const
+{
+    return *window();
+}
+
+bool Workbench::OpenStore(const std::string& address)
+{
+    if (!MayLeaveParameter())
+        return false;
+    std::unique_ptr<StoreSession> opened;
+    const bool isOpen =
+        UserActions().Run([&] { opened = std::make_unique<StoreSession>(address, m_frontEnd); });
+    if (!isOpen || !m_editors.CloseAll())
+    {
+        opened.reset();
+        m_frontEnd.SetHost(HasStore() ? &Host() : nullptr);
+        return false;
+    }
+    CloseParameter();
+    emit StoreClosing();
+    m_library->SetStore(nullptr);
+    // The former session gives the front end back before the new one takes it.
+    m_session.reset();
+    m_session = std::move(opened);
+    m_frontEnd.SetHost(&Host());
+    m_library->SetStore(&Host().Store());
+    // A password must not end up among the settings.
+    if (Host().Store().Name() == address)
+        RememberStore(ToQString(address));
+    Reload({});
+    UserActions().Run([this] {
+        const std::string last = FromQString(LastParameter(ToQString(Host().Store().Name())));
+        if (!last.empty() && Host().Parameters().Find(last))
+            ShowParameter(last);
+    });
+    return true;
+}
+
+bool Workbench::MayClose()
+{
+    return MayLeaveParameter() && m_editors.CloseAll();
+}
+
+std::vector<std::string> Workbench::ChosenLoci() const
+{
+    auto tags = IsSelectorShown() ? m_parameter->HighlightedTags() : m_library->ChosenTags();
+    if (tags.empty())
+        throw User::Refusal("No locus is chosen");
+    return tags;
+}
+
+std::string Workbench::ChosenLocus() const
+{
+    const auto tags = ChosenLoci();
+    if (tags.size() > 1)
+        throw User::Refusal("Choose one locus for this");
+    return tags.front();
+}
+
+Needs Workbench::Given() const
+{
+    if (!HasStore())
+        return {};
+    const bool mayWrite = !Host().Store().IsReadOnly();
+    // What is highlighted on the selector's page is asked for when a command begins.
+    const bool isSelector = IsSelectorShown();
+    const std::size_t chosen = m_library->ChosenCount();
+    Needs given = Need::Store;
+    given.setFlag(Need::Writing, mayWrite);
+    given.setFlag(Need::Table, !isSelector);
+    given.setFlag(Need::Parameter, m_parameter != nullptr);
+    given.setFlag(Need::Changes, m_parameter != nullptr && m_parameter->IsChanged() && mayWrite);
+    given.setFlag(Need::OneLocus, isSelector || chosen == 1);
+    given.setFlag(Need::SomeLoci, isSelector || chosen > 0);
+    given.setFlag(Need::TwoLoci, !isSelector && chosen == 2);
+    return given;
+}
+
+void Workbench::Reload(const QString& news, const std::vector<std::string>& choose)
+{
+    UserActions().Run([&] {
+        m_library->Read();
+        if (m_parameter != nullptr)
+            m_parameter->Reload();
+        ShowGroups();
+        if (!choose.empty())
+            m_library->ChooseTags(choose);
+    });
+    emit Changed();
+    Tell(news);
+}
+
+void Workbench::ShowGroups()
+{
+    m_groups->Show(GroupsOf(*m_library->Loci(), KeptSearches()), *m_library->Loci());
+    if (m_parameter != nullptr)
+        ShowSelection();
+    m_library->ShowGroup(m_groups->Chosen());
+}
+
+void Workbench::ChooseGroup(const LocusGroup& group)
+{
+    const bool isParameter = group.What == LocusGroup::Kind::Parameter;
+    if (isParameter && !OpenParameter(FromQString(group.Name)))
+        return m_groups->Choose({});
+    m_pages->setCurrentWidget(m_library);
+    m_library->ShowGroup(group);
+    if (isParameter)
+        m_library->Preview().setCurrentIndex(LocusPreview::Lanes);
+    emit Changed();
+}
+
+void Workbench::ShowAllLoci()
+{
+    m_groups->Choose({});
+    m_library->SetSearch({});
+    TurnToTable();
+}
+
+void Workbench::TurnToTable()
+{
+    m_pages->setCurrentWidget(m_library);
+    emit Changed();
+}
+
+void Workbench::TurnToSelector()
+{
+    m_pages->setCurrentWidget(m_parameter);
+    emit Changed();
+}
+
+bool Workbench::IsSelectorShown() const
+{
+    return m_parameter != nullptr && m_pages->currentWidget() == m_parameter;
+}
+
+bool Workbench::OpenParameter(const std::string& name)
+{
+    const auto isOpen = [&] {
+        return m_parameter != nullptr && EqualNoCase(m_parameter->Name(), name);
+    };
+    if (!isOpen() && MayLeaveParameter())
+        ShowParameter(name);
+    return isOpen();
+}
+
+void Workbench::ShowParameter(const std::string& name)
+{
+    ParameterView* view = nullptr;
+    const bool isOpen =
+        UserActions().Run([&] { view = new ParameterView(Host(), UserActions(), name, m_pages); });
+    if (!isOpen)
+        return;
+    CloseParameter();
+    m_parameter = view;
+    connect(view, &ParameterView::Changed, this, &Workbench::ShowSelection);
+    m_pages->addWidget(view);
+    RememberParameter(ToQString(Host().Store().Name()), ToQString(name));
+    ShowSelection();
+}
+
+void Workbench::ShowNewParameter(const std::string& name)
+{
+    CloseParameter();
+    ShowParameter(name);
+    Reload({});
+    const LocusGroup group{LocusGroup::Kind::Parameter, ToQString(name)};
+    m_groups->Choose(group);
+    ChooseGroup(group);
+}
+
+void Workbench::CloseParameter()
+{
+    if (m_parameter == nullptr)
+        return;
+    if (IsSelectorShown())
+        m_pages->setCurrentWidget(m_library);
+    delete std::exchange(m_parameter, nullptr);
+    m_groups->MarkOpen({}, false, 0);
+    m_library->SetSelected(std::nullopt);
+    emit SelectionChanged();
+    emit Changed();
+}
+
+bool Workbench::MayLeaveParameter()
+{
+    return m_parameter == nullptr || m_parameter->MayLeave();
+}
+
+void Workbench::ShowSelection()
+{
+    std::unordered_set<std::int32_t> selected;
+    for (const auto& locus : m_parameter->SelectedLoci())
+        selected.insert(locus->LocusID());
+    m_groups->MarkOpen(ToQString(m_parameter->Name()), m_parameter->IsChanged(), selected.size());
+    m_library->SetSelected(std::move(selected));
+    emit SelectionChanged();
+    emit Changed();
+}
+
+void Workbench::DropOn(const std::string& parameter, const std::vector<std::string>& tags)
+{
+    if (!OpenParameter(parameter))
+        return;
+    m_parameter->Select(tags, true);
+    Tell("Added to " + ToQString(parameter) + ". Save the parameter to keep it.");
+}
+
+void Workbench::ShowPage()
+{
+    if (!IsSelectorShown())
+    {
+        const bool hasLoci = m_library->Loci() != nullptr && !m_library->Loci()->Loci().empty();
+        m_pages->setCurrentWidget(hasLoci || m_parameter != nullptr ? m_library
+                                  : HasStore()                      ? m_emptyStore
+                                                                    : m_noStore);
+    }
+    m_groups->setEnabled(HasStore());
+    m_bar->setVisible(m_parameter != nullptr);
+    if (m_parameter != nullptr)
+        m_bar->Show(ToQString(m_parameter->Name()), m_parameter->IsChanged(),
+                    Host().Store().IsReadOnly());
+}
+
+} // namespace Tamrivo

@@ -1,7 +1,6 @@
 #include "console/program.h"
 
 #include "console/commands/command.h"
-#include "console/commands/definition_commands.h"
 #include "core/error.h"
 #include "host/database/address.h"
 

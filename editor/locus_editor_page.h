@@ -65,6 +65,8 @@ private:
 
     // Validation
     void m_oPageBase_Validate(bool& bIsValid);
+    /// Marks the tag field when it keeps the page from being stored.
+    bool TagIsValid(Guard& run);
 
     // Input rules
     bool IsDecimalPresent(std::int16_t iKey, const std::string& sText);

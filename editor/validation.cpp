@@ -1,3 +1,4 @@
+#include "contracts/locus_limits.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "editor/field_number.h"
@@ -14,8 +15,6 @@ constexpr const char* TagNotUnique = "Locus Tag Name is not unique.";
 constexpr const char* RangeReversed =
     "The Fragment Range From field must be greater than the Fragment Range To field.";
 constexpr const char* StartOutOfRange = "Must be an integer value between 1 and 10000.";
-constexpr std::int32_t LeastStart = 1;
-constexpr std::int32_t GreatestStart = 10000;
 
 void MarkFault(TextField& field, const char* why)
 {
@@ -31,6 +30,25 @@ void ClearMark(TextField& field)
 
 } // namespace
 
+bool LocusEditorPage::TagIsValid(Guard& run)
+{
+    if (TrimRight(txtLocusTag.Text()).empty())
+    {
+        run([&] { MarkFault(txtLocusTag, TagRequired); });
+        return false;
+    }
+    run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
+    const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
+    const bool bTagMustBeNew = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
+    if (bTagIsCurrent && bTagMustBeNew)
+    {
+        run([&] { MarkFault(txtLocusTag, TagNotUnique); });
+        return false;
+    }
+    run([&] { txtLocusTag.SetToolTipText(""); });
+    return true;
+}
+
 void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
 {
     const auto fail = [&bIsValid](TextField& field, const char* why) {
@@ -43,20 +61,7 @@ void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
         if (!m_bAlleleListValid)
             return;
 
-        if (TrimRight(txtLocusTag.Text()).empty())
-        {
-            run([&] { fail(txtLocusTag, TagRequired); });
-        }
-        else
-        {
-            run([&] { txtLocusTag.SetBackColor(Color::WindowBackground); });
-            const bool bTagIsCurrent = run([&] { return TagIsCurrent(txtLocusTag.Text()); });
-            const bool bTagMustBeNew = m_bNewLocus || (m_sLoadedLocusTag.empty() && m_bBinning);
-            if (bTagIsCurrent && bTagMustBeNew)
-                run([&] { fail(txtLocusTag, TagNotUnique); });
-            else
-                run([&] { txtLocusTag.SetToolTipText(""); });
-        }
+        bIsValid = TagIsValid(run);
 
         if (IsNumeric(txtFragStart.Text()) && IsNumeric(txtFragEnd.Text()))
         {
@@ -70,8 +75,9 @@ void LocusEditorPage::m_oPageBase_Validate(bool& bIsValid)
         {
             const bool bInRange = run([&] {
                 return !Trim(txtStartAtNumeric.Text()).empty() &&
-                       SharedUtility().IsIntegerInRange(txtStartAtNumeric, LeastStart,
-                                                        GreatestStart);
+                       SharedUtility().IsIntegerInRange(txtStartAtNumeric,
+                                                        Limit::StartAtNumeric.Low,
+                                                        Limit::StartAtNumeric.High);
             });
             run([&] {
                 bInRange ? ClearMark(txtStartAtNumeric) : fail(txtStartAtNumeric, StartOutOfRange);

@@ -50,6 +50,8 @@ void AddDuplicateCommand(CLI::App& program, Context& context);
 void AddSetCommand(CLI::App& program, Context& context);
 void AddDeleteCommand(CLI::App& program, Context& context);
 void AddReportCommand(CLI::App& program, Context& context);
+void AddCheckCommand(CLI::App& program, Context& context);
+void AddFitCommand(CLI::App& program, Context& context);
 void AddShellCommand(CLI::App& program, Context& context);
 void AddHistoryCommand(CLI::App& program, Context& context);
 void AddDiffCommand(CLI::App& program, Context& context);

@@ -1,5 +1,5 @@
 #include "console/commands/aligned_table.h"
-#include "console/commands/definition_commands.h"
+#include "console/commands/command.h"
 #include "console/commands/output_format.h"
 #include "console/commands/progress_line.h"
 #include "console/commands/stored_loci.h"

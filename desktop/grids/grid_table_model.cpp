@@ -9,12 +9,7 @@ namespace Tamrivo
 GridTableModel::GridTableModel(GridModel& grid, QObject* parent)
     : QAbstractTableModel(parent), m_grid(grid)
 {
-    m_grid.SetObserver(this);
-}
-
-GridTableModel::~GridTableModel()
-{
-    m_grid.SetObserver(nullptr);
+    m_grid.Observe(*this);
 }
 
 int GridTableModel::rowCount(const QModelIndex& parent) const

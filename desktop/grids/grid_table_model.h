@@ -15,9 +15,8 @@ class GridTableModel : public QAbstractTableModel, private GridObserver
     Q_OBJECT
 
 public:
-    /// The grid must outlive the model, which becomes its observer.
+    /// The grid must outlive what is asked of the model, which becomes its observer.
     GridTableModel(GridModel& grid, QObject* parent);
-    ~GridTableModel() override;
 
     int rowCount(const QModelIndex& parent) const override;
     int columnCount(const QModelIndex& parent) const override;

@@ -105,7 +105,7 @@ public:
 
     // For a front end.
 
-    void SetObserver(GridObserver* observer) { m_updates.SetObserver(observer); }
+    void Observe(GridObserver& observer) { m_updates.Observe(observer); }
     /// Number of rows that the observer has been told of: with painting locked, fewer than `Rows`.
     std::int32_t ShownRows() const { return m_updates.ShownRows(); }
     std::int32_t BackgroundColor() const { return m_backgroundColor; }

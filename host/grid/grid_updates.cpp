@@ -14,9 +14,28 @@ GridObserver nobody;
 
 GridUpdates::GridUpdates(const std::vector<GridRow>& rows) : m_rows(rows), m_observer(&nobody) {}
 
-void GridUpdates::SetObserver(GridObserver* observer)
+GridUpdates::~GridUpdates()
 {
-    m_observer = observer != nullptr ? observer : &nobody;
+    Forget();
+}
+
+GridObserver::~GridObserver()
+{
+    if (m_observed != nullptr)
+        m_observed->Forget();
+}
+
+void GridUpdates::Observe(GridObserver& observer)
+{
+    Forget();
+    m_observer = &observer;
+    observer.m_observed = this;
+}
+
+void GridUpdates::Forget()
+{
+    m_observer->m_observed = nullptr;
+    m_observer = &nobody;
 }
 
 void GridUpdates::Redraw()

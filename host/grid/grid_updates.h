@@ -10,12 +10,18 @@
 namespace Tamrivo
 {
 
-/// Whoever shows a grid. Rows are counted from 1. The rows change between a Begin and its End;
-/// rows are inserted at the end only, and may stand there already when Begin is called.
+class GridUpdates;
+
+/// Whoever shows a grid, for as long as both are there. Rows are counted from 1. The rows change
+/// between a Begin and its End; rows are inserted at the end only, and may stand there already when
+/// Begin is called.
 class GridObserver
 {
 public:
-    virtual ~GridObserver() = default;
+    GridObserver() = default;
+    GridObserver(const GridObserver&) = delete;
+    GridObserver& operator=(const GridObserver&) = delete;
+    virtual ~GridObserver();
 
     virtual void BeginInsertRows(std::int32_t /*first*/, std::int32_t /*count*/) {}
     virtual void EndInsertRows() {}
@@ -29,6 +35,11 @@ public:
     virtual void HighlightChanged() {}
     /// Colours, or whether the grid is disabled.
     virtual void LookChanged() {}
+
+private:
+    friend class GridUpdates;
+
+    GridUpdates* m_observed = nullptr;
 };
 
 /// Tells the observer of a grid's rows what happens to them. While painting is locked, rows added
@@ -38,8 +49,12 @@ class GridUpdates
 {
 public:
     explicit GridUpdates(const std::vector<GridRow>& rows);
+    GridUpdates(const GridUpdates&) = delete;
+    GridUpdates& operator=(const GridUpdates&) = delete;
+    ~GridUpdates();
 
-    void SetObserver(GridObserver* observer);
+    /// Tells this observer, in place of another.
+    void Observe(GridObserver& observer);
 
     /// Number of rows that the observer knows of; none while it is being reset.
     std::int32_t ShownRows() const { return m_isResetting ? 0 : m_shownRows; }
@@ -85,6 +100,9 @@ public:
     void LookChanged();
 
 private:
+    friend class GridObserver;
+
+    void Forget();
     void BeginReset();
 
     const std::vector<GridRow>& m_rows;

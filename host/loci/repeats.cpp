@@ -1,9 +1,8 @@
 #include "host/loci/repeats.h"
 
 #include "core/numbers.h"
-#include "core/text.h"
+#include "host/loci/repeat_name.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -13,23 +12,13 @@ namespace Tamrivo
 namespace
 {
 
-/// A number in the notation of allele names, whatever the locale: digits, and after a point how
-/// many nt are left of a unit.
+/// The number of repeats that a name tells; what is left of a unit is shorter than the unit.
 std::optional<double> RepeatsIn(const std::string& name, std::int32_t unit)
 {
-    constexpr std::ptrdiff_t mostDigits = 4;
-    const auto isDigit = [](char byte) { return byte >= '0' && byte <= '9'; };
-    const auto point = std::ranges::find(name, '.');
-    const auto whole = point - name.begin();
-    if (whole < 1 || whole > mostDigits || !std::all_of(name.begin(), point, isDigit))
+    const auto read = ReadRepeatName(name);
+    if (!read || (read->Nucleotides > 0 && read->Nucleotides >= unit))
         return std::nullopt;
-    const double repeats = std::stoi(std::string(name.begin(), point));
-    if (point == name.end())
-        return repeats;
-    const std::string rest(point + 1, name.end());
-    if (rest.size() != 1 || !isDigit(rest[0]) || rest[0] - '0' >= unit)
-        return std::nullopt;
-    return repeats + (rest[0] - '0') / 10.0;
+    return read->Repeats + read->Nucleotides / 10.0;
 }
 
 double RepeatsOrNone(const LocusFields& locus)
@@ -49,7 +38,9 @@ bool NamesCountAlleles(const LocusFields& locus)
 double RepeatsLength(double repeats, std::int32_t unit)
 {
     const double whole = std::floor(repeats);
-    return whole * unit + std::round((repeats - whole) * 10);
+    return RepeatName{static_cast<std::int32_t>(whole),
+                      static_cast<std::int32_t>(std::lround((repeats - whole) * 10))}
+        .Length(unit);
 }
 
 double RepeatsAtDistance(double repeats, double distance, std::int32_t unit)
@@ -64,7 +55,7 @@ double RepeatsAtDistance(double repeats, double distance, std::int32_t unit)
 
 double RepeatsOf(const AlleleFields& allele, const LocusFields& locus)
 {
-    const auto named = RepeatsIn(Trim(allele.AlleleText1), locus.RepeatLength);
+    const auto named = RepeatsIn(allele.AlleleText1, locus.RepeatLength);
     if (named && !NamesCountAlleles(locus) &&
         RepeatsLength(*named, locus.RepeatLength) < allele.AlleleReal1)
         return *named;

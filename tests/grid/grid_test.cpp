@@ -233,7 +233,7 @@ TEST(Grid, TheSelectionSwitchDropsTheHighlightAndBlocksIt)
 class Mirror : public GridObserver
 {
 public:
-    explicit Mirror(GridModel& grid) : m_grid(grid) { grid.SetObserver(this); }
+    explicit Mirror(GridModel& grid) : m_grid(grid) { grid.Observe(*this); }
 
     void BeginInsertRows(std::int32_t first, std::int32_t count) override
     {

@@ -1,5 +1,6 @@
 #include "host/panels/table/panel_writer.h"
 
+#include "host/loci/repeats.h"
 #include "host/panels/cells.h"
 #include "host/panels/locus_columns.h"
 #include "host/panels/marker_name.h"
@@ -16,13 +17,6 @@ namespace Tamrivo
 
 namespace
 {
-
-/// Length of a number of repeats: 9.3 repeats of 4 nt are 9 whole ones and 3 nt more.
-double RepeatsLength(double repeats, std::int32_t unit)
-{
-    const double whole = std::floor(repeats);
-    return whole * unit + std::round((repeats - whole) * 10);
-}
 
 std::string OffsetOf(const Locus& locus, const AlleleFields* shortest)
 {

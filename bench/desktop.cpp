@@ -4,8 +4,11 @@
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/hosted_views.h"
+#include "desktop/window/main_window.h"
+#include "desktop/window/workbench.h"
 #include "host/framework/host_application.h"
 #include "host/grid/grid_user.h"
+#include "host/library/library.h"
 #include "selector/str_locus_tag_selector.h"
 
 #include <QApplication>
@@ -42,6 +45,8 @@ public:
         return view;
     }
 
+    DesktopFrontEnd& FrontEnd() { return m_frontEnd; }
+
     static void Paint() { QCoreApplication::processEvents(); }
 
 private:
@@ -55,6 +60,26 @@ private:
 };
 
 } // namespace
+
+double LibraryInView()
+{
+    Windows windows;
+    const std::string address = StoreOfLoci(ManyLoci).Path();
+    return RatioOf(
+        5,
+        [&] {
+            auto window = std::make_unique<MainWindow>(windows.FrontEnd());
+            window->show();
+            window->Bench().OpenStore(address);
+            Windows::Paint();
+            return window;
+        },
+        [&] {
+            auto store = std::make_unique<Store>(address);
+            auto library = std::make_unique<Library>(*store);
+            return std::pair(std::move(store), std::move(library));
+        });
+}
 
 double FirstPaint()
 {

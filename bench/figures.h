@@ -61,6 +61,7 @@ double KeyInTagByLoci();
 double GenerationClick();
 double GenerationByRows();
 
+double LibraryInView();
 double FirstPaint();
 double WindowSort();
 double WindowMove();
@@ -110,6 +111,8 @@ inline constexpr Figure Figures[] = {
     {"editor_generate", "Generating the widest list in the editor", 2, "ms", GenerationClick},
     {"editor_generate_by_rows", "A row of 1,000 generated / a row of 250", 1.5, "",
      GenerationByRows},
+    {"window", "The window with its table of 100,000 loci in view / reading them", 1.3, "",
+     LibraryInView},
     {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},
     {"window_sort", "Sorting 100,000 rows in the window / without one", 1.3, "", WindowSort},
     {"window_move", "Moving one row of 100,000 in the window", 16, "ms", WindowMove},

@@ -243,6 +243,21 @@ void AllelePaneView::ShowState()
     m_state->setText(StateText(m_pane));
 }
 
+void AllelePaneView::LeaveUndoToPage()
+{
+    for (QAction* action : {m_undo, m_redo})
+    {
+        action->setShortcuts(QList<QKeySequence>());
+        action->setVisible(false);
+    }
+}
+
+void AllelePaneView::GoTo(std::int32_t row)
+{
+    m_table->setFocus(Qt::OtherFocusReason);
+    m_table->SelectRow(row - 1);
+}
+
 void AllelePaneView::MarkSelected()
 {
     const auto rows = m_table->SelectedRows();

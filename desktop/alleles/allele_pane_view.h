@@ -39,6 +39,11 @@ public:
     std::vector<QWidget*> Areas() override;
     void FormChanged(const Control& control) override;
 
+    /// Leaves undo and redo to the page, which has them for the fields too.
+    void LeaveUndoToPage();
+    /// Selects a row, counted from 1, and gives it the focus.
+    void GoTo(std::int32_t row);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;

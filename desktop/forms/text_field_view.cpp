@@ -118,6 +118,10 @@ void TextFieldView::keyPressEvent(QKeyEvent* event)
     bool passes = true;
     if (const std::int16_t code = ControlCode(*event))
         m_actions.Run([&] { passes = User::PressControlKey(m_field, code); });
+    // What the field can't take back by itself, the page does.
+    if ((event->matches(QKeySequence::Undo) && (!passes || !isUndoAvailable())) ||
+        (event->matches(QKeySequence::Redo) && (!passes || !isRedoAvailable())))
+        return event->ignore();
     if (!passes)
         return;
     if (event->matches(QKeySequence::Paste))
@@ -153,8 +157,11 @@ void TextFieldView::focusOutEvent(QFocusEvent* event)
     const bool comesBack = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
                            reason == Qt::ActiveWindowFocusReason;
     // A field that is hidden or disabled while it has the focus is not left by the person.
-    if (!comesBack && !User::Obstacle(m_field))
-        m_actions.Run([this] { User::Leave(m_field); });
+    if (comesBack || User::Obstacle(m_field))
+        return;
+    m_actions.Run([this] { User::Leave(m_field); });
+    // Forgets what could be undone.
+    setText(text());
 }
 
 void TextFieldView::Edit(const std::function<std::size_t()>& edit)

@@ -1,54 +1,38 @@
-#include "desktop/front_end/page_reasons.h"
+#include "desktop/front_end/page_problems.h"
 
 #include "controls/text_field.h"
 #include "controls/user_control.h"
 #include "desktop/common/text.h"
 #include "host/alleles/pane_user.h"
 
-#include <QStringList>
+#include <algorithm>
 
 namespace Tamrivo
 {
 
-namespace
+std::vector<PageProblem> ProblemsOf(const UserControl& page)
 {
-
-TextField* MarkedField(Control* control)
-{
-    auto* field = dynamic_cast<TextField*>(control);
-    return field != nullptr && field->BackColor() != Color::WindowBackground ? field : nullptr;
-}
-
-} // namespace
-
-QStringList ReasonsOf(const UserControl& page)
-{
-    QStringList reasons;
-    for (Control* control : page.InTabOrder())
+    std::vector<PageProblem> problems;
+    for (const Control* control : page.InTabOrder())
     {
-        if (const TextField* field = MarkedField(control))
-            reasons += ToQString(field->ToolTipText());
-        if (const auto* pane = dynamic_cast<User::AllelePaneControl*>(control))
+        const auto* field = dynamic_cast<const TextField*>(control);
+        if (field != nullptr && field->BackColor() != Color::WindowBackground)
+        {
+            const QString text = ToQString(field->ToolTipText());
+            if (!text.isEmpty() &&
+                std::ranges::find(problems, text, &PageProblem::Text) == problems.end())
+                problems.push_back({text, field});
+        }
+        if (const auto* pane = dynamic_cast<const User::AllelePaneControl*>(control))
         {
             for (const AlleleProblem& problem : User::AllelesOf(*pane).Problems())
-                reasons += QString("Allele list, row %1: %2.")
-                               .arg(problem.Row)
-                               .arg(ToQString(problem.Reason));
+                problems.push_back({QString("Allele list, row %1: %2.")
+                                        .arg(problem.Row)
+                                        .arg(ToQString(problem.Reason)),
+                                    pane, problem.Row});
         }
     }
-    reasons.removeAll(QString());
-    reasons.removeDuplicates();
-    return reasons;
-}
-
-TextField* FirstFault(const UserControl& page)
-{
-    for (Control* control : page.FocusOrder())
-    {
-        if (TextField* field = MarkedField(control))
-            return field;
-    }
-    return nullptr;
+    return problems;
 }
 
 } // namespace Tamrivo

@@ -1,18 +1,28 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
 
 namespace Tamrivo
 {
 
-class TextField;
+class Control;
 class UserControl;
 
-/// Why a page isn't valid, as far as it tells: the tips of its marked fields and the problems of
-/// its allele list, each once.
-QStringList ReasonsOf(const UserControl& page);
+/// Something that keeps a page from being valid.
+struct PageProblem
+{
+    QString Text;
+    const Control* Where;    ///< A field, or the allele pane.
+    std::int32_t Allele = 0; ///< Row of the pane, counted from 1.
 
-/// The first marked field in the page's focus order; null when there is none.
-TextField* FirstFault(const UserControl& page);
+    bool operator==(const PageProblem&) const = default;
+};
+
+/// Why a page isn't valid, as far as it tells: its marked fields in the order of the focus, each
+/// reason once, and the problems of its allele list.
+std::vector<PageProblem> ProblemsOf(const UserControl& page);
 
 } // namespace Tamrivo

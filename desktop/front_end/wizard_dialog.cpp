@@ -2,26 +2,30 @@
 
 #include "contracts/launcher.h"
 #include "contracts/parameters.h"
-#include "controls/text_field.h"
+#include "desktop/alleles/allele_pane_view.h"
 #include "desktop/common/actions.h"
+#include "desktop/common/icons.h"
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/hosted_views.h"
-#include "desktop/front_end/page_reasons.h"
+#include "desktop/front_end/problem_list.h"
 #include "desktop/front_end/questions.h"
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
 #include "host/framework/wizard_session.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShowEvent>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -46,15 +50,6 @@ constexpr WizardText wizardTexts[] = {
     {SaveAsWizard.Name, "Save Locus Tag As", "Enter a tag that no other locus has."},
 };
 
-/// Dark on a pale yellow: readable in light and dark themes alike.
-QPalette ReasonPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(255, 243, 196));
-    palette.setColor(QPalette::WindowText, Qt::black);
-    return palette;
-}
-
 WizardText TextOf(const std::string& wizard)
 {
     const auto* found = std::ranges::find(wizardTexts, wizard, &WizardText::Wizard);
@@ -70,19 +65,30 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
       m_wizard(wizard),
       m_actions(actions),
       m_page(new FormView(wizard.Page(), actions, NewHostedView)),
-      m_reasons(new QLabel(this)),
+      m_history(wizard.Page()),
+      m_problems(new ProblemList(this)),
+      m_undo(NewUndoAction("Undo", "edit-undo", QKeySequence::Undo, &PageHistory::Undo)),
+      m_redo(NewUndoAction("Redo", "edit-redo", QKeySequence::Redo, &PageHistory::Redo)),
       m_stored(ContentOf(wizard.Page()))
 {
     setObjectName(ToQString(wizard.Name()));
     setSizeGripEnabled(true);
-    SetUpReasons();
     LayOut();
-    AskAboutAlleles();
+    SetUpAlleles();
+    connect(m_problems, &ProblemList::Picked, this,
+            [this](const PageProblem& problem) { GoTo(problem); });
+    const auto showSteps = [this] {
+        m_undo->setEnabled(m_history.CanUndo());
+        m_redo->setEnabled(m_history.CanRedo());
+    };
+    connect(&m_history, &PageHistory::Changed, this, showSteps);
+    connect(qApp, &QApplication::focusChanged, &m_history, &PageHistory::EndStep);
+    showSteps();
     m_validated = m_wizard.Validated.Connect([this] {
-        ShowReasons();
+        ShowProblems();
         ShowTitle();
     });
-    ShowReasons();
+    ShowProblems();
     ShowTitle();
 }
 
@@ -97,16 +103,23 @@ void WizardDialog::ShowTitle()
     setWindowTitle(title);
 }
 
-void WizardDialog::SetUpReasons()
+QAction* WizardDialog::NewUndoAction(const char* text, const char* icon,
+                                     QKeySequence::StandardKey keys,
+                                     Control* (PageHistory::*step)())
 {
-    m_reasons->setObjectName("reasons");
-    m_reasons->setAccessibleName("Why the page can't be finished");
-    m_reasons->setTextFormat(Qt::PlainText);
-    m_reasons->setWordWrap(true);
-    m_reasons->setMargin(fontMetrics().averageCharWidth());
-    m_reasons->setAutoFillBackground(true);
-    m_reasons->setPalette(ReasonPalette());
-    m_reasons->hide();
+    auto* action = new QAction(ThemeIcon(icon), text, this);
+    action->setObjectName(QString(text).toLower());
+    action->setShortcuts(keys);
+    action->setToolTip(
+        QString("%1 (%2)").arg(text, action->shortcut().toString(QKeySequence::NativeText)));
+    connect(action, &QAction::triggered, this, [this, step] {
+        m_actions.Run([&] {
+            if (const Control* changed = (m_history.*step)())
+                m_page->BringToView(*changed);
+        });
+    });
+    addAction(action);
+    return action;
 }
 
 void WizardDialog::LayOut()
@@ -118,6 +131,25 @@ void WizardDialog::LayOut()
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(m_page);
 
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(scroll, 1);
+    layout->addLayout(MakeBottomRow());
+    const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
+    RestorePlace(*this, natural.expandedTo(sizeHint()));
+}
+
+QLayout* WizardDialog::MakeBottomRow()
+{
+    auto* row = new QHBoxLayout;
+    for (QAction* action : {m_undo, m_redo})
+    {
+        auto* button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        row->addWidget(button, 0, Qt::AlignBottom);
+    }
+    row->addWidget(m_problems, 1);
     // Their access keys are letters that no page has.
     auto* buttons = new QDialogButtonBox(this);
     m_finish = buttons->addButton("F&inish", QDialogButtonBox::AcceptRole);
@@ -127,16 +159,11 @@ void WizardDialog::LayOut()
     m_cancel->setObjectName("cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(scroll, 1);
-    layout->addWidget(m_reasons);
-    layout->addWidget(buttons);
-    const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
-    RestorePlace(*this, natural.expandedTo(sizeHint()));
+    row->addWidget(buttons, 0, Qt::AlignBottom);
+    return row;
 }
 
-void WizardDialog::AskAboutAlleles()
+void WizardDialog::SetUpAlleles()
 {
     auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page());
     if (editor == nullptr)
@@ -144,6 +171,8 @@ void WizardDialog::AskAboutAlleles()
     m_page->AskBefore(editor->cmdGenAlleleList, [this, editor] {
         return MayReplaceAlleles(this, User::AllelesOf(editor->ctlPaneAlleleList));
     });
+    if (auto* pane = dynamic_cast<AllelePaneView*>(m_page->ViewOf(editor->ctlPaneAlleleList)))
+        pane->LeaveUndoToPage();
 }
 
 WizardDialog::~WizardDialog()
@@ -162,27 +191,35 @@ void WizardDialog::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F6)
         m_page->FocusNextArea(!(event->modifiers() & Qt::ShiftModifier));
+    // A field takes these keys for itself before they are anybody's shortcut, and passes them on.
+    else if (event->matches(QKeySequence::Undo))
+        m_undo->trigger();
+    else if (event->matches(QKeySequence::Redo))
+        m_redo->trigger();
     else
         QDialog::keyPressEvent(event);
 }
 
-void WizardDialog::ShowReasons()
+void WizardDialog::ShowProblems()
 {
-    QStringList reasons = ReasonsOf(m_wizard.Page());
-    if (reasons.isEmpty())
-        reasons += TextOf(m_wizard.Name()).Invalid;
-    m_reasons->setText(reasons.join('\n'));
-    m_reasons->setVisible(!m_wizard.IsValid());
+    std::vector<PageProblem> problems;
+    if (!m_wizard.IsValid())
+        problems = ProblemsOf(m_wizard.Page());
+    if (!m_wizard.IsValid() && problems.empty())
+        problems.push_back({TextOf(m_wizard.Name()).Invalid, nullptr});
+    m_problems->Show(std::move(problems));
 }
 
-void WizardDialog::FocusFault()
+void WizardDialog::GoTo(const PageProblem& problem)
 {
-    const TextField* field = FirstFault(m_wizard.Page());
-    if (field == nullptr)
+    if (problem.Where == nullptr)
         return m_page->FocusFirst();
-    QWidget& widget = m_page->ViewOf(*field)->FocusWidget();
-    m_page->BringToView(*field);
-    widget.setFocus(Qt::OtherFocusReason);
+    ControlView* view = m_page->ViewOf(*problem.Where);
+    m_page->BringToView(*problem.Where);
+    if (auto* pane = dynamic_cast<AllelePaneView*>(view))
+        pane->GoTo(problem.Allele);
+    else
+        view->FocusWidget().setFocus(Qt::OtherFocusReason);
 }
 
 void WizardDialog::accept()
@@ -193,7 +230,7 @@ void WizardDialog::accept()
         if (m_wizard.Finish())
             QDialog::accept();
         else
-            FocusFault();
+            GoTo(m_problems->Shown().front());
     });
 }
 

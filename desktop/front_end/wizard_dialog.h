@@ -2,10 +2,12 @@
 
 #include "core/event.h"
 #include "desktop/front_end/page_content.h"
+#include "desktop/front_end/page_history.h"
 
 #include <QDialog>
+#include <QKeySequence>
 
-class QLabel;
+class QAction;
 class QPushButton;
 
 namespace Tamrivo
@@ -13,11 +15,13 @@ namespace Tamrivo
 
 class Actions;
 class FormView;
+class ProblemList;
 class WizardSession;
+struct PageProblem;
 
-/// A wizard with its page, named by what stands on it. Finish is refused while the page is not
-/// valid, and the reasons then stand above the buttons. What would lose a person's work is asked
-/// first. Whatever ends the dialog ends the wizard.
+/// A wizard with its page, named by what stands on it. What was done on the page can be
+/// taken back. Finish is refused while the page is not valid; why, a list beside the buttons says.
+/// What would lose a person's work is asked first. Whatever ends the dialog ends the wizard.
 class WizardDialog : public QDialog
 {
     Q_OBJECT
@@ -44,17 +48,22 @@ protected:
 
 private:
     void ShowTitle();
-    void SetUpReasons();
     void LayOut();
-    void AskAboutAlleles();
+    QLayout* MakeBottomRow();
+    QAction* NewUndoAction(const char* text, const char* icon, QKeySequence::StandardKey keys,
+                           Control* (PageHistory::*step)());
+    void SetUpAlleles();
     bool MayCancel();
-    void ShowReasons();
-    void FocusFault();
+    void ShowProblems();
+    void GoTo(const PageProblem& problem);
 
     WizardSession& m_wizard;
     const Actions& m_actions;
     FormView* m_page;
-    QLabel* m_reasons;
+    PageHistory m_history;
+    ProblemList* m_problems;
+    QAction* m_undo;
+    QAction* m_redo;
     QPushButton* m_finish;
     QPushButton* m_cancel;
     PageContent m_stored; ///< The page as it is in the store.

@@ -44,6 +44,8 @@ public:
     /// What is doubtful in the list, valid or not.
     const std::vector<AlleleProblem>& Warnings() const { return m_warnings; }
     bool CanUndo() const { return !m_done.empty(); }
+    /// Number of actions that can be taken back.
+    std::size_t Steps() const { return m_done.size(); }
     bool CanRedo() const { return !m_undone.empty(); }
 
     /// For the front end that shows the pane: rows, problems or what can be undone have changed.

@@ -1,6 +1,7 @@
 #include "desktop/alleles/allele_pane_view.h"
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/common/colors.h"
+#include "desktop/front_end/problem_list.h"
 #include "desktop_test.h"
 
 #include <QApplication>
@@ -268,8 +269,9 @@ TEST_F(AllelePaneTest, AnInvalidListKeepsTheWizardOpenAndTellsWhy)
         auto& pane =
             dynamic_cast<User::AllelePaneControl&>(*editor.Page().Form().Find("ctlPaneAlleleList"));
         User::EditAllele(pane, 1, AlleleColumns[0], "");
-        auto& reasons = Named<QLabel>(editor, "reasons");
-        EXPECT_EQ(reasons.text(), "Allele list, row 1: The name is missing.");
+        const auto& problems = Named<ProblemList>(editor, "problems").Shown();
+        ASSERT_EQ(problems.size(), 1U);
+        EXPECT_EQ(problems[0].Text, "Allele list, row 1: The name is missing.");
         QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
         EXPECT_TRUE(editor.isVisible());
         Discard(editor);

@@ -1,17 +1,21 @@
 #include "controls/text_field.h"
 #include "desktop/forms/accessible_name.h"
+#include "desktop/front_end/problem_list.h"
 #include "desktop_test.h"
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
+#include <QTableView>
 #include <QWheelEvent>
 
 namespace Tamrivo::Testing
@@ -25,8 +29,10 @@ class WizardTest : public DesktopTest
 
 QString Reasons(WizardDialog& editor)
 {
-    auto& reasons = Named<QLabel>(editor, "reasons");
-    return reasons.isVisible() ? reasons.text() : QString();
+    QStringList texts;
+    for (const PageProblem& problem : Named<ProblemList>(editor, "problems").Shown())
+        texts += problem.Text;
+    return texts.join('\n');
 }
 
 void Replace(QWidget& editor, const QString& field, const QString& text)
@@ -179,14 +185,76 @@ TEST_F(WizardTest, EveryControlHasANameAndARole)
     });
 }
 
+TEST_F(WizardTest, FieldsAndAllelesAreTakenBackInTheirOrder)
+{
+    Edit("D3S1358", [](WizardDialog& editor) {
+        const auto* start = &Named<QLineEdit>(editor, "txtFragStart");
+        auto& end = Named<QLineEdit>(editor, "txtFragEnd");
+        auto* alleles = Named(editor, "ctlPaneAlleleList").findChild<QTableView*>();
+        auto* naming = &Named<QRadioButton>(editor, "optAlleleNaming(0)");
+        const auto state = [&] {
+            QTest::qWait(5);
+            return QStringList{end.text(), alleles->model()->index(0, 0).data().toString(),
+                               naming->isChecked() ? "nominal" : "numeric", start->text()};
+        };
+        std::vector<QStringList> states{state()};
+        Replace(editor, "txtFragEnd", "140");
+        states.push_back(state());
+        alleles->model()->setData(alleles->model()->index(0, 0), "first");
+        states.push_back(state());
+        QTest::mouseClick(naming, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+        states.push_back(state());
+        Replace(editor, "txtFragStart", "70");
+        states.push_back(state());
+
+        auto& undo = *editor.findChild<QAction*>("undo");
+        auto& redo = *editor.findChild<QAction*>("redo");
+        EXPECT_NE(states[3], states[2]);
+        Focus(Named(editor, "txtFragEnd"));
+        for (std::size_t at = states.size() - 1; at-- > 0;)
+        {
+            QTest::keyClick(&Named(editor, "txtFragEnd"), Qt::Key_Z, Qt::ControlModifier);
+            EXPECT_EQ(state(), states[at]) << at;
+        }
+        EXPECT_FALSE(undo.isEnabled());
+        for (std::size_t at = 1; at < states.size(); ++at)
+        {
+            redo.trigger();
+            EXPECT_EQ(state(), states[at]) << at;
+        }
+        EXPECT_FALSE(redo.isEnabled());
+        undo.trigger();
+        Replace(editor, "txtFragStart", "60");
+        EXPECT_FALSE(redo.isEnabled() && state() == states.back()) << "what is done anew ends it";
+        Discard(editor);
+    });
+}
+
+TEST_F(WizardTest, AProblemLeadsToItsField)
+{
+    Edit("", [](WizardDialog& editor) {
+        const int height = Named(editor, "ctlPaneAlleleList").height();
+        Replace(editor, "txtFragStart", "700");
+        Named<QTabWidget>(editor, "SSTab1").setCurrentIndex(1);
+        QTest::qWait(5);
+        auto& problems = Named<ProblemList>(editor, "problems");
+        const auto at = problems.findItems("The Fragment Range From", Qt::MatchStartsWith);
+        ASSERT_EQ(at.size(), 1);
+        EXPECT_EQ(Named(editor, "ctlPaneAlleleList").height(), height);
+        QTest::mouseClick(problems.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          problems.visualItemRect(at.front()).center());
+        EXPECT_TRUE(Named(editor, "txtFragStart").hasFocus());
+        Discard(editor);
+    });
+}
+
 TEST_F(WizardTest, SaveAsUnderAnotherTagAndOverTheSame)
 {
     Edit("D3S1358", [](WizardDialog& editor) {
         OnModal([](QDialog& saveAs) {
             QTest::mouseClick(&Named(saveAs, "finish"), Qt::LeftButton);
             EXPECT_TRUE(saveAs.isVisible()) << "no tag yet";
-            auto& reasons = Named<QLabel>(saveAs, "reasons");
-            EXPECT_TRUE(reasons.isVisible() && !reasons.text().isEmpty());
+            EXPECT_FALSE(Named<ProblemList>(saveAs, "problems").Shown().empty());
             Type(Named(saveAs, "txtLocusName"), "Copy");
             QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
         });

@@ -250,6 +250,8 @@ void AllelePaneView::LeaveUndoToPage()
         action->setShortcuts(QList<QKeySequence>());
         action->setVisible(false);
     }
+    for (QToolButton* button : m_buttons)
+        button->setVisible(button->defaultAction()->isVisible());
 }
 
 void AllelePaneView::GoTo(std::int32_t row)

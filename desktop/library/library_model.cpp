@@ -18,19 +18,48 @@ namespace Tamrivo
 namespace
 {
 
-/// Of each locus its place among all when they stand in the order of their tags.
-std::vector<std::uint32_t> RanksByTag(const std::vector<LibraryLocus>& loci)
+/// A key with its first bytes as numbers, which tell nearly all keys apart without a look at it.
+struct TagKey
 {
-    std::vector<std::pair<std::string, std::uint32_t>> order;
+    std::uint64_t First;
+    std::uint64_t Second;
+    std::uint32_t Position;
+};
+
+std::uint64_t BytesAt(const std::string& key, std::size_t place)
+{
+    std::uint64_t bytes = 0;
+    for (std::size_t at = place; at < place + sizeof bytes; ++at)
+        bytes = bytes << 8U | (at < key.size() ? static_cast<unsigned char>(key[at]) : 0U);
+    return bytes;
+}
+
+/// The positions of all loci in the order of their tags.
+std::vector<std::uint32_t> OrderByTag(const std::vector<LibraryLocus>& loci)
+{
+    std::vector<std::string> keys;
+    std::vector<TagKey> order;
+    keys.reserve(loci.size());
     order.reserve(loci.size());
     for (const LibraryLocus& locus : loci)
-        order.emplace_back(SortKey(ColumnKind::Tags, locus.Tag, false),
-                           static_cast<std::uint32_t>(order.size()));
-    std::ranges::sort(order);
-    std::vector<std::uint32_t> ranks(loci.size());
-    for (std::uint32_t rank = 0; rank < order.size(); ++rank)
-        ranks[order[rank].second] = rank;
-    return ranks;
+    {
+        const std::string& key = keys.emplace_back(SortKey(ColumnKind::Tags, locus.Tag, false));
+        order.push_back(
+            {BytesAt(key, 0), BytesAt(key, 8), static_cast<std::uint32_t>(order.size())});
+    }
+    std::ranges::sort(order, [&keys](const TagKey& left, const TagKey& right) {
+        if (left.First != right.First)
+            return left.First < right.First;
+        if (left.Second != right.Second)
+            return left.Second < right.Second;
+        const int compared = keys[left.Position].compare(keys[right.Position]);
+        return compared != 0 ? compared < 0 : left.Position < right.Position;
+    });
+    std::vector<std::uint32_t> positions;
+    positions.reserve(order.size());
+    for (const TagKey& key : order)
+        positions.push_back(key.Position);
+    return positions;
 }
 
 } // namespace
@@ -40,7 +69,10 @@ void LibraryModel::SetLibrary(const Library* library)
     beginResetModel();
     m_library = library;
     m_rows.clear();
-    m_ranks = library == nullptr ? std::vector<std::uint32_t>() : RanksByTag(library->Loci());
+    m_byTag = library == nullptr ? std::vector<std::uint32_t>() : OrderByTag(library->Loci());
+    m_ranks.resize(m_byTag.size());
+    for (std::uint32_t rank = 0; rank < m_byTag.size(); ++rank)
+        m_ranks[m_byTag[rank]] = rank;
     endResetModel();
 }
 
@@ -164,16 +196,31 @@ void LibraryModel::SortRows()
     if (m_rows.empty() || m_column < 0)
         return;
     const auto compare = LibraryColumns()[static_cast<std::size_t>(m_column)].Compare;
+    if (compare == nullptr)
+        return TakeInOrderOfTags();
     const auto isLess = [&](std::uint32_t left, std::uint32_t right) {
-        const int order = compare == nullptr ? 0
-                                             : compare(*m_library, m_library->Loci()[left],
-                                                       m_library->Loci()[right]);
+        const int order = compare(*m_library, m_library->Loci()[left], m_library->Loci()[right]);
         return order != 0 ? order < 0 : m_ranks[left] < m_ranks[right];
     };
     if (m_order == Qt::AscendingOrder)
         std::ranges::sort(m_rows, isLess);
     else
         std::ranges::sort(m_rows, [&](auto left, auto right) { return isLess(right, left); });
+}
+
+void LibraryModel::TakeInOrderOfTags()
+{
+    std::vector<bool> isShown(m_byTag.size());
+    for (const std::uint32_t position : m_rows)
+        isShown[position] = true;
+    m_rows.clear();
+    for (const std::uint32_t position : m_byTag)
+    {
+        if (isShown[position])
+            m_rows.push_back(position);
+    }
+    if (m_order == Qt::DescendingOrder)
+        std::ranges::reverse(m_rows);
 }
 
 QMimeData* LibraryModel::mimeData(const QModelIndexList& indexes) const

@@ -50,10 +50,12 @@ signals:
 
 private:
     void SortRows();
+    void TakeInOrderOfTags();
 
     const Library* m_library = nullptr;
-    std::vector<std::uint32_t> m_ranks; ///< Of each locus in the order of the tags.
-    std::vector<std::uint32_t> m_rows;  ///< Positions in the library.
+    std::vector<std::uint32_t> m_byTag; ///< Positions of all loci in the order of their tags.
+    std::vector<std::uint32_t> m_ranks; ///< Of each locus in that order.
+    std::vector<std::uint32_t> m_rows;  ///< Positions of those on show.
     std::optional<std::unordered_set<std::int32_t>> m_ticks;
     int m_column = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;

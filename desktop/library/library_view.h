@@ -37,6 +37,7 @@ public:
     Library* Loci() const { return m_library.get(); }
 
     void ShowGroup(const LocusGroup& group);
+    const LocusGroup& Group() const { return m_group; }
     /// The loci that the open parameter selects, by number; none without one.
     void SetSelected(std::optional<std::unordered_set<std::int32_t>> selected);
 

@@ -213,7 +213,10 @@ void Workbench::ShowGroups()
     m_groups->Show(GroupsOf(*m_library->Loci(), KeptSearches()), *m_library->Loci());
     if (m_parameter != nullptr)
         ShowSelection();
-    m_library->ShowGroup(m_groups->Chosen());
+    const LocusGroup& chosen = m_groups->Chosen();
+    // The loci of a parameter may be others by now.
+    if (chosen != m_library->Group() || chosen.What == LocusGroup::Kind::Parameter)
+        m_library->ShowGroup(chosen);
 }
 
 void Workbench::ChooseGroup(const LocusGroup& group)

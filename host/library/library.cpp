@@ -88,9 +88,13 @@ void ReadRows(Store& store, Row& row, const std::string& rest, Use&& use)
         soci::statement statement(session);
         BindInto(database, statement, row);
         Prepare(statement, "SELECT " + ColumnNames(row) + " " + rest);
-        for (statement.execute(); statement.fetch();)
+        // A row takes less time than telling that the work goes on.
+        constexpr std::size_t rowsPerReport = 256;
+        std::size_t rows = 0;
+        for (statement.execute(); statement.fetch(); ++rows)
         {
-            database.Progress();
+            if (rows % rowsPerReport == 0)
+                database.Progress();
             use();
         }
     });

@@ -3,6 +3,8 @@
 #include "main_window_fixture.h"
 
 #include <QClipboard>
+#include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStatusBar>
@@ -82,6 +84,64 @@ TEST_F(MainWindowTest, TwoAreCompared)
     EXPECT_EQ(fields.horizontalHeaderItem(1)->text(), "D3S1358");
     ASSERT_FALSE(fields.findItems("Fragment range", Qt::MatchExactly).isEmpty());
     EXPECT_TRUE(fields.findItems("Dye", Qt::MatchExactly).isEmpty()) << "both are blue";
+}
+
+TEST_F(MainWindowTest, APanelIsExportedInFiveActions)
+{
+    const QString path = m_directory.filePath("h24.tsv");
+    OnModal([&](QDialog& dialog) {
+        for (auto* box : dialog.findChildren<QComboBox*>())
+        {
+            if (box->findText("Panel H24") >= 0)
+                box->setCurrentText("Panel H24");
+        }
+        ++m_actions;
+        OnModal([&](QDialog& files) {
+            Named<QLineEdit>(files, "fileNameEdit").setText(path);
+            ++m_actions;
+            QTest::keyClick(&Named(files, "fileNameEdit"), Qt::Key_Return);
+            ++m_actions;
+        });
+        ++m_actions;
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    ClickTool(Do<&PanelFileCommands::Export>);
+    EXPECT_LE(m_actions, 5);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray table = file.readAll();
+    EXPECT_TRUE(table.contains("D3S1358") && table.contains("FGA"));
+    EXPECT_FALSE(table.contains("TH01"));
+}
+
+TEST_F(MainWindowTest, ANewLocusWithTwelveAllelesTakesTwelveActions)
+{
+    ClickTool(Do<&LocusCommands::New>);
+    WizardDialog& editor = Editor();
+    QApplication::setActiveWindow(&editor);
+    const auto enter = [&](const char* name, const QString& text) {
+        auto& field = Named<QLineEdit>(editor, name);
+        if (!field.hasFocus())
+        {
+            Focus(field);
+            ++m_actions;
+        }
+        field.selectAll();
+        Type(field, text);
+        ++m_actions;
+    };
+    enter("txtLocusTag", "D1S80");
+    enter("txtFragStart", "100");
+    enter("txtFragEnd", "144");
+    enter("txtShortestAlleleSize", "100");
+    QTest::mouseClick(&Named(editor, "cmdGenAlleleList"), Qt::LeftButton);
+    QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
+    m_actions += 2;
+    Settle();
+    EXPECT_LE(m_actions, 12);
+    EXPECT_TRUE(Editors().empty());
+    EXPECT_EQ(RowOf("D1S80").siblingAtColumn(4).data().toString(), "12");
+    EXPECT_EQ(Table().ChosenRows(), std::vector<int>{RowOf("D1S80").row()});
 }
 
 TEST_F(MainWindowTest, ALocusIsEditedRenamedCopiedAndMoved)

@@ -154,7 +154,6 @@ QLayout* WizardDialog::MakeBottomRow()
     auto* buttons = new QDialogButtonBox(this);
     m_finish = buttons->addButton("F&inish", QDialogButtonBox::AcceptRole);
     m_finish->setObjectName("finish");
-    m_finish->setDefault(true);
     m_cancel = buttons->addButton("&Cancel", QDialogButtonBox::RejectRole);
     m_cancel->setObjectName("cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

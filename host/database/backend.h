@@ -24,6 +24,8 @@ public:
 
     /// "sqlite" or "postgresql".
     virtual std::string_view Dialect() const = 0;
+    /// How a column is declared whose numbers the database gives, each once and rising.
+    virtual std::string_view SerialKey() const = 0;
     virtual void Connect(soci::session& session) = 0;
     virtual bool IsReadOnly(soci::session& session) = 0;
     /// Connects anew if the connection was found lost and the server answers again. Gives whether

@@ -41,6 +41,7 @@ public:
     }
 
     std::string_view Dialect() const override { return "sqlite"; }
+    std::string_view SerialKey() const override { return "INTEGER PRIMARY KEY AUTOINCREMENT"; }
 
     void Connect(soci::session& session) override
     {

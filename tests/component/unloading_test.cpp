@@ -8,10 +8,9 @@ namespace
 {
 
 /// Keeps all that passes through its hands.
-class HoardingHost : public EmbeddingHost, private Launcher
+class HoardingHost : public EmbeddingHost
 {
 public:
-    Tamrivo::Launcher& SharedLauncher() override { return *this; }
     std::shared_ptr<Gridocx> NewGrid() override
     {
         return Grids.emplace_back(EmbeddingHost::NewGrid());
@@ -23,19 +22,6 @@ public:
 
     std::vector<std::shared_ptr<Gridocx>> Grids;
     std::shared_ptr<ServiceBase> Service;
-    std::shared_ptr<ParameterCollection> Parameters;
-
-private:
-    std::shared_ptr<LauncherResult> Start(std::string_view,
-                                          const std::shared_ptr<ParameterCollection>& parameters,
-                                          const std::shared_ptr<BusinessObject>&, std::int32_t,
-                                          std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-                                          std::int32_t, std::string_view, std::int32_t,
-                                          std::int32_t) override
-    {
-        Parameters = parameters;
-        return std::make_shared<Fakes::FakeResult>(true);
-    }
 };
 
 class Unloading : public ComponentTest
@@ -99,7 +85,7 @@ TEST_F(Unloading, LeavesTheObjectsOfTheSelectorToTheHost)
     created.Drop();
 
     Unload();
-    const Keyed& parameters = *Hoard.Parameters;
+    const Keyed& parameters = *Hoard.Launcher.Given;
     EXPECT_TRUE(parameters.KeyExists(ParameterKey::Locus));
     EXPECT_FALSE(static_cast<const Keyed&>(selected).KeyExists("TPOX"));
     EXPECT_EQ(*selected.begin(), Stored);

@@ -94,19 +94,20 @@ private:
 class GivenLauncher : public Fakes::FakeLauncher
 {
 public:
-    explicit GivenLauncher(const Giver& giver) : m_giver(giver) {}
-    std::shared_ptr<LauncherResult> Start(std::string_view,
-                                          const std::shared_ptr<ParameterCollection>& parameters,
-                                          const std::shared_ptr<BusinessObject>&, std::int32_t,
-                                          std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-                                          std::int32_t, std::string_view, std::int32_t,
-                                          std::int32_t) override
+    explicit GivenLauncher(const Giver& giver) : m_giver(giver)
     {
-        parameters->Add(m_giver.Give("NewSaveAs", MakeLocus(m_giver)), ParameterKey::NewSaveAs);
-        return m_giver.Give<LauncherResult>("Start", std::make_shared<Fakes::FakeResult>(false));
+        Run = [this](ParameterCollection& parameters) {
+            parameters.Add(m_giver.Give("NewSaveAs", MakeLocus(m_giver)), ParameterKey::NewSaveAs);
+            return true;
+        };
     }
 
 private:
+    std::shared_ptr<LauncherResult> Result(bool cancelled) override
+    {
+        return m_giver.Give("Start", FakeLauncher::Result(cancelled));
+    }
+
     const Giver& m_giver;
 };
 

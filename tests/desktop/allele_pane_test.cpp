@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <QToolButton>
 #include <QToolTip>
 
 namespace Tamrivo::Testing
@@ -187,6 +188,17 @@ TEST_F(AllelePaneTest, TheKeyboardGoesToTableButtonsAndPicture)
         EXPECT_EQ(QApplication::focusWidget(), m_picture);
         QTest::keyClick(m_picture, Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), m_table);
+
+        // The wizard's own buttons belong to the form.
+        auto& finish = Named(*m_view->window(), "finish");
+        for (const auto& [modifier, area] :
+             {std::pair<Qt::KeyboardModifiers, QWidget*>{Qt::NoModifier, m_table},
+              {Qt::ShiftModifier, m_picture}})
+        {
+            Focus(finish);
+            QTest::keyClick(&finish, Qt::Key_F6, modifier);
+            EXPECT_EQ(QApplication::focusWidget(), area);
+        }
     });
 }
 
@@ -217,6 +229,11 @@ TEST_F(AllelePaneTest, RowsAreAddedRemovedAndTakenBack)
         QTest::keyClick(m_table, Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(m_table->model()->rowCount(), 15);
 
+        m_table->clearSelection();
+        for (const auto* button : m_view->findChildren<QToolButton*>())
+            EXPECT_EQ(button->isEnabled(), button->accessibleName() != "Remove alleles" &&
+                                               button->accessibleName() != "Undo")
+                << button->accessibleName().toStdString();
         m_table->selectRow(3);
         QTest::keyClick(m_table, Qt::Key_Delete);
         EXPECT_EQ(m_table->model()->rowCount(), 14);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -110,6 +111,14 @@ void Focus(QWidget& widget)
 {
     widget.setFocus(Qt::MouseFocusReason);
     QCoreApplication::processEvents();
+}
+
+void Replace(QWidget& window, const QString& field, const QString& text)
+{
+    auto& widget = Named<QLineEdit>(window, field);
+    Focus(widget);
+    widget.selectAll();
+    Type(widget, text);
 }
 
 DesktopTest::DesktopTest()

@@ -43,6 +43,9 @@ void Type(QWidget& widget, const QString& text);
 /// Gives the widget the focus as the mouse does.
 void Focus(QWidget& widget);
 
+/// Types another text into a field of a window.
+void Replace(QWidget& window, const QString& field, const QString& text);
+
 /// A store with the loci "D3S1358" (80 to 136 nt, dye D1, panel "H24"), "TH01" (120 to 180, D1) and
 /// "FGA" (200 to 300, D2, "H24") and the empty parameters "Casework" and "Research", in the
 /// windows' front end.

@@ -2,16 +2,12 @@
 #include "desktop/forms/accessible_name.h"
 #include "desktop/front_end/problem_list.h"
 #include "desktop_test.h"
-#include "editor/locus_editor_form.h"
-#include "host/alleles/pane_user.h"
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -33,14 +29,6 @@ QString Reasons(WizardDialog& editor)
     for (const PageProblem& problem : Named<ProblemList>(editor, "problems").Shown())
         texts += problem.Text;
     return texts.join('\n');
-}
-
-void Replace(QWidget& editor, const QString& field, const QString& text)
-{
-    auto& widget = Named<QLineEdit>(editor, field);
-    Focus(widget);
-    widget.selectAll();
-    Type(widget, text);
 }
 
 } // namespace
@@ -248,84 +236,16 @@ TEST_F(WizardTest, AProblemLeadsToItsField)
     });
 }
 
-TEST_F(WizardTest, SaveAsUnderAnotherTagAndOverTheSame)
-{
-    Edit("D3S1358", [](WizardDialog& editor) {
-        OnModal([](QDialog& saveAs) {
-            QTest::mouseClick(&Named(saveAs, "finish"), Qt::LeftButton);
-            EXPECT_TRUE(saveAs.isVisible()) << "no tag yet";
-            EXPECT_FALSE(Named<ProblemList>(saveAs, "problems").Shown().empty());
-            Type(Named(saveAs, "txtLocusName"), "Copy");
-            QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
-        });
-        QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
-        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
-    });
-    ASSERT_TRUE(Stored("Copy"));
-    EXPECT_EQ(Stored("Copy")->FragEnd, 136);
-
-    // A tag that the locus bears without being current is none that is taken.
-    const auto unused = Stored("TH01");
-    unused->SetIsCurrent(false);
-    Host().Store().Manager().Save(*unused, true);
-    Edit("TH01", [](WizardDialog& editor) {
-        Replace(editor, "txtFragEnd", "190");
-        OnModal([](QDialog& saveAs) {
-            OnModal([](QDialog& question) {
-                auto& box = dynamic_cast<QMessageBox&>(question);
-                EXPECT_EQ(box.windowTitle(), "Save Over Existing Locus");
-                EXPECT_EQ(box.icon(), QMessageBox::Warning);
-                EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
-                QTest::keyClick(&box, Qt::Key_Return);
-            });
-            Type(Named(saveAs, "txtLocusName"), "TH01");
-            QTest::keyClick(&Named(saveAs, "txtLocusName"), Qt::Key_Return);
-        });
-        QTest::mouseClick(&Named(editor, "cmdSaveAs"), Qt::LeftButton);
-        Discard(editor);
-    });
-    EXPECT_EQ(Stored("TH01")->FragEnd, 190) << "stored at once";
-}
-
-TEST_F(WizardTest, AsksBeforeWorkIsLost)
-{
-    Edit("D3S1358", [](WizardDialog& editor) { editor.close(); });
-
-    Edit({}, [](WizardDialog& editor) {
-        Replace(editor, "txtLocusTag", "Whole new");
-        OnModal([](QDialog& question) { QTest::keyClick(&question, Qt::Key_Escape); });
-        QTest::keyClick(&Named(editor, "txtLocusTag"), Qt::Key_Escape);
-        EXPECT_TRUE(editor.isVisible());
-        EXPECT_EQ(editor.focusWidget(), &Named(editor, "txtLocusTag"));
-
-        auto& pane =
-            User::AllelesOf(dynamic_cast<LocusEditorForm&>(editor.Page().Form()).ctlPaneAlleleList);
-        auto& generate = Named(editor, "cmdGenAlleleList");
-        QTest::mouseClick(&generate, Qt::LeftButton);
-        EXPECT_EQ(pane.Rows()[0]->AlleleReal3, 60.5) << "as wide as the page shows";
-        pane.EditCell(1, AlleleColumns[0], "mine");
-        for (const bool replaces : {false, true})
-        {
-            OnModal([=](QDialog& question) {
-                Press(question, replaces ? "Replace" : "Keep the List");
-            });
-            QTest::mouseClick(&generate, Qt::LeftButton);
-            EXPECT_EQ(pane.Rows()[0]->AlleleText1, replaces ? "60" : "mine");
-        }
-        OnModal([](QDialog& question) { Press(question, "Discard Changes"); });
-        editor.close();
-    });
-}
-
 TEST_F(WizardTest, AccessKeysOfTheWizardAreNotThoseOfThePages)
 {
     const auto letterOf = [](const QString& caption) {
         return caption[caption.indexOf('&') + 1].toLower();
     };
     Edit("D3S1358", [&](WizardDialog& editor) {
-        for (const char* button : {"finish", "cancel"})
+        for (const auto& [button, own] :
+             {std::pair<const char*, QString>{"finish", "F&inish"}, {"cancel", "&Cancel"}})
         {
-            const QString own = Named<QPushButton>(editor, button).text();
+            EXPECT_EQ(Named<QPushButton>(editor, button).text(), own);
             for (const auto* other : editor.Page().findChildren<QAbstractButton*>())
                 EXPECT_TRUE(!other->text().contains('&') ||
                             letterOf(other->text()) != letterOf(own))
@@ -362,31 +282,11 @@ TEST_F(WizardTest, AnArrowTakesTheFocusAndTheWheelNothing)
         Focus(Named(editor, "txtRepeat"));
         turnWheel();
         EXPECT_EQ(size.text(), "81");
+        for (const auto* each : editor.findChildren<QAbstractSpinBox*>())
+            EXPECT_TRUE(each->focusPolicy() == Qt::StrongFocus ||
+                        each->focusPolicy() == Qt::ClickFocus)
+                << each->objectName().toStdString();
         Discard(editor);
-    });
-}
-
-TEST_F(WizardTest, AFailureIsTakenInPlainWordsAndNothingIsLost)
-{
-    Edit("D3S1358", [&](WizardDialog& editor) {
-        const auto other = Stored("D3S1358");
-        other->LocusName = "Changed meanwhile";
-        Host().Store().Manager().Save(*other, true);
-        Replace(editor, "txtFragEnd", "150");
-        OnModal([](QDialog& dialog) {
-            auto& box = dynamic_cast<QMessageBox&>(dialog);
-            EXPECT_EQ(box.objectName(), "failure");
-            EXPECT_GT(box.text().size(), 30);
-            EXPECT_FALSE(box.text().contains("-2147"));
-            EXPECT_TRUE(box.detailedText().contains("-2147"));
-            Press(box, "OK");
-        });
-        QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
-        if (editor.isVisible())
-        {
-            EXPECT_EQ(Named<QLineEdit>(editor, "txtFragEnd").text(), "150");
-            Discard(editor);
-        }
     });
 }
 

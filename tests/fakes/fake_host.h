@@ -145,12 +145,20 @@ public:
             call << ' ' << number;
         call << " \"" << text << "\" " << f << ' ' << g;
         Started.push_back(call.str());
-        return std::make_shared<FakeResult>(!Run(*parameters));
+        Given = parameters;
+        return Result(!Run(*parameters));
     }
 
     std::vector<std::string> Started;
+    std::shared_ptr<ParameterCollection> Given; ///< To the last wizard.
     /// The wizard; gives whether it was completed.
     std::function<bool(ParameterCollection&)> Run = [](ParameterCollection&) { return false; };
+
+protected:
+    virtual std::shared_ptr<LauncherResult> Result(bool cancelled)
+    {
+        return std::make_shared<FakeResult>(cancelled);
+    }
 };
 
 class FakePane : public PaneAlleleList

@@ -1,7 +1,9 @@
 #include "desktop/common/settings.h"
 #include "desktop/common/theme.h"
 #include "desktop/front_end/desktop_front_end.h"
+#include "desktop/help/help_key.h"
 #include "desktop/window/main_window.h"
+#include "desktop/window/workbench.h"
 #include "host/database/address.h"
 #include "host/framework/environment.h"
 
@@ -58,7 +60,7 @@ int main(int count, char** arguments)
         const QCoreApplication application(count, arguments);
         StoreAddress(application);
     }
-    const QApplication application(count, arguments);
+    QApplication application(count, arguments);
     QApplication::setApplicationDisplayName("Tamrivo");
     QApplication::setDesktopFileName("tamrivo");
     QApplication::setWindowIcon(QIcon::fromTheme("tamrivo", QIcon(":/tamrivo.svg")));
@@ -71,9 +73,12 @@ int main(int count, char** arguments)
 
     Tamrivo::UseTheme(Tamrivo::ChosenTheme());
 
+    Tamrivo::HelpKey helpKey;
+    application.installEventFilter(&helpKey);
+
     Tamrivo::DesktopFrontEnd frontEnd;
     Tamrivo::MainWindow window(frontEnd);
     window.show();
-    window.OpenStore(address);
+    window.Bench().OpenStore(address);
     return QApplication::exec();
 }

@@ -43,6 +43,8 @@ constexpr OwnIcon ownIcons[] = {
     {"edit-redo", "M20 9H9a5 5 0 0 0 0 10h4 M16 5l4 4-4 4"},
     {"edit-rename", "M4 8h12v8H4z M18 4v16 M16 4h4 M16 20h4"},
     {"edit-undo", "M4 9h11a5 5 0 0 1 0 10h-4 M8 5L4 9l4 4"},
+    {"help-contents",
+     "M4 5h6a2 2 0 0 1 2 2v13a2 2 0 0 0-2-2H4z M20 5h-6a2 2 0 0 0-2 2v13a2 2 0 0 1 2-2h6z"},
     {"help-about", "M12 3a9 9 0 1 0 .01 0z M12 11v6 M12 7v1"},
     {"list-add", "M12 5v14 M5 12h14"},
     {"list-remove", "M5 12h14"},

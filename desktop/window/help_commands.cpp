@@ -1,12 +1,18 @@
 #include "desktop/window/help_commands.h"
 
 #include "desktop/front_end/message_boxes.h"
+#include "desktop/help/help_key.h"
 #include "desktop/window/workbench.h"
 
 #include <QMessageBox>
 
 namespace Tamrivo
 {
+
+void HelpCommands::ShowGuide()
+{
+    ShowHelp();
+}
 
 void HelpCommands::OpenLog()
 {

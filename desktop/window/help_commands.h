@@ -11,6 +11,7 @@ class HelpCommands
 public:
     explicit HelpCommands(Workbench& workbench) : m_workbench(workbench) {}
 
+    void ShowGuide();
     void OpenLog();
     void ShowAbout();
 

@@ -22,6 +22,12 @@ public:
         return m_left + (length - m_low) / (m_high - m_low) * (m_right - m_left);
     }
 
+    /// The length at a place.
+    double LengthAt(double x) const
+    {
+        return m_low + (x - m_left) / (m_right - m_left) * (m_high - m_low);
+    }
+
     /// Draws the axis with numbers below `y`, and faint lines up to `top`.
     void Draw(QPainter& painter, const QPalette& palette, double y, double top) const;
 

@@ -4,9 +4,10 @@
 #include "desktop/common/actions.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
+#include "desktop/import/import_words.h"
 #include "host/loci/counts.h"
-#include "host/panels/bins/panels_bins_writer.h"
-#include "host/panels/whole_file.h"
+#include "host/panels/export_files.h"
+#include "host/store/parameter_store.h"
 #include "host/store/store.h"
 
 #include <QComboBox>
@@ -17,19 +18,19 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 
 #include <map>
 
 namespace Tamrivo
 {
 
-ExportDialog::ExportDialog(Store& store, const Actions& actions, QWidget* parent)
+ExportDialog::ExportDialog(Store& store, const Actions& actions, QWidget* parent,
+                           const ShownLoci& shown)
     : QDialog(parent),
       m_store(store),
       m_actions(actions),
       m_format(new QComboBox(this)),
-      m_panel(new QComboBox(this)),
+      m_scope(new QComboBox(this)),
       m_kit(new QLineEdit(this)),
       m_shortName(new QLineEdit(this)),
       m_standards(new QLineEdit(this)),
@@ -38,10 +39,29 @@ ExportDialog::ExportDialog(Store& store, const Actions& actions, QWidget* parent
     setObjectName("exportLoci");
     setWindowTitle("Export Loci");
     auto* form = new QFormLayout(this);
-    for (const PanelFormatName& format : PanelFormatNames)
-        m_format->addItem(ToQString(std::string(format.Title)));
+    AddFields(*form);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_export = buttons->addButton("&Export...", QDialogButtonBox::AcceptRole);
+    m_export->setObjectName("exportNow");
+    m_export->setDefault(true);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_export, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Export(); }); });
+
+    OfferLoci(shown);
+    const auto plan = [this] { m_actions.Run([this] { Plan(); }); };
+    for (QComboBox* box : {m_format, m_scope})
+        connect(box, &QComboBox::currentIndexChanged, this, plan);
+    for (QLineEdit* field : {m_kit, m_shortName, m_standards})
+        connect(field, &QLineEdit::textChanged, this, plan);
+    Plan();
+}
+
+void ExportDialog::AddFields(QFormLayout& form)
+{
+    m_format->addItems(FormatTitles());
     m_format->setObjectName("exportFormat");
-    m_panel->setObjectName("exportPanel");
+    m_scope->setObjectName("exportScope");
     m_kit->setObjectName("exportKit");
     m_kit->setPlaceholderText("As the panel");
     m_shortName->setObjectName("exportShortName");
@@ -52,33 +72,33 @@ ExportDialog::ExportDialog(Store& store, const Actions& actions, QWidget* parent
     m_outlook->setTextFormat(Qt::PlainText);
     m_outlook->setWordWrap(true);
     m_outlook->setMinimumWidth(fontMetrics().averageCharWidth() * 70);
-    form->addRow("&Format:", m_format);
-    form->addRow("&Loci:", m_panel);
-    form->addRow("Name of the &kit:", m_kit);
-    form->addRow("Sh&ort name of the panel:", m_shortName);
-    form->addRow("&Size standards:", m_standards);
-    form->addRow(m_outlook);
-
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    m_export = buttons->addButton("&Export...", QDialogButtonBox::AcceptRole);
-    m_export->setObjectName("exportNow");
-    m_export->setDefault(true);
-    form->addRow(buttons);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_export, &QPushButton::clicked, this, [this] { m_actions.Run([this] { Export(); }); });
-
-    OfferLoci();
-    const auto plan = [this] { m_actions.Run([this] { Plan(); }); };
-    for (QComboBox* box : {m_format, m_panel})
-        connect(box, &QComboBox::currentIndexChanged, this, plan);
-    for (QLineEdit* field : {m_kit, m_shortName, m_standards})
-        connect(field, &QLineEdit::textChanged, this, plan);
-    Plan();
+    form.addRow("&Loci:", m_scope);
+    form.addRow("&Format:", m_format);
+    form.addRow("Name of the &kit:", m_kit);
+    form.addRow("Sh&ort name of the panel:", m_shortName);
+    form.addRow("&Size standards:", m_standards);
+    form.addRow(m_outlook);
 }
 
-void ExportDialog::OfferLoci()
+void ExportDialog::Offer(const QString& title, ExportScope scope)
 {
-    m_panel->addItem("All current loci");
+    m_scope->addItem(title);
+    m_scopes.push_back(std::move(scope));
+}
+
+void ExportDialog::OfferLoci(const ShownLoci& shown)
+{
+    if (!shown.Chosen.empty())
+        Offer(ToQString("The chosen " + CountOfLoci(shown.Chosen.size())), {.Tags = shown.Chosen});
+    const auto offerParameter = [this](const std::string& name) {
+        Offer("Parameter " + ToQString(name), {.Parameter = name});
+    };
+    if (!shown.Parameter.empty())
+        offerParameter(shown.Parameter);
+    Offer("All current loci", {});
+    const bool isOneChosen = shown.Chosen.size() == 1;
+    m_scope->setCurrentIndex(isOneChosen ? 1 : 0);
+
     std::map<std::string, std::string, LessNoCase> panels;
     const auto loci = CurrentLoci(m_store.Manager(), "");
     for (const auto& locus : loci->Members())
@@ -88,23 +108,15 @@ void ExportDialog::OfferLoci()
             panels.emplace(panel, panel);
     }
     for (const auto& [key, panel] : panels)
-        m_panel->addItem("Panel " + ToQString(panel), ToQString(panel));
+        Offer("Panel " + ToQString(panel), {.Panel = panel});
+    for (const std::string& parameter : ParameterStore(m_store).Names())
+    {
+        if (parameter != shown.Parameter)
+            offerParameter(parameter);
+    }
 }
 
-std::vector<std::shared_ptr<BusinessObject>> ExportDialog::ChosenLoci()
-{
-    const auto list = CurrentLoci(m_store.Manager(), "");
-    std::vector<std::shared_ptr<BusinessObject>> loci(list->Members().begin(),
-                                                      list->Members().end());
-    const std::string panel = FromQString(m_panel->currentData().toString());
-    if (!panel.empty())
-        std::erase_if(loci, [&panel](const auto& locus) {
-            return !EqualNoCase(Trim(As<Locus>(locus)->PrimerSet), panel);
-        });
-    return loci;
-}
-
-void ExportDialog::Plan()
+ExportChoice ExportDialog::Choice() const
 {
     ExportChoice choice;
     choice.Format = static_cast<PanelFormat>(m_format->currentIndex());
@@ -112,6 +124,12 @@ void ExportDialog::Plan()
     choice.ShortName = Trim(FromQString(m_shortName->text()));
     for (const QString& name : m_standards->text().split(',', Qt::SkipEmptyParts))
         choice.SizeStandards.push_back(FromQString(name.trimmed()));
+    return choice;
+}
+
+void ExportDialog::Plan()
+{
+    const ExportChoice choice = Choice();
     m_kit->setEnabled(choice.Format == PanelFormat::OsirisKit ||
                       choice.Format == PanelFormat::PanelsBins);
     m_shortName->setEnabled(choice.Format == PanelFormat::KitTable);
@@ -120,9 +138,10 @@ void ExportDialog::Plan()
     m_outlook->clear();
 
     LongWork work(m_store, "Reading the loci...", this);
-    const auto loci = ChosenLoci();
     try
     {
+        const auto loci =
+            LociInScope(m_store, m_scopes.at(static_cast<std::size_t>(m_scope->currentIndex())));
         m_plan = PlanExport(loci, choice, m_store.Dyes(),
                             [&](std::size_t done, std::size_t total) { work.Show(done, total); });
     }
@@ -170,25 +189,17 @@ void ExportDialog::Write(const QString& path, const QString& binsPath)
     LongWork work(m_store, "Exporting the loci...", this);
     const auto show = [&](std::size_t done, std::size_t total) { work.Show(done, total); };
     const bool isPair = m_plan.Choice.Format == PanelFormat::PanelsBins;
-    WriteWholeFile(FromQString(path), [&](std::ostream& out) {
-        if (isPair)
-            WritePanelsFile(out, m_plan);
-        else
-            WriteExport(out, m_plan, show);
-    });
-    if (isPair)
-        WriteWholeFile(FromQString(binsPath),
-                       [&](std::ostream& out) { WriteBinsFile(out, m_plan); });
+    WriteExportFiles(m_plan, {FromQString(path), FromQString(binsPath)}, show);
     m_result = ToQString("Exported " + CountOfLoci(m_plan.Count()) + " to ") +
                QDir::toNativeSeparators(path) +
                (isPair ? " and " + QDir::toNativeSeparators(binsPath) : QString()) + ".";
 }
 
-QString ExportLoci(Store& store, const Actions& actions, QWidget* parent)
+QString ExportLoci(Store& store, const Actions& actions, QWidget* parent, const ShownLoci& shown)
 {
     QString result;
     actions.Run([&] {
-        ExportDialog dialog(store, actions, parent);
+        ExportDialog dialog(store, actions, parent, shown);
         dialog.exec();
         result = dialog.Result();
     });

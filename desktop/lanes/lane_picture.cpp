@@ -1,18 +1,13 @@
 #include "desktop/lanes/lane_picture.h"
 
-#include "core/error.h"
 #include "desktop/common/picture_role.h"
 #include "desktop/common/text.h"
 
 #include <QAccessible>
-#include <QBuffer>
+#include <QApplication>
 #include <QHelpEvent>
-#include <QImage>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QSvgGenerator>
 #include <QToolTip>
 
 #include <algorithm>
@@ -20,83 +15,64 @@
 namespace Tamrivo
 {
 
-namespace
-{
-
-/// For paper, whatever the theme of the desktop.
-QPalette PaperPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
-}
-
-constexpr int tallest = 32767; // What a raster painter can address.
-
-QSize RequireSaveable(QSize size)
-{
-    if (size.height() > tallest)
-        throw Failure(ErrorNumber::InvalidArgument, "LanePicture",
-                      "The picture can't be saved: with so many loci it is too tall. Select fewer "
-                      "loci");
-    return size;
-}
-
-} // namespace
-
 LanePicture::LanePicture(QWidget* parent) : QAbstractScrollArea(parent)
 {
     MarkAsPicture(*this);
     setAccessibleName("Picture of the selected loci along the fragment length");
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
+    m_marks.DetailsOf = [this](std::size_t locus) {
+        const auto known = m_details.find(locus);
+        return known == m_details.end() ? nullptr : &known->second;
+    };
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(60);
+    connect(&m_rest, &QTimer::timeout, this, [this] { LoadDetails(); });
 }
 
 void LanePicture::Show(LaneDrawing drawing)
 {
+    if (drawing.Loci() == m_drawing.Loci())
+        drawing.SetInView(m_drawing.InView());
     m_drawing = std::move(drawing);
-    m_focus.reset();
+    m_marks.Focus.reset();
+    m_marks.Chosen.clear();
     FitScrollBar();
+    ForgetDetails();
+}
+
+void LanePicture::Choose(std::set<std::size_t> loci)
+{
+    m_marks.Chosen = std::move(loci);
     viewport()->update();
 }
 
-QSize LanePicture::WholeSize() const
+void LanePicture::ForgetDetails()
 {
-    return {viewport()->width(),
-            m_drawing.LanesHeight(fontMetrics()) + LaneDrawing::AxisHeight(fontMetrics())};
+    m_details.clear();
+    m_rest.start();
+    viewport()->update();
 }
 
-QByteArray LanePicture::AsPng() const
+void LanePicture::LoadDetails()
 {
-    const QSize size = RequireSaveable(WholeSize());
-    const int scale = 2 * size.height() <= tallest ? 2 : 1;
-    QImage image(size * scale, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.scale(scale, scale);
-    painter.setFont(font());
-    m_drawing.Draw(painter, size, 0, PaperPalette());
-    painter.end();
-    QBuffer buffer;
-    image.save(&buffer, "PNG");
-    return buffer.data();
+    // Where so many bars are in view, none has room for more than its name.
+    constexpr std::size_t mostBars = 200;
+    constexpr std::size_t fewAlleles = 8;
+    const auto bars = Bars();
+    if (!detailsOf || bars.size() > mostBars)
+        return;
+    for (const LaneBar& bar : bars)
+    {
+        if (HasRoomForTicks(bar, fewAlleles) && !m_details.contains(bar.Locus))
+            m_details.emplace(bar.Locus, detailsOf(bar.Locus));
+    }
+    viewport()->update();
 }
 
-QByteArray LanePicture::AsSvg() const
+LanePaper LanePicture::Paper() const
 {
-    const QSize size = RequireSaveable(WholeSize());
-    QBuffer buffer;
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setSize(size);
-    generator.setViewBox(QRect({}, size));
-    generator.setResolution(logicalDpiX());
-    generator.setTitle("Loci along the fragment length");
-    QPainter painter(&generator);
-    painter.setFont(font());
-    m_drawing.Draw(painter, size, 0, PaperPalette());
-    painter.end();
-    return buffer.data();
+    return {m_drawing, m_marks, viewport()->width(), font()};
 }
 
 QSize LanePicture::sizeHint() const
@@ -104,8 +80,9 @@ QSize LanePicture::sizeHint() const
     constexpr int leastRows = 9;
     constexpr int mostRows = 12;
     const int row = LaneDrawing::RowHeight(fontMetrics());
-    const int frame = 2 * frameWidth();
-    return {32 * row, std::clamp(WholeSize().height(), leastRows * row, mostRows * row) + frame};
+    const int height =
+        m_drawing.LanesHeight(fontMetrics()) + LaneDrawing::AxisHeight(fontMetrics());
+    return {32 * row, std::clamp(height, leastRows * row, mostRows * row) + 2 * frameWidth()};
 }
 
 QSize LanePicture::minimumSizeHint() const
@@ -128,7 +105,7 @@ void LanePicture::paintEvent(QPaintEvent* /*event*/)
     if (!m_drawing.Loci().empty())
     {
         m_drawing.Draw(painter, viewport()->size(), verticalScrollBar()->value(), palette(),
-                       m_focus);
+                       m_marks);
         return;
     }
     painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -141,6 +118,14 @@ void LanePicture::resizeEvent(QResizeEvent* event)
 {
     QAbstractScrollArea::resizeEvent(event);
     FitScrollBar();
+    m_rest.start();
+}
+
+void LanePicture::scrollContentsBy(int dx, int dy)
+{
+    QAbstractScrollArea::scrollContentsBy(dx, dy);
+    viewport()->update();
+    m_rest.start();
 }
 
 void LanePicture::changeEvent(QEvent* event)
@@ -157,22 +142,32 @@ std::vector<LaneBar> LanePicture::Bars() const
     return m_drawing.BarsInView(viewport()->size(), verticalScrollBar()->value(), fontMetrics());
 }
 
-QString LanePicture::TipOf(std::size_t position) const
+QString LanePicture::TipOf(std::size_t position)
 {
     const LaneLocus& locus = m_drawing.Loci()[position];
-    QString tip = QString("%1: %2 to %3 nt on dye %4")
+    QString tip = QString("%1: %2 to %3 nt, %4")
                       .arg(ToQString(locus.Tag))
                       .arg(locus.From)
                       .arg(locus.To)
-                      .arg(ToQString(DyeEntry(locus.DyeIndex)));
+                      .arg(ToQString(m_drawing.LabDyes().TitleOf(locus.DyeIndex)));
     if (m_drawing.Overlaps().IsOverlapped[position])
         tip += "\nOverlaps another locus of this dye";
+    if (detailsOf && !m_details.contains(position))
+        m_details.emplace(position, detailsOf(position));
+    if (const LaneDetails* details = m_marks.DetailsOf(position))
+    {
+        if (!details->Alleles.empty())
+            tip += "\nAlleles: " + ToQString(NamesOf(details->Alleles));
+        if (!details->Observed.empty())
+            tip += QString("\nObserved sizes: %L1").arg(details->Observed.size());
+    }
     return tip;
 }
 
 std::optional<std::size_t> LanePicture::LocusAt(QPoint place) const
 {
-    if (place.y() >= viewport()->height() - LaneDrawing::AxisHeight(fontMetrics()))
+    if (place.y() >= viewport()->height() - LaneDrawing::AxisHeight(fontMetrics()) ||
+        place.x() < Axis().X(m_drawing.InView().Low))
         return std::nullopt;
     for (const LaneBar& bar : Bars())
     {
@@ -184,16 +179,6 @@ std::optional<std::size_t> LanePicture::LocusAt(QPoint place) const
 
 bool LanePicture::viewportEvent(QEvent* event)
 {
-    const bool isClick = event->type() == QEvent::MouseButtonPress;
-    if (isClick || event->type() == QEvent::MouseButtonDblClick)
-    {
-        const auto* mouse = static_cast<QMouseEvent*>(event);
-        const auto locus = LocusAt(mouse->position().toPoint());
-        const auto& handler = isClick ? onClicked : onDoubleClicked;
-        if (locus && handler && mouse->button() == Qt::LeftButton)
-            handler(*locus);
-        return QAbstractScrollArea::viewportEvent(event);
-    }
     if (event->type() != QEvent::ToolTip)
         return QAbstractScrollArea::viewportEvent(event);
     const auto* help = static_cast<QHelpEvent*>(event);
@@ -202,33 +187,25 @@ bool LanePicture::viewportEvent(QEvent* event)
     return true;
 }
 
-void LanePicture::keyPressEvent(QKeyEvent* event)
+void LanePicture::Tell(const std::function<void(std::size_t)>& handler,
+                       std::optional<std::size_t> locus)
 {
-    const auto order = m_drawing.InReadingOrder();
-    if (order.empty())
-        return QAbstractScrollArea::keyPressEvent(event);
-    const auto last = std::ssize(order) - 1;
-    const auto at =
-        m_focus ? std::ranges::find(order, *m_focus) - order.begin() : std::ptrdiff_t{-1};
-    std::ptrdiff_t next = 0;
-    switch (event->key())
-    {
-    case Qt::Key_Right: next = at + 1; break;
-    case Qt::Key_Left: next = at - 1; break;
-    case Qt::Key_Home: next = 0; break;
-    case Qt::Key_End: next = last; break;
-    default: return QAbstractScrollArea::keyPressEvent(event);
-    }
-    GoTo(order[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(next, 0, last))]);
+    if (locus && handler)
+        handler(*locus);
 }
 
 void LanePicture::GoTo(std::size_t locus)
 {
-    m_focus = locus;
+    m_marks.Focus = locus;
     const int top = m_drawing.TopOf(locus, fontMetrics());
     const int bottom = top + LaneDrawing::RowHeight(fontMetrics());
     QScrollBar& bar = *verticalScrollBar();
     bar.setValue(std::clamp(bar.value(), bottom - bar.pageStep(), top));
+    const LaneLocus& range = m_drawing.Loci()[locus];
+    const auto [low, high] = m_drawing.InView();
+    if (range.To <= low || range.From >= high)
+        SetInView(
+            {(range.From + range.To - (high - low)) / 2, (range.From + range.To + high - low) / 2});
     viewport()->update();
 
     const QString tip = TipOf(locus);
@@ -245,7 +222,7 @@ void LanePicture::GoTo(std::size_t locus)
 void LanePicture::focusOutEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusOutEvent(event);
-    m_focus.reset();
+    m_marks.Focus.reset();
     viewport()->update();
 }
 

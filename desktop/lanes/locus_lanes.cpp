@@ -5,6 +5,9 @@
 #include "desktop/common/save_file.h"
 #include "desktop/common/text.h"
 #include "desktop/lanes/lane_picture.h"
+#include "host/fit/observed_sizes.h"
+#include "host/loci/keys.h"
+#include "host/panels/panel_files.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -13,6 +16,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScopeGuard>
 #include <QVBoxLayout>
 
@@ -57,6 +62,7 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
         if (onClicked)
             onClicked(m_picture->Drawing().Loci()[locus].Tag);
     };
+    m_picture->detailsOf = [this](std::size_t locus) { return DetailsOf(locus); };
     m_picture->onDoubleClicked = [this](std::size_t locus) {
         if (onDoubleClicked)
             onDoubleClicked(m_picture->Drawing().Loci()[locus].Tag);
@@ -72,11 +78,92 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
 void LocusLanes::SetLoci(std::vector<LaneLocus> loci, Dyes dyes)
 {
     LocusOverlaps overlaps = FindOverlaps(loci, mostListed);
-    ShowOverlaps(overlaps, loci);
+    ShowOverlaps(overlaps, loci, dyes);
+    m_canLoad = true;
     m_picture->Show({std::move(loci), std::move(overlaps), std::move(dyes)});
+    MarkChosen();
 }
 
-void LocusLanes::ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<LaneLocus>& loci)
+void LocusLanes::SetChosen(const std::vector<std::string>& tags)
+{
+    m_chosen = {tags.begin(), tags.end()};
+    MarkChosen();
+}
+
+void LocusLanes::MarkChosen()
+{
+    const auto& loci = m_picture->Drawing().Loci();
+    std::set<std::size_t> positions;
+    for (std::size_t at = 0; at < loci.size(); ++at)
+    {
+        if (m_chosen.contains(loci[at].Tag))
+            positions.insert(at);
+    }
+    m_picture->Choose(std::move(positions));
+}
+
+LaneDetails LocusLanes::DetailsOf(std::size_t locus)
+{
+    const std::string& tag = m_picture->Drawing().Loci()[locus].Tag;
+    LaneDetails details;
+    if (const auto observed = m_observed.find(LookupKey(tag)); observed != m_observed.end())
+        details.Observed = observed->second;
+    if (!allelesOf || !m_canLoad)
+        return details;
+    // One message is enough when the store doesn't answer.
+    m_canLoad = false;
+    m_actions.Run([&] {
+        details.Alleles = allelesOf(tag);
+        m_canLoad = true;
+    });
+    return details;
+}
+
+void LocusLanes::ShowObserved(const QString& path)
+{
+    const PanelText text = LoadPanelFile(FromQString(path));
+    const ObservedTable table = ReadObservedTable(text.Text, text.Name);
+    m_observed.clear();
+    for (const auto& [marker, lines] : table.LinesOfMarker())
+    {
+        std::vector<double>& sizes = m_observed[marker];
+        for (const std::size_t line : lines)
+            sizes.insert(sizes.end(), table.Lines[line].Sizes.begin(),
+                         table.Lines[line].Sizes.end());
+    }
+    m_picture->ForgetDetails();
+}
+
+void LocusLanes::HideObserved()
+{
+    m_observed.clear();
+    m_picture->ForgetDetails();
+}
+
+void LocusLanes::ChooseObserved()
+{
+    m_actions.Run([this] {
+        const QString path = QFileDialog::getOpenFileName(
+            this, "Show Observed Sizes", {}, "Tables (*.tsv *.txt *.csv);;All files (*)");
+        if (!path.isEmpty())
+            ShowObserved(path);
+    });
+}
+
+void LocusLanes::PrintPicture()
+{
+    m_actions.Run([this] {
+        QPrinter printer;
+        printer.setPageOrientation(QPageLayout::Landscape);
+        printer.setDocName("Loci along the fragment length");
+        QPrintDialog dialog(&printer, this);
+        if (dialog.exec() == QDialog::Accepted)
+            PrintLanes(m_picture->Paper(), printer);
+    });
+}
+
+void LocusLanes::ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<LaneLocus>& loci,
+                              const Dyes& dyes)
 {
     const QString summary = SummaryOf(overlaps, loci.size());
     m_summary->setText(summary);
@@ -85,7 +172,7 @@ void LocusLanes::ShowOverlaps(const LocusOverlaps& overlaps, const std::vector<L
 
     QStringList lines;
     for (const LocusOverlap& overlap : overlaps.Listed)
-        lines.append(ToQString(Describe(overlap, loci) + "."));
+        lines.append(ToQString(Describe(overlap, loci, dyes) + "."));
     if (overlaps.Count > overlaps.Listed.size())
         lines.append(QString("And %L1 more.").arg(overlaps.Count - overlaps.Listed.size()));
     m_list->setPlainText(lines.join('\n'));
@@ -123,7 +210,8 @@ void LocusLanes::SavePictureAs()
 void LocusLanes::SavePicture(const QString& path) const
 {
     const bool isSvg = path.endsWith(".svg", Qt::CaseInsensitive);
-    SaveFile(path, isSvg ? m_picture->AsSvg() : m_picture->AsPng());
+    const LanePaper paper = m_picture->Paper();
+    SaveFile(path, isSvg ? AsSvg(paper, m_picture->logicalDpiX()) : AsPng(paper));
 }
 
 void LocusLanes::changeEvent(QEvent* event)
@@ -136,9 +224,22 @@ void LocusLanes::changeEvent(QEvent* event)
 void LocusLanes::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu menu(this);
-    QAction* save = menu.addAction(ThemeIcon("document-save"), "&Save Picture As...", this,
-                                   [this] { SavePictureAs(); });
-    save->setEnabled(!m_picture->Drawing().Loci().empty());
+    const auto add = [&menu](const char* icon, const QString& text, std::function<void()> act) {
+        return menu.addAction(ThemeIcon(icon), text, &menu, std::move(act));
+    };
+    QList<QAction*> ofPicture = {
+        add("zoom-in", "Zoom &In\t+", [this] { m_picture->ZoomIn(); }),
+        add("zoom-out", "Zoom &Out\t-", [this] { m_picture->ZoomOut(); }),
+        add("zoom-fit-best", "Show &All Lengths\t0", [this] { m_picture->ShowAllLengths(); })};
+    menu.addSeparator();
+    ofPicture += add("", "Show O&bserved Sizes...", [this] { ChooseObserved(); });
+    if (!m_observed.empty())
+        add("", "&Hide Observed Sizes", [this] { HideObserved(); });
+    menu.addSeparator();
+    ofPicture += add("document-save", "&Save Picture As...", [this] { SavePictureAs(); });
+    ofPicture += add("document-print", "&Print Picture...", [this] { PrintPicture(); });
+    for (QAction* action : ofPicture)
+        action->setEnabled(!m_picture->Drawing().Loci().empty());
     menu.exec(event->globalPos());
 }
 

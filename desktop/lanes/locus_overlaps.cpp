@@ -94,11 +94,12 @@ LocusOverlaps FindOverlaps(const std::vector<LaneLocus>& loci, std::size_t most)
     return overlaps;
 }
 
-std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& loci)
+std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& loci,
+                     const Dyes& dyes)
 {
     return loci[overlap.First].Tag + " and " + loci[overlap.Second].Tag + " overlap from " +
-           std::to_string(overlap.From) + " to " + std::to_string(overlap.To) + " nt on dye " +
-           DyeEntry(loci[overlap.First].DyeIndex) + ": they can't be told apart in one run";
+           std::to_string(overlap.From) + " to " + std::to_string(overlap.To) + " nt in " +
+           dyes.TitleOf(loci[overlap.First].DyeIndex) + ": they can't be told apart in one run";
 }
 
 } // namespace Tamrivo

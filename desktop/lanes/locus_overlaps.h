@@ -8,6 +8,8 @@
 namespace Tamrivo
 {
 
+class Dyes;
+
 /// A locus as the picture of the lanes shows it.
 struct LaneLocus
 {
@@ -15,6 +17,8 @@ struct LaneLocus
     std::int32_t DyeIndex = 0; ///< Position in the list of dyes, from 0.
     std::int32_t From = 0;     ///< Start of the fragment length range, nt.
     std::int32_t To = 0;       ///< End of the range, nt; not before `From`.
+
+    bool operator==(const LaneLocus&) const = default;
 };
 
 /// Two loci of one dye, as positions in the list of loci, and the lengths that both may have.
@@ -50,7 +54,8 @@ struct LocusOverlaps
 /// @param most how many pairs are listed at most
 LocusOverlaps FindOverlaps(const std::vector<LaneLocus>& loci, std::size_t most);
 
-/// "D3S1358 and TH01 overlap from 148 to 150 nt on dye D1: they can't be told apart in one run".
-std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& loci);
+/// "D3S1358 and TH01 overlap from 148 to 150 nt in blue: they can't be told apart in one run".
+std::string Describe(const LocusOverlap& overlap, const std::vector<LaneLocus>& loci,
+                     const Dyes& dyes);
 
 } // namespace Tamrivo

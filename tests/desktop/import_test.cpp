@@ -4,6 +4,8 @@
 #include "desktop/import/export_dialog.h"
 #include "desktop/import/import_dialog.h"
 #include "desktop/window/dyes_dialog.h"
+#include "host/panels/panel_files.h"
+#include "host/store/parameter_store.h"
 #include "host/store/store.h"
 
 #include <QAbstractItemModel>
@@ -256,6 +258,40 @@ TEST_F(ImportDialogTest, AddsDyesAndUpdatesLociThatDiffer)
     dialog.Write(m_directory.filePath("p.txt"), m_directory.filePath("b.txt"));
     m_dialog.Preview({m_directory.filePath("b.txt"), m_directory.filePath("p.txt")});
     EXPECT_EQ(Cell(0, 1, "What happens"), "In the store already");
+}
+
+TEST_F(ImportDialogTest, ExportsTheChosenOrThoseOfAParameterOrAPanel)
+{
+    Preview(d3 + d3OfQ);
+    QTest::mouseClick(&ImportButton(), Qt::LeftButton);
+    ParameterStore parameters(m_store);
+    const auto casework = parameters.Create("Casework", TagLists::OneEmpty);
+    const auto entry = parameters.NewEntry();
+    entry->SetTagName("D3S1358 (Q)");
+    entry->Load();
+    casework->FragAnalysisParam().LocusTagList(0).Add(entry);
+    parameters.Save(*casework);
+
+    ExportDialog dialog(m_store, m_actions, nullptr,
+                        {.Chosen = {"D3S1358 (P)"}, .Parameter = "Casework"});
+    auto& scope = *dialog.findChild<QComboBox*>("exportScope");
+    QStringList offered;
+    for (int at = 0; at < scope.count(); ++at)
+        offered.append(scope.itemText(at));
+    EXPECT_EQ(offered.join(", ").toStdString(),
+              "The chosen 1 locus, Parameter Casework, All current loci, Panel P, Panel Q");
+    EXPECT_EQ(scope.currentIndex(), 1);
+    std::string markers;
+    for (int at = 0; at < scope.count(); ++at)
+    {
+        scope.setCurrentIndex(at);
+        dialog.Write(m_directory.filePath("out.tsv"));
+        const PanelFile file = OpenPanelFile(FromQString(m_directory.filePath("out.tsv")));
+        for (const PanelMarker& marker : ReadPanels({&file, 1}).Markers)
+            markers += marker.Panel;
+        markers += " ";
+    }
+    EXPECT_EQ(markers, "P Q PQ P Q ");
 }
 
 TEST_F(ImportDialogTest, StorePropertiesHaveTheDyes)

@@ -7,9 +7,11 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QPdfWriter>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -113,8 +115,8 @@ TEST(LocusOverlaps, AreCountedBeyondWhatIsListed)
 
 TEST(LocusOverlaps, AreToldInWords)
 {
-    EXPECT_EQ(Describe(FindOverlaps(threeLoci, 50).Listed.at(0), threeLoci),
-              "D3S1358 and TH01 overlap from 148 to 150 nt on dye D1: they can't be told apart in "
+    EXPECT_EQ(Describe(FindOverlaps(threeLoci, 50).Listed.at(0), threeLoci, {}),
+              "D3S1358 and TH01 overlap from 148 to 150 nt in blue: they can't be told apart in "
               "one run");
 }
 
@@ -235,6 +237,83 @@ TEST_F(LocusLanesTest, SavesThePicture)
     EXPECT_THAT(refusal("none/loci.png"), HasSubstr("none/loci.png\" can't be written: "));
     m_lanes.SetLoci(std::vector<LaneLocus>(5000, threeLoci[0]));
     EXPECT_THAT(refusal("tall.svg"), HasSubstr("too tall"));
+}
+
+TEST_F(LocusLanesTest, ZoomsAndMovesAndKeepsWhatIsInView)
+{
+    m_lanes.SetLoci(threeLoci);
+    LanePicture& picture = Picture();
+    const auto span = [&picture] {
+        return picture.Drawing().InView().High - picture.Drawing().InView().Low;
+    };
+    const double whole = span();
+    QTest::keyClick(&picture, Qt::Key_Plus);
+    QTest::keyClick(&picture, Qt::Key_Plus);
+    EXPECT_NEAR(span(), whole / 1.25 / 1.25, 1e-6);
+    const double low = picture.Drawing().InView().Low;
+    QTest::keyClick(&picture, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_GT(picture.Drawing().InView().Low, low);
+    m_lanes.SetLoci(threeLoci);
+    EXPECT_LT(span(), whole);
+
+    // Dragging moves the lengths and chooses nothing; a click chooses.
+    std::vector<std::string> clicked;
+    m_lanes.onClicked = [&clicked](const std::string& tag) { clicked.push_back(tag); };
+    const double before = picture.Drawing().InView().Low;
+    const QPoint place(picture.viewport()->width() / 2, 20);
+    QTest::mousePress(picture.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseMove(picture.viewport(), place + QPoint(60, 0));
+    QTest::mouseRelease(picture.viewport(), Qt::LeftButton, {}, place + QPoint(60, 0));
+    EXPECT_LT(picture.Drawing().InView().Low, before);
+    EXPECT_TRUE(clicked.empty());
+    QTest::keyClick(&picture, Qt::Key_0);
+    EXPECT_NEAR(span(), whole, 1e-6);
+    QTest::keyClick(&picture, Qt::Key_Home);
+    QTest::keyClick(&picture, Qt::Key_Space);
+    EXPECT_EQ(clicked, std::vector<std::string>{"D3S1358"});
+    // A range that is left behind comes back into view with the keys.
+    picture.SetInView({92, 100});
+    QTest::keyClick(&picture, Qt::Key_End);
+    EXPECT_LT(picture.Drawing().InView().Low, 180);
+    EXPECT_GT(picture.Drawing().InView().High, 100);
+}
+
+TEST_F(LocusLanesTest, ShowsAllelesAndObservedSizesWhereThereIsRoom)
+{
+    m_lanes.allelesOf = [](const std::string&) {
+        return std::vector<LaneAllele>{{"8", 95}, {"9", 99}, {"9.3", 102}};
+    };
+    m_lanes.SetLoci(threeLoci);
+    QFile table(Path("sizes.tsv"));
+    ASSERT_TRUE(table.open(QIODevice::WriteOnly));
+    table.write("Sample\tMarker\tSize\nS\td3s1358\t95.1\nS\tD3S1358\t99.2,99.4\n");
+    table.close();
+    LanePicture& picture = Picture();
+    const auto drawn = [&picture] { return picture.viewport()->grab().toImage(); };
+    const QImage bare = drawn();
+    QTest::qWait(100);
+    const QImage withAlleles = drawn();
+    EXPECT_NE(withAlleles, bare);
+    m_lanes.ShowObserved(Path("sizes.tsv"));
+    QTest::qWait(100);
+    const QImage withSizes = drawn();
+    EXPECT_NE(withSizes, withAlleles);
+    m_lanes.SetChosen({"FGA"});
+    EXPECT_NE(drawn(), withSizes);
+    QTest::keyClick(&picture, Qt::Key_Home);
+    EXPECT_EQ(picture.accessibleDescription().toStdString(),
+              "D3S1358: 92 to 150 nt, blue\nOverlaps another locus of this dye\n"
+              "Alleles: 8, 9, 9.3\nObserved sizes: 3");
+}
+
+TEST_F(LocusLanesTest, PrintsOnAsManyPagesAsTheRowsNeed)
+{
+    m_lanes.SetLoci(std::vector<LaneLocus>(200, threeLoci[0]));
+    QPdfWriter pdf(Path("loci.pdf"));
+    PrintLanes(Picture().Paper(), pdf);
+    QFile file(Path("loci.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_GT(file.readAll().count("/Type /Page\n"), 3);
 }
 
 } // namespace

@@ -91,6 +91,7 @@ void AddChoiceOfLoci(CLI::App& command, ExportOptions& options)
         ->type_name("TAG")
         ->expected(1)
         ->take_all()
+        ->allow_extra_args(false)
         ->excludes(parameter)
         ->excludes(panel);
     parameter->excludes(panel);
@@ -118,7 +119,8 @@ void AddFormatOptions(CLI::App& command, ExportOptions& options)
                     "A size standard of a kit file, as OSIRIS has it; may be given several times")
         ->type_name("NAME")
         ->expected(1)
-        ->take_all();
+        ->take_all()
+        ->allow_extra_args(false);
     command
         .add_option(
             "--short-name", options.Choice.ShortName,

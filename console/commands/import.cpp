@@ -201,7 +201,8 @@ void AddReadingOptions(CLI::App& command, ImportOptions& options)
                     "be given several times")
         ->type_name("NAME")
         ->expected(1)
-        ->take_all();
+        ->take_all()
+        ->allow_extra_args(false);
     command
         .add_option("--bins", options.Read.BinSet,
                     "The set of bins to take, by its BinSet Name, where a panel has several")

@@ -80,6 +80,7 @@ constexpr Loss losses[] = {
      [](const ExportedMarker& marker) {
          return !std::ranges::all_of(marker.Alleles, IsWhole, &AlleleFields::AlleleReal1);
      }},
+    {"sizes that their names don't give", true, HasSizeFarFromName},
     {"virtual alleles", true,
      [](const ExportedMarker& marker) { return marker.Ladder().size() < marker.Alleles.size(); }},
     {"names that are no numbers", true,

@@ -153,7 +153,11 @@ private:
         {
             for (PanelComplaint flaw : marker.Flaws)
             {
-                flaw.File.clear();
+                // What the planned locus says itself needs no second time.
+                if (flaw.File == planned.File)
+                    flaw.File.clear();
+                if (flaw.File.empty() && flaw.Column.empty() && flaw.Line == planned.Line)
+                    flaw.Line = 0;
                 planned.Obstacles.push_back(flaw.Text());
             }
         }
@@ -177,6 +181,7 @@ private:
     void CheckWhatFits(const PanelMarker& marker, PlannedLocus& planned)
     {
         CheckDye(marker, planned);
+        CheckSizes(marker, planned);
         std::ranges::move(MisfitsOf(planned.Fields), std::back_inserter(planned.Obstacles));
         std::ranges::move(m_tags.Take(marker, planned.Tag), std::back_inserter(planned.Obstacles));
         if (planned.Fate == ImportFate::Changed && !m_choice.Update && planned.Obstacles.empty())
@@ -184,6 +189,22 @@ private:
                                         "\" that differs in: " + NamesOf(planned.Differences) +
                                         ". Update it from the file, delete it or give it another "
                                         "tag");
+    }
+
+    /// Sizes that no instrument can show are mistakes. What this program has written comes back.
+    static void CheckSizes(const PanelMarker& marker, PlannedLocus& planned)
+    {
+        constexpr double largest = 10'000;
+        const auto isPast = [](double size) { return size < -largest || size > largest; };
+        if (!marker.FieldCells.empty())
+            return;
+        for (const AlleleFields& allele : marker.Alleles)
+        {
+            if (isPast(allele.AlleleReal1) || isPast(allele.AlleleReal2) ||
+                isPast(allele.AlleleReal3))
+                return planned.Obstacles.push_back("The allele " + QuotedCell(allele.AlleleText1) +
+                                                   " has a size or a bin past 10000 nt");
+        }
     }
 
     void CheckDye(const PanelMarker& marker, PlannedLocus& planned) const

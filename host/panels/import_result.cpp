@@ -29,8 +29,6 @@ constexpr KindOfRemark kindsOfRemark[] = {
      "alleles of the ladder have no bins and were left out"},
     {"bin is neither virtual nor of an allele in the ladder",
      "bins are neither virtual nor of an allele in the ladder"},
-    {"marker of the bins stands in no panel and was left out",
-     "markers of the bins stand in no panel and were left out"},
 };
 
 } // namespace

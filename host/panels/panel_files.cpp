@@ -44,9 +44,9 @@ public:
         case PanelFormat::OsirisKit: Add(ReadOsirisKit(source, m_choice.Interval), name); break;
         case PanelFormat::PanelsBins:
             if (IsBins(head))
-                m_binsFiles.push_back(ReadBinsFile(source, file.Name));
+                m_binsFiles.push_back(ReadBinsFile(source, name));
             else
-                m_panelsFiles.push_back(ReadPanelsFile(source, file.Name));
+                m_panelsFiles.push_back(ReadPanelsFile(source, name));
             break;
         }
     }

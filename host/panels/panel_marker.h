@@ -37,7 +37,6 @@ enum class RemarkKind
     SizeOutsideBin,    ///< An allele.
     LadderWithoutBin,  ///< An allele of the ladder.
     BinOutsideLadder,  ///< A bin that is neither virtual nor of the ladder.
-    BinsWithoutMarker, ///< A marker of the bins that the panel doesn't have.
 };
 
 /// Something noteworthy about what was read or planned; people get one sentence for all of a kind.

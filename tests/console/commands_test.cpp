@@ -130,6 +130,9 @@ TEST_F(Commands, ExchangeLociWithOtherPrograms)
     EXPECT_EQ(Run({"export", "--format", "kit-table", "--tag", "SE33"}), 0);
     EXPECT_THAT(m_out, HasSubstr("\tQ\tQ\tFALSE\tFALSE\tFALSE\n"));
     EXPECT_EQ(Run({"export", "--format", "osiris-kit"}), 1);
+    // A name that may come several times leaves the file alone.
+    EXPECT_EQ(Run({"export", "--format", "kit-table", "--tag", "SE33", Path("kit.txt")}), 0);
+    EXPECT_EQ(Run({"import", "--dry-run", "--panel", "Q", Path("kit.txt")}), 0);
     EXPECT_EQ(Run({"export", "--format", "panels-bins"}), 2);
 }
 

@@ -141,6 +141,9 @@ TEST(Formats, PanelsAndBinsArePutTogether)
     const PanelReading cut = Read({panels, Bins("S", "P1").substr(0, 131)});
     ASSERT_THAT(cut.Markers, SizeIs(2));
     EXPECT_THAT(cut.Markers[0].Flaws, testing::Not(IsEmpty()));
+    const PanelReading less = Read({panels.substr(0, panels.find("AMEL")), Bins("S", "P1")});
+    ASSERT_THAT(less.Markers, SizeIs(2));
+    EXPECT_THAT(less.Markers[1].Flaws[0].Text(), HasSubstr("no marker of this name"));
 }
 
 TEST(Formats, AKitFileGivesNominalLoci)
@@ -176,7 +179,7 @@ TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
              {"<KitData>" + std::string(16'000'000, ' '), "larger than"},
              {columns + std::string(1'000'001, 'x') + "\n", "longer than a million bytes"},
              {columns + std::string(100'000, '\n') + "P\0"s, "zero byte"},
-             {"<!DOCTYPE a [<!ENTITY b \"bb\">]><KitData>&b;</KitData>"s, "no loci"},
+             {"<!DOCTYPE a [<!ENTITY b \"bb\">]><KitData>&b;</KitData>"s, "declares entities"},
          })
     {
         const PanelReading reading = Read({text});

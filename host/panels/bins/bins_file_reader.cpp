@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr std::size_t usualAlleles = 32;
+constexpr std::size_t fewestCells = 4;
 
 /// A limit of a bin from the allele's size and the distance to it, without the noise of binary
 /// fractions: 93.47 - 0.5 is 92.97.
@@ -90,6 +91,13 @@ private:
         if (!IsPrintableText(allele.AlleleText1))
             marker.Flaws.push_back({m_read.File, m_lines.Number(), "1",
                                     QuotedCell(allele.AlleleText1) + " has a control character"});
+        if (m_lines.Cells().size() < fewestCells)
+            return marker.Flaws.push_back(
+                {m_read.File,
+                 m_lines.Number(),
+                 {},
+                 "The line of the allele " + QuotedCell(allele.AlleleText1) +
+                     " ends before its size and its limits; the file may have been cut off here"});
         allele.AlleleReal1 = Number(marker, 1, "a size");
         allele.AlleleReal2 =
             Limit(allele.AlleleReal1, -Number(marker, 2, "the distance to the bin's left limit"));

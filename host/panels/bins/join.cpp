@@ -53,7 +53,7 @@ public:
                 for (PanelsMarker& marker : file.Markers)
                     AddMarker(marker);
             }
-            RemarkOnBinsWithoutMarker();
+            AddBinsWithoutMarker();
         }
         return std::move(m_reading);
     }
@@ -206,17 +206,27 @@ private:
         }
     }
 
-    void RemarkOnBinsWithoutMarker()
+    /// Bins of markers that their panel doesn't have keep nothing else out.
+    void AddBinsWithoutMarker()
     {
         for (const auto& [key, bins] : m_bins)
         {
-            for (const auto& [name, marker] : bins.Markers)
+            if (!m_panelNames.contains(key))
+                continue;
+            for (const auto& [name, read] : bins.Markers)
             {
-                if (!m_used.contains(marker))
-                    m_reading.Remarks.push_back(
-                        {RemarkKind::BinsWithoutMarker, bins.File + ", line " +
-                                                            std::to_string(marker->Line) + ": " +
-                                                            marker->Marker + " of " + bins.Name});
+                if (m_used.contains(read))
+                    continue;
+                PanelMarker& marker = m_reading.Markers.emplace_back();
+                marker.File = bins.File;
+                marker.Line = read->Line;
+                marker.Panel = bins.Name;
+                marker.Marker = read->Marker;
+                marker.Flaws.push_back({bins.File,
+                                        read->Line,
+                                        {},
+                                        "The panels file has no marker of this name; it may have "
+                                        "been cut off"});
             }
         }
     }

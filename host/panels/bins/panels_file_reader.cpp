@@ -11,7 +11,8 @@ namespace Tamrivo
 namespace
 {
 
-constexpr std::size_t fewestCells = 7;
+constexpr std::size_t cellsBeforeLadder = 7;
+constexpr std::size_t cellsOfMarker = 6;
 
 /// Names between commas; one may stand at the end.
 std::vector<std::string> SplitNames(std::string_view list)
@@ -88,6 +89,13 @@ private:
         marker.Marker = BinsCell(cells[0]);
         if (!IsPrintableText(marker.Marker) || !IsPrintableText(marker.Panel))
             AddFlaw(marker, 0, "names without control characters");
+        if (cells.size() < cellsOfMarker)
+            return marker.Flaws.push_back(
+                {m_read.File,
+                 m_lines.Number(),
+                 {},
+                 "The line ends before the length of the repeat unit; the file may have been cut "
+                 "off here"});
         marker.Color = BinsCell(m_lines.Cell(1));
         if (marker.Color.empty())
             AddFlaw(marker, 1, "the colour of a dye");
@@ -103,7 +111,7 @@ private:
         const auto last = std::find_if(cells.rbegin(), cells.rend(), [](std::string_view cell) {
             return !BinsCell(cell).empty();
         });
-        if (static_cast<std::size_t>(cells.rend() - last) > fewestCells)
+        if (static_cast<std::size_t>(cells.rend() - last) > cellsBeforeLadder)
             read.Ladder = SplitNames(*last);
     }
 

@@ -28,6 +28,11 @@ std::string ValueOf(const pugi::xml_node& node, const char* name)
 
 constexpr std::size_t largestKit = 16'000'000; // Bytes; the largest real one has 200,000.
 
+bool IsDocumentType(const pugi::xml_node& node)
+{
+    return node.type() == pugi::node_doctype;
+}
+
 /// Where characters of a text stand. Places are asked for in the text's order, as a rule.
 class TextPlaces
 {
@@ -90,8 +95,9 @@ private:
     void Parse()
     {
         pugi::xml_document document;
-        const pugi::xml_parse_result result = document.load_buffer(
-            m_text.data(), m_text.size(), pugi::parse_default, pugi::encoding_utf8);
+        const pugi::xml_parse_result result =
+            document.load_buffer(m_text.data(), m_text.size(),
+                                 pugi::parse_default | pugi::parse_doctype, pugi::encoding_utf8);
         const pugi::xml_node root = document.child("KitData");
         if (!result)
         {
@@ -99,6 +105,9 @@ private:
                      "); the file may have been cut off");
             SetPlace(m_reading.Complaints.back(), result.offset);
         }
+        else if (std::ranges::any_of(document, &IsDocumentType))
+            Complain("The XML declares entities or a document type, which no kit file of OSIRIS "
+                     "does");
         else if (!root)
             Complain("The XML is no kit file of OSIRIS: its root is <" +
                      std::string(document.document_element().name()) + ">; expected <KitData>");

@@ -68,6 +68,13 @@ public:
     double FirstSize() const { return m_ladder.front()->AlleleReal1; }
     double LastSize() const { return m_ladder.back()->AlleleReal1; }
 
+    bool HasSizeFarFromName() const
+    {
+        return std::ranges::any_of(m_ladder, [this](const AlleleFields* allele) {
+            return std::abs(BasePairs(*allele) - allele->AlleleReal1) > m_core + 0.5;
+        });
+    }
+
     double MinGrid; ///< nt
     double MaxGrid; ///< nt
 
@@ -197,6 +204,11 @@ bool HasTwoOfOneKitName(const ExportedMarker& marker)
     return std::ranges::any_of(marker.Ladder(), [&names](const AlleleFields* allele) {
         return !names.insert(KitAlleleName(*allele)).second;
     });
+}
+
+bool HasSizeFarFromName(const ExportedMarker& marker)
+{
+    return KitLocus(marker).HasSizeFarFromName();
 }
 
 void WriteOsirisKit(std::ostream& out, const ExportPlan& plan)

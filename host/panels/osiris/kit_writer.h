@@ -14,6 +14,9 @@ void WriteOsirisKit(std::ostream& out, const ExportPlan& plan);
 
 /// Whether the text needs no entities.
 bool IsPlainXml(std::string_view text);
+/// Whether an allele in the ladder has a size that is more than a repeat away from the one that the
+/// file gives it by its name.
+bool HasSizeFarFromName(const ExportedMarker& marker);
 /// Whether two alleles in the ladder would get one name.
 bool HasTwoOfOneKitName(const ExportedMarker& marker);
 

@@ -15,6 +15,11 @@ namespace Tamrivo
 namespace
 {
 
+std::string CountOfCells(std::size_t count)
+{
+    return std::to_string(count) + (count == 1 ? " cell" : " cells");
+}
+
 class PanelTableReader
 {
 public:
@@ -22,15 +27,20 @@ public:
 
     PanelReading Read()
     {
-        if (m_lines.Next() && ReadHeader())
+        if (!m_lines.Next())
+        {
+            Complain(m_lines.Problem().empty()
+                         ? "The table is empty; expected a line with the names of the columns"
+                         : std::string(m_lines.Problem()));
+            return std::move(m_reading);
+        }
+        if (ReadHeader())
         {
             while (m_reading.Complaints.size() < MaxPanelComplaints && m_lines.Next())
                 ReadRow();
         }
         if (!m_lines.Problem().empty())
             Complain(std::string(m_lines.Problem()));
-        else if (m_lines.Number() == 0)
-            Complain("The table is empty; expected a line with the names of the columns");
         return std::move(m_reading);
     }
 
@@ -58,36 +68,55 @@ private:
 
     void ReadRow()
     {
-        PanelMarker& marker = MarkerOfRow();
-        const std::size_t expected = m_header.ColumnCount();
-        for (std::size_t position = expected; position < m_lines.Cells().size(); ++position)
+        const Group* group = GroupOfRow();
+        if (group != nullptr && !HasAllOfMarker())
+            return AddCountFlaw(m_reading.Markers[group->Index],
+                                "; the file may have been cut off here");
+        PanelMarker& marker = group != nullptr ? Agreeing(*group) : ReadMarker();
+        for (std::size_t at = m_header.ColumnCount(); at < m_lines.Cells().size(); ++at)
         {
-            if (!m_lines.Cell(position).empty())
-                return m_row.AddFlaw(marker, "",
-                                     "The line has " + std::to_string(m_lines.Cells().size()) +
-                                         " cells; expected " + std::to_string(expected) +
-                                         ", one for each name in the first line");
+            if (!m_lines.Cell(at).empty())
+                return AddCountFlaw(marker, ", one for each name in the first line");
         }
         ReadAllele(marker);
     }
 
-    PanelMarker& MarkerOfRow()
+    void AddCountFlaw(PanelMarker& marker, const std::string& end) const
+    {
+        m_row.AddFlaw(marker, "",
+                      "The line has " + CountOfCells(m_lines.Cells().size()) + "; expected " +
+                          std::to_string(m_header.ColumnCount()) + end);
+    }
+
+    /// Whether the line reaches to what every line of a marker must state.
+    bool HasAllOfMarker() const
+    {
+        constexpr PanelColumn columns[] = {PanelColumn::Color, PanelColumn::Repeat,
+                                           PanelColumn::MarkerMin, PanelColumn::MarkerMax};
+        return std::ranges::all_of(columns, [this](PanelColumn column) {
+            return m_header.PositionOf(column) < m_lines.Cells().size();
+        });
+    }
+
+    /// The group of the line's marker; null for a marker that begins with this line, for which
+    /// there is one from now on.
+    const Group* GroupOfRow()
     {
         // The lines of a marker stand together, as a rule.
         if (m_last != nullptr && m_last->FirstCells.size() == m_lines.Cells().size() &&
             IsSame(PanelColumn::Panel) && IsSame(PanelColumn::Marker) &&
             IsSame(PanelColumn::LocusTag))
-            return Agreeing(*m_last);
+            return m_last;
         const auto [found, isNew] = m_groups.try_emplace(
             GroupKey(m_row.Cell(PanelColumn::Panel), m_row.Cell(PanelColumn::Marker),
                      m_row.Cell(PanelColumn::LocusTag)));
         Group& group = found->second;
         m_last = &group;
         if (!isNew)
-            return Agreeing(group);
+            return &group;
         group.Index = m_reading.Markers.size();
         group.FirstCells.assign(m_lines.Cells().begin(), m_lines.Cells().end());
-        return ReadMarker();
+        return nullptr;
     }
 
     bool IsSame(PanelColumn column) const

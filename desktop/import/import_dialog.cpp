@@ -16,7 +16,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -283,23 +282,6 @@ void ImportDialog::Import()
     }
     m_result = ResultOf(m_preview->Plan());
     accept();
-}
-
-QString ImportPanelFiles(Store& store, const Actions& actions, QWidget* parent, QStringList paths)
-{
-    QString result;
-    actions.Run([&] {
-        if (paths.isEmpty())
-            paths = QFileDialog::getOpenFileNames(parent, "Import Panels", {},
-                                                  "Panel files (*.tsv *.txt *.xml);;All files (*)");
-        if (paths.isEmpty())
-            return;
-        ImportDialog dialog(store, actions, parent);
-        dialog.Preview(paths);
-        dialog.exec();
-        result = dialog.Result();
-    });
-    return result;
 }
 
 } // namespace Tamrivo

@@ -23,12 +23,6 @@ ImportOptions::ImportOptions(QWidget* parent)
       m_addDyes(new QCheckBox("&Add the dyes that are missing to the store", this)),
       m_update(new QCheckBox("&Update the loci that differ", this))
 {
-    auto* formatCaption = new QLabel("&Format:", this);
-    formatCaption->setBuddy(m_format);
-    m_format->setObjectName("importFormat");
-    m_format->setAccessibleName("Format");
-    m_format->addItem("As their content tells");
-    m_format->addItems(FormatTitles());
     m_binsCaption->setBuddy(m_bins);
     m_bins->setObjectName("importBins");
     m_bins->setAccessibleName("Set of bins");
@@ -38,8 +32,7 @@ ImportOptions::ImportOptions(QWidget* parent)
                          "the files can't carry stays.");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(formatCaption);
-    row->addWidget(m_format);
+    AddFormat(*row);
     row->addWidget(m_binsCaption);
     row->addWidget(m_bins);
     row->addWidget(m_addDyes);
@@ -58,6 +51,18 @@ ImportOptions::ImportOptions(QWidget* parent)
         });
     OfferBinSets({});
     ShowPlan({});
+}
+
+void ImportOptions::AddFormat(QBoxLayout& row)
+{
+    auto* caption = new QLabel("&Format:", this);
+    caption->setBuddy(m_format);
+    m_format->setObjectName("importFormat");
+    m_format->setAccessibleName("Format");
+    m_format->addItem("As their content tells");
+    m_format->addItems(FormatTitles());
+    row.addWidget(caption);
+    row.addWidget(m_format);
 }
 
 void ImportOptions::OfferBinSets(const std::vector<std::string>& names)

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -39,6 +40,8 @@ public:
     std::function<void()> onPlan;    ///< Dyes or updates have been ticked, or no longer.
 
 private:
+    void AddFormat(QBoxLayout& row);
+
     QComboBox* m_format;
     QLabel* m_binsCaption;
     QComboBox* m_bins;

@@ -2,10 +2,12 @@
 
 #include "core/numbers.h"
 #include "core/text.h"
+#include "desktop/common/dye_shade.h"
 #include "desktop/common/text.h"
 #include "host/loci/dyes.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QFont>
 #include <QStyle>
 
@@ -43,6 +45,16 @@ constexpr quintptr panelRow = 0;
 QString RangeText(double from, double to)
 {
     return ToQString(DoubleText(from) + " to " + DoubleText(to));
+}
+
+/// Nothing for a colour that isn't known.
+QVariant SwatchOf(const std::string& name)
+{
+    const KnownColor* color = FindColor(name);
+    if (color == nullptr)
+        return {};
+    const bool isDark = IsDarkTheme(QApplication::palette());
+    return QColor::fromRgb(isDark ? color->OnDark : color->OnLight);
 }
 
 } // namespace
@@ -214,6 +226,8 @@ QVariant ImportPreviewModel::MarkerData(std::size_t marker, int column, int role
             return QVariant(Qt::AlignRight | Qt::AlignVCenter);
         return {};
     case Qt::DecorationRole:
+        if (column == Dye)
+            return SwatchOf(m_markers[marker].Color);
         if (planned == nullptr || column != Fate || planned->Fate == ImportFate::Present)
             return {};
         return QApplication::style()->standardIcon(

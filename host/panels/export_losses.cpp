@@ -90,45 +90,68 @@ constexpr Loss losses[] = {
      }},
 };
 
+bool IsNothing(const std::string& name)
+{
+    return Trim(name).empty() || !IsPrintableText(name);
+}
+
+bool IsMissingValue(const std::string& name)
+{
+    return name == "NA";
+}
+
+bool HasSeparator(const std::string& name)
+{
+    return name.find_first_of(",\"") != std::string::npos;
+}
+
+bool IsWordOfBins(const std::string& name)
+{
+    return KindOf(name) != BinsLine::Content || name.starts_with('#');
+}
+
+bool IsOfAnAllele(bool (*test)(const std::string& name), const ExportedMarker& marker)
+{
+    return std::ranges::any_of(
+        marker.Alleles, [test](const AlleleFields* allele) { return test(allele->AlleleText1); });
+}
+
+std::string_view ReasonAgainstBins(const ExportedMarker& marker)
+{
+    if (marker.Ladder().empty())
+        return "no alleles in the ladder";
+    if (IsOfAnAllele(&HasSeparator, marker))
+        return "a comma or a quote in an allele's name";
+    if (IsWordOfBins(marker.Marker) || IsOfAnAllele(&IsWordOfBins, marker))
+        return "a name that is a word of the format";
+    return {};
+}
+
+std::string_view ReasonAgainstKit(const ExportedMarker& marker)
+{
+    if (marker.Ladder().size() < 2)
+        return "fewer than two alleles in the ladder";
+    if (!IsPlainXml(marker.Marker))
+        return "a name with &, < or >";
+    return HasTwoOfOneKitName(marker) ? "two alleles that would have one name" : "";
+}
+
 /// Why a marker can't be in the format; empty: it can.
 std::string_view ReasonToLeaveOut(const ExportedMarker& marker, PanelFormat format)
 {
-    const auto names = [&marker](auto test) {
-        return std::ranges::any_of(
-            marker.Alleles, [&](const AlleleFields* allele) { return test(allele->AlleleText1); });
-    };
     if (marker.Marker.empty())
         return "no name";
     if (marker.Alleles.empty())
         return "no alleles";
-    if (names([](const std::string& name) { return Trim(name).empty() || !IsPrintableText(name); }))
+    if (IsOfAnAllele(&IsNothing, marker))
         return "an allele without a name that can be read";
+    const bool isMissing = IsMissingValue(marker.Marker) || IsOfAnAllele(&IsMissingValue, marker);
     switch (format)
     {
     case PanelFormat::PanelTable: return {};
-    case PanelFormat::KitTable:
-        if (marker.Marker == "NA" || names([](const std::string& name) { return name == "NA"; }))
-            return "the name NA, which means a missing value";
-        return {};
-    case PanelFormat::PanelsBins:
-        if (marker.Ladder().empty())
-            return "no alleles in the ladder";
-        if (names([](const std::string& name) { return name.find_first_of(",\"") != name.npos; }))
-            return "a comma or a quote in an allele's name";
-        if (KindOf(marker.Marker) != BinsLine::Content || marker.Marker.starts_with('#') ||
-            names([](const std::string& name) {
-                return KindOf(name) != BinsLine::Content || name.starts_with('#');
-            }))
-            return "a name that is a word of the format";
-        return {};
-    case PanelFormat::OsirisKit:
-        if (marker.Ladder().size() < 2)
-            return "fewer than two alleles in the ladder";
-        if (!IsPlainXml(marker.Marker))
-            return "a name with &, < or >";
-        if (HasTwoOfOneKitName(marker))
-            return "two alleles that would have one name";
-        return {};
+    case PanelFormat::KitTable: return isMissing ? "the name NA, which means a missing value" : "";
+    case PanelFormat::PanelsBins: return ReasonAgainstBins(marker);
+    case PanelFormat::OsirisKit: return ReasonAgainstKit(marker);
     }
     return {};
 }
@@ -149,6 +172,22 @@ std::string TextOf(const std::map<std::string, std::vector<std::string>>& tagsBy
     return text;
 }
 
+/// "repeat sequences (2), ploidies (1)", by number of loci.
+std::string LossesOf(const std::vector<ExportedMarker>& markers, PanelFormat format)
+{
+    std::string lost;
+    for (const Loss& loss : losses)
+    {
+        if (loss.IsOfKitOnly && format != PanelFormat::OsirisKit)
+            continue;
+        const auto count = std::ranges::count_if(markers, loss.IsLost);
+        if (count > 0)
+            lost += (lost.empty() ? "" : ", ") + std::string(loss.What) + " (" +
+                    std::to_string(count) + ")";
+    }
+    return lost;
+}
+
 } // namespace
 
 std::string LeaveOut(std::vector<ExportedMarker>& markers, PanelFormat format)
@@ -167,32 +206,20 @@ std::string LeaveOut(std::vector<ExportedMarker>& markers, PanelFormat format)
         return !reason.empty();
     });
 
-    std::string lost;
-    for (const Loss& loss : losses)
-    {
-        if (loss.IsOfKitOnly && format != PanelFormat::OsirisKit)
-            continue;
-        const auto count = std::ranges::count_if(markers, loss.IsLost);
-        if (count > 0)
-            lost += (lost.empty() ? "" : ", ") + std::string(loss.What) + " (" +
-                    std::to_string(count) + ")";
-    }
     std::string line;
-    if (!lost.empty())
-        line = "A " + std::string(NameOf(format).Title) +
-               " can't carry, by number of loci: " + lost + ".";
-    if (format == PanelFormat::PanelsBins)
-    {
-        line = lost.empty() ? ""
-                            : "Panels and bins files can't carry, by number of loci: " + lost + ".";
-        const auto tooLong = std::ranges::count_if(markers, &IsLongPanelsLine);
-        if (tooLong > 0)
-            line += (line.empty() ? "" : " ") + std::to_string(tooLong) +
-                    " of the lines have 500 characters or more, and a program that reads them may "
-                    "stop there.";
-    }
+    const auto add = [&line](const std::string& sentence) {
+        line += (line.empty() ? "" : " ") + sentence;
+    };
+    const bool isPair = format == PanelFormat::PanelsBins;
+    if (const std::string lost = LossesOf(markers, format); !lost.empty())
+        add((isPair ? "Panels and bins files" : "A " + std::string(NameOf(format).Title)) +
+            " can't carry, by number of loci: " + lost + ".");
+    const auto tooLong = isPair ? std::ranges::count_if(markers, &IsLongPanelsLine) : 0;
+    if (tooLong > 0)
+        add(std::to_string(tooLong) + " of the lines have 500 characters or more, and a program "
+                                      "that reads them may stop there.");
     if (!leftOut.empty())
-        line += (line.empty() ? "Left out: " : " Left out: ") + TextOf(leftOut) + ".";
+        add("Left out: " + TextOf(leftOut) + ".");
     return line;
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "contracts/locus_fields.h"
+#include "core/text.h"
 #include "host/panels/panel_marker.h"
 #include "host/panels/table/panel_table.h"
 
+#include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -44,6 +47,12 @@ public:
     }
 
 private:
+    using Positions = std::map<std::string, std::size_t, LessNoCase>;
+
+    /// Finds the columns with a meaning of their own. Gives those that are missing.
+    std::string FindColumns(const Positions& positions);
+    void FindFields(const Positions& positions);
+
     std::size_t m_columnCount = 0;
     std::size_t m_positions[PanelColumnCount] = {};
     std::vector<MarkerColumn> m_markerColumns;

@@ -4,7 +4,8 @@
 #include "desktop/common/icons.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
-#include "desktop/lanes/locus_overlaps.h"
+#include "desktop/lanes/locus_lanes.h"
+#include "desktop/lanes/locus_lanes.h"
 #include "desktop/library/library_columns.h"
 #include "desktop/library/library_model.h"
 #include "desktop/library/library_table.h"
@@ -52,6 +53,10 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
       m_table(new LibraryTable(m_splitter)),
       m_preview(new LocusPreview(actions, m_splitter))
 {
+    m_preview->Picture().allelesOf = [this](const std::string& tag) {
+        const auto locus = m_store->FindLocus(tag);
+        return locus ? LaneAllelesOf(*locus) : std::vector<LaneAllele>();
+    };
     m_search->setObjectName("search");
     m_search->setAccessibleName("Search");
     m_search->setClearButtonEnabled(true);
@@ -268,6 +273,8 @@ void LibraryView::ShowPreview()
         }
         return lanes;
     };
+    // Where several are chosen, the lanes are theirs alone.
+    m_preview->Picture().SetChosen(content.Count == 1 ? ChosenTags() : std::vector<std::string>());
     m_preview->Show(std::move(content));
 }
 

@@ -1,11 +1,7 @@
 #include "host/framework/host_utility.h"
 
-#include "controls/text_field.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "host/framework/debugger.h"
-
-#include <cmath>
+#include "host/framework/form_questions.h"
 
 namespace Tamrivo
 {
@@ -31,16 +27,13 @@ bool HostUtility::DebugBreak(std::int32_t /*number*/)
 
 bool HostUtility::KeyExists(const Keyed& container, const std::string& key) const
 {
-    return container.KeyExists(key) || container.KeyExists(TrimRight(key));
+    return HasKey(container, key);
 }
 
 bool HostUtility::IsIntegerInRange(const TextField& control, std::int32_t low,
                                    std::int32_t high) const
 {
-    if (!IsNumeric(control.Text()))
-        return false;
-    const double value = ToDouble(control.Text());
-    return std::trunc(value) == value && low <= value && value <= high;
+    return HoldsIntegerInRange(control, low, high);
 }
 
 } // namespace Tamrivo

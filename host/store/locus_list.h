@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/store/object_list.h"
+#include "host/loci/object_list.h"
 #include "host/store/stored_locus.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contracts/locus.h"
-#include "host/store/object_list.h"
+#include "host/loci/object_list.h"
 
 #include <cstdint>
 #include <memory>

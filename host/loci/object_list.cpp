@@ -1,4 +1,4 @@
-#include "host/store/object_list.h"
+#include "host/loci/object_list.h"
 
 #include "host/loci/keys.h"
 

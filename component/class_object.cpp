@@ -1,5 +1,8 @@
 #include "component/class_object.h"
 
+#ifdef _WIN32
+#include "component/windows/automation_class.h"
+#endif
 #include "core/locale.h"
 
 #include <new>
@@ -9,6 +12,21 @@ namespace Tamrivo
 
 namespace
 {
+
+#ifdef _WIN32
+/// What a client gets that hasn't handed over a C++ host, or asks for automation.
+IUnknown* CreateFor(const CreatableClass& created, Host* host, REFIID riid)
+{
+    return host && riid != IID_IDispatch ? created.Create(*host) : CreateForAutomation(created);
+}
+constexpr bool needsHost = false;
+#else
+IUnknown* CreateFor(const CreatableClass& created, Host* host, REFIID)
+{
+    return created.Create(*host);
+}
+constexpr bool needsHost = true;
+#endif
 
 /// The result code of the exception being handled, which no caller of an interface may see.
 HRESULT Failed()
@@ -44,11 +62,11 @@ HRESULT STDMETHODCALLTYPE ClassObject::CreateInstance(IUnknown* pUnkOuter, REFII
     if (pUnkOuter)
         return CLASS_E_NOAGGREGATION;
     Host* const host = TheModule().CurrentHost;
-    if (!host)
+    if (needsHost && !host)
         return E_NoHost;
     try
     {
-        IUnknown* const object = m_created.Create(*host);
+        IUnknown* const object = CreateFor(m_created, host, riid);
         const HRESULT result = object->QueryInterface(riid, ppvObject);
         object->Release();
         return result;

@@ -9,6 +9,7 @@
 #endif
 #include <windows.h>
 // The order matters: what follows needs what stands above.
+#include <oleauto.h>
 #include <olectl.h>
 #include <unknwn.h>
 #else

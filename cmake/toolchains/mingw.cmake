@@ -5,6 +5,9 @@ set(CMAKE_C_COMPILER ${prefix}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${prefix}-g++-posix)
 set(CMAKE_RC_COMPILER ${prefix}-windres)
 set(TAMRIVO_WIDL ${prefix}-widl CACHE STRING "Makes type libraries")
+set(TAMRIVO_IDL_INCLUDE /usr/include/wine/wine/windows CACHE PATH "Where oaidl.idl is")
+set(TAMRIVO_TYPE_LIBRARIES /usr/lib/x86_64-linux-gnu/wine/x86_64-windows CACHE PATH
+    "Where stdole2.tlb is")
 
 # The runtime is linked in: a client's folder has no place for its libraries.
 foreach(kind EXE MODULE SHARED)

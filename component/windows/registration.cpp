@@ -1,9 +1,12 @@
+#include "component/registration.h"
+
+#include "automation/classes.h"
 #include "component/class_table.h"
 #include "component/guid_text.h"
 #include "component/module_path.h"
-#include "component/registration.h"
 #include "component/registry_windows.h"
-#include "component/registry_writer.h"
+#include "component/windows/registry_writer.h"
+#include "component/windows/text.h"
 
 #include <array>
 
@@ -16,9 +19,35 @@ namespace
 /// The places for classes: of the machine, and of the user, which goes before it.
 const std::array roots{HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER};
 
-std::wstring Wide(std::string_view ascii)
+constexpr std::string_view libraryVersion = "1.0";
+/// Of the platform's own marshalling of interfaces by their type library.
+constexpr const wchar_t* typeLibraryMarshaller = L"{00020424-0000-0000-C000-000000000046}";
+constexpr const wchar_t* platform = sizeof(void*) == 8 ? L"win64" : L"win32";
+
+std::wstring InBraces(std::string_view id)
 {
-    return {ascii.begin(), ascii.end()};
+    return L"{" + Wide(id) + L"}";
+}
+
+void AddTypeLibrary(std::vector<Registry::Value>& values, const std::wstring& classes,
+                    const std::wstring& path)
+{
+    const std::wstring id = InBraces(Automation::LibraryId);
+    const std::wstring version = Wide(libraryVersion);
+    const std::wstring key = classes + L"TypeLib\\" + id + L"\\" + version;
+    values.insert(values.end(), {{classes + L"TypeLib\\" + id, L"", L""},
+                                 {key, L"", L"Tamrivo"},
+                                 {key + L"\\0", L"", L""},
+                                 {key + L"\\0\\" + platform, L"", path},
+                                 {key + L"\\FLAGS", L"", L"0"}});
+    for (const Automation::Class* type : Automation::AllClasses)
+    {
+        const std::wstring face = classes + L"Interface\\" + InBraces(type->InterfaceId);
+        values.insert(values.end(), {{face, L"", L"I" + Wide(type->Name)},
+                                     {face + L"\\ProxyStubClsid32", L"", typeLibraryMarshaller},
+                                     {face + L"\\TypeLib", L"", id},
+                                     {face + L"\\TypeLib", L"Version", version}});
+    }
 }
 
 /// All that is entered for a module at the path.
@@ -36,8 +65,10 @@ std::vector<Registry::Value> ValuesFor(const std::wstring& path)
                                      {key, L"", name},
                                      {key + L"\\InprocServer32", L"", path},
                                      {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-                                     {key + L"\\ProgID", L"", name}});
+                                     {key + L"\\ProgID", L"", name},
+                                     {key + L"\\TypeLib", L"", InBraces(Automation::LibraryId)}});
     }
+    AddTypeLibrary(values, classes, path);
     return values;
 }
 

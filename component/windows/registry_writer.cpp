@@ -1,4 +1,4 @@
-#include "component/registry_writer.h"
+#include "component/windows/registry_writer.h"
 
 #include <system_error>
 

@@ -29,11 +29,9 @@ std::string MachineName()
 
 ChangeNotes NotesOfThisProcess()
 {
-    return {LoginName(),
-            std::string(program_invocation_short_name) + " " TAMRIVO_VERSION,
-            MachineName(),
-            {},
-            false};
+    return {LoginName(),   std::string(program_invocation_short_name) + " " TAMRIVO_VERSION,
+            MachineName(), {},
+            false,         {}};
 }
 
 } // namespace Tamrivo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace Tamrivo
@@ -13,6 +14,9 @@ struct ChangeNotes
     std::string Machine;    ///< Host name.
     std::string Reason;     ///< Given by the person; may be empty.
     bool BroughtIn = false; ///< What is stored now comes out of a file.
+    /// If set, called before each transaction that changes objects, while nothing is locked; gives
+    /// the reason for it. What it throws keeps the transaction from beginning.
+    std::function<std::string()> AskReason;
 };
 
 /// The notes for this process, without a reason.

@@ -5,8 +5,11 @@
 namespace Tamrivo
 {
 
-Transaction::Transaction(Database& database) : m_database(database)
+Transaction::Transaction(Database& database, Of what) : m_database(database)
 {
+    ChangeNotes& notes = m_database.Notes;
+    if (what == Of::Objects && notes.AskReason && !m_database.IsInTransaction())
+        notes.Reason = notes.AskReason();
     m_database.Run("Nothing was stored", [&](soci::session&) { m_database.Begin(); });
 }
 

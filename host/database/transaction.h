@@ -15,10 +15,18 @@ class Database;
 class Transaction
 {
 public:
+    /// What is written: objects, of whose changes the history has the reason, or what the store
+    /// keeps of its own.
+    enum class Of
+    {
+        Objects,
+        Upkeep,
+    };
+
     /// The outermost transaction reserves the store for writing at once: it waits up to five
     /// seconds for another writer, then raises `StoreError::Locked`. On a read-only store it is
     /// the first write that raises `StoreError::ReadOnly`.
-    explicit Transaction(Database& database);
+    explicit Transaction(Database& database, Of what = Of::Objects);
     ~Transaction();
 
     Transaction(const Transaction&) = delete;

@@ -59,12 +59,29 @@ bool IsRevision(const std::string& at)
 void History::ForEach(const HistoryFilter& filter,
                       const std::function<void(const HistoryRecord&)>& handler)
 {
-    const std::string key = LookupKey(filter.Name);
     long long after = filter.After;
     std::vector<HistoryRecord> page;
     do
     {
-        page = ReadPage(ConditionOf(filter) + " ORDER BY Number", [&](soci::statement& statement) {
+        page = ReadFiltered(filter, after, "Number", RecordsOfPage);
+        HandOver(page, handler);
+        if (!page.empty())
+            after = page.back().Number;
+    } while (page.size() == RecordsOfPage);
+}
+
+std::vector<HistoryRecord> History::Newest(const HistoryFilter& filter, std::size_t count)
+{
+    return ReadFiltered(filter, filter.After, "Number DESC", count);
+}
+
+std::vector<HistoryRecord> History::ReadFiltered(const HistoryFilter& filter, long long after,
+                                                 const std::string& order, std::size_t count)
+{
+    const std::string key = LookupKey(filter.Name);
+    return ReadPage(
+        ConditionOf(filter) + " ORDER BY " + order,
+        [&](soci::statement& statement) {
             statement.exchange(soci::use(after));
             if (!filter.Name.empty())
                 statement.exchange(soci::use(key));
@@ -73,11 +90,8 @@ void History::ForEach(const HistoryFilter& filter,
                 statement.exchange(soci::use(filter.By));
                 statement.exchange(soci::use(filter.By));
             }
-        });
-        HandOver(page, handler);
-        if (!page.empty())
-            after = page.back().Number;
-    } while (page.size() == RecordsOfPage);
+        },
+        count);
 }
 
 void History::ForEachLast(std::string_view kind,
@@ -92,7 +106,8 @@ void History::ForEachLast(std::string_view kind,
                 "' AND ObjectNumber > :After AND NOT EXISTS (SELECT 1 FROM History AS Later WHERE "
                 "Later.Kind = History.Kind AND Later.ObjectNumber = History.ObjectNumber AND "
                 "Later.Revision > History.Revision) ORDER BY ObjectNumber",
-            [&](soci::statement& statement) { statement.exchange(soci::use(after)); });
+            [&](soci::statement& statement) { statement.exchange(soci::use(after)); },
+            RecordsOfPage);
         HandOver(page, handler);
         if (!page.empty())
             after = page.back().ObjectNumber;
@@ -100,7 +115,8 @@ void History::ForEachLast(std::string_view kind,
 }
 
 std::vector<HistoryRecord> History::ReadPage(const std::string& condition,
-                                             const std::function<void(soci::statement&)>& bind)
+                                             const std::function<void(soci::statement&)>& bind,
+                                             std::size_t count)
 {
     return m_database.Run(NotRead, [&](soci::session& session) {
         std::vector<HistoryRecord> records;
@@ -108,8 +124,8 @@ std::vector<HistoryRecord> History::ReadPage(const std::string& condition,
         soci::statement statement(session);
         BindRecord(m_database, statement, record);
         bind(statement);
-        Prepare(statement, SelectRecords(record) + "WHERE " + condition + " LIMIT " +
-                               std::to_string(RecordsOfPage));
+        Prepare(statement,
+                SelectRecords(record) + "WHERE " + condition + " LIMIT " + std::to_string(count));
         for (statement.execute(); statement.fetch();)
             records.push_back(record);
         return records;

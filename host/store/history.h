@@ -52,6 +52,9 @@ public:
     void ForEach(const HistoryFilter& filter,
                  const std::function<void(const HistoryRecord&)>& handler);
 
+    /// The last records that pass the filter, the newest first, at most so many.
+    std::vector<HistoryRecord> Newest(const HistoryFilter& filter, std::size_t count);
+
     /// Calls the handler with the last record of each object of a kind, in the order of their
     /// numbers.
     void ForEachLast(std::string_view kind,
@@ -75,7 +78,10 @@ public:
 private:
     /// The first records that meet a condition, for whose values `bind` sees.
     std::vector<HistoryRecord> ReadPage(const std::string& condition,
-                                        const std::function<void(soci::statement&)>& bind);
+                                        const std::function<void(soci::statement&)>& bind,
+                                        std::size_t count);
+    std::vector<HistoryRecord> ReadFiltered(const HistoryFilter& filter, long long after,
+                                            const std::string& order, std::size_t count);
     void HandOver(const std::vector<HistoryRecord>& page,
                   const std::function<void(const HistoryRecord&)>& handler);
     std::optional<HistoryRecord> ReadOne(const std::string& condition, const std::string& value);

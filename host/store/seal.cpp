@@ -59,7 +59,7 @@ std::string TakeRecords(soci::session& session)
 bool WriteSeal(Database& database)
 {
     return database.Run("The history is not sealed", [&](soci::session& session) {
-        Transaction transaction(database);
+        Transaction transaction(database, Transaction::Of::Upkeep);
         if (!database.TryReserveSeals())
             return false;
         const std::string records = TakeRecords(session);

@@ -81,9 +81,13 @@ std::shared_ptr<Locus> Store::LocusAt(const std::string& tag, const std::string&
 std::string Store::RestoreLocus(const std::string& tag, const std::string& at,
                                 const std::string& newTag)
 {
+    return RestoreLocus(Tamrivo::History(*m_database).LocusRecordAt(tag, at), newTag);
+}
+
+std::string Store::RestoreLocus(const HistoryRecord& record, const std::string& newTag)
+{
     std::string restored;
     Together([&] {
-        const HistoryRecord record = Tamrivo::History(*m_database).LocusRecordAt(tag, at);
         LocusState state = LocusStateOf(record);
         if (!newTag.empty())
             state.Tag = newTag;

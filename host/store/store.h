@@ -18,6 +18,7 @@ namespace Tamrivo
 {
 
 class Database;
+struct HistoryRecord;
 
 /// The place where loci, projects and analysis parameters are kept: one SQLite file, or a
 /// PostgreSQL database.
@@ -66,6 +67,9 @@ public:
     /// Raises `StoreError::NameTaken` when another locus has the tag now.
     std::string RestoreLocus(const std::string& tag, const std::string& at,
                              const std::string& newTag);
+
+    /// The same for a record of the history that keeps a state of a locus.
+    std::string RestoreLocus(const HistoryRecord& record, const std::string& newTag);
 
     /// What the history says is the reason of the changes to come. Raises
     /// `ErrorNumber::InvalidArgument` for one of more than 1,000 characters.

@@ -3,9 +3,11 @@
 #include "console/commands/aligned_table.h"
 #include "console/commands/command.h"
 #include "console/commands/progress_line.h"
+#include "host/checks/plan_check.h"
 #include "host/loci/counts.h"
 #include "host/panels/import_result.h"
 #include "host/panels/panel_files.h"
+#include "host/reports/finding_list.h"
 #include "host/reports/table.h"
 #include "host/store/store.h"
 
@@ -115,17 +117,24 @@ Table DifferencesOf(const ImportPlan& plan)
     return table;
 }
 
-void PrintRemarks(std::ostream& out, const std::vector<PanelRemark>& remarks, bool isVerbose)
+/// Prints what was noticed in the files and what a check finds in the loci.
+void PrintRemarks(std::ostream& out, const ImportPlan& plan, bool isVerbose)
 {
-    for (const std::string& sentence : SummaryOf(remarks))
+    const std::vector<Finding> found = FindingsOf(plan);
+    for (const std::string& sentence : SummaryOf(plan.Remarks))
         out << sentence << '\n';
-    if (!isVerbose && !remarks.empty())
+    if (!found.empty())
+        out << "A check finds " << CountOfFindings(found) << ":\n";
+    for (const std::string& sentence : SummaryOf(found))
+        out << "  " << sentence << '\n';
+    if (!isVerbose && !(plan.Remarks.empty() && found.empty()))
         out << "--verbose lists each of them.\n";
-    if (isVerbose)
-    {
-        for (const PanelRemark& remark : remarks)
-            out << "  " << remark.Text << ".\n";
-    }
+    if (!isVerbose)
+        return;
+    for (const PanelRemark& remark : plan.Remarks)
+        out << "  " << remark.Text << ".\n";
+    if (!found.empty())
+        PrintAligned(out, FindingsTable(found));
 }
 
 void PrintPlan(Context& context, const ImportOptions& options, const ImportPlan& plan)
@@ -137,7 +146,7 @@ void PrintPlan(Context& context, const ImportOptions& options, const ImportPlan&
                 << ", same: " << plan.Count(ImportFate::Present)
                 << ", changed: " << plan.Count(ImportFate::Changed)
                 << ", refused: " << plan.Count(ImportFate::LeftOut) << ".\n";
-    PrintRemarks(context.Out, plan.Remarks, options.Verbose);
+    PrintRemarks(context.Out, plan, options.Verbose);
 }
 
 void Import(Context& context, ImportOptions options)
@@ -170,7 +179,7 @@ void Import(Context& context, ImportOptions options)
     progress.Clear();
     for (const std::string& sentence : ResultOf(plan, SourceOf(options)))
         context.Out << sentence << '\n';
-    PrintRemarks(context.Out, plan.Remarks, options.Verbose);
+    PrintRemarks(context.Out, plan, options.Verbose);
     if (!plan.IsAny() && plan.Count(ImportFate::Present) == 0 && !plan.Loci.empty())
         context.Status = ExitStatus::Failed;
 }
@@ -228,7 +237,8 @@ void AddPlanOptions(CLI::App& command, ImportOptions& options)
                      "Leave out what can't come in, and import the rest");
     command.add_flag("--dry-run", options.DryRun,
                      "Store nothing; print what would happen, difference by difference");
-    command.add_flag("--verbose", options.Verbose, "List every remark, not the number of a kind");
+    command.add_flag("--verbose", options.Verbose,
+                     "List every remark and finding, not the number of a kind");
 }
 
 } // namespace

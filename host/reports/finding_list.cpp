@@ -1,5 +1,8 @@
 #include "host/reports/finding_list.h"
 
+#include "host/loci/counts.h"
+
+#include <set>
 #include <string>
 
 namespace Tamrivo
@@ -55,6 +58,28 @@ nlohmann::ordered_json FindingsJson(const std::vector<Finding>& found)
             object[column.Title] = column.Text(finding);
     }
     return array;
+}
+
+std::vector<std::string> SummaryOf(const std::vector<Finding>& found)
+{
+    std::vector<std::string> sentences;
+    for (const CheckRule& rule : CheckRules)
+    {
+        std::size_t count = 0;
+        std::set<std::string_view> tags;
+        for (const Finding& finding : found)
+        {
+            if (finding.Rule != &rule)
+                continue;
+            ++count;
+            tags.insert(finding.Tag);
+        }
+        if (count > 0)
+            sentences.push_back(std::string(SeverityText(rule.Weight)) + " " +
+                                std::string(rule.Name) + ": " + std::to_string(count) + " in " +
+                                CountOfLoci(tags.size()) + ", " + std::string(rule.Meaning) + ".");
+    }
+    return sentences;
 }
 
 } // namespace Tamrivo

@@ -13,6 +13,7 @@
 namespace Tamrivo
 {
 
+struct Finding;
 class Store;
 
 /// A current locus as a list of very many shows it.
@@ -64,6 +65,11 @@ public:
     /// Of each locus: the names of its alleles. Read when first asked for, which raises failures
     /// of the store.
     const FoldedTexts& AlleleNames();
+    /// Of each locus: the names of the rules by which a check of all loci finds something in it.
+    /// Checked when first asked for, unless `TakeFindings` has told; raises failures of the store.
+    const FoldedTexts& Problems();
+    /// Takes what a check of all loci has found.
+    void TakeFindings(const std::vector<Finding>& found);
 
 private:
     void ReadLoci();
@@ -78,6 +84,7 @@ private:
     std::vector<LibraryParameter> m_parameters;
     std::optional<FoldedTexts> m_words;
     std::optional<FoldedTexts> m_alleleNames;
+    std::optional<FoldedTexts> m_problems;
 };
 
 } // namespace Tamrivo

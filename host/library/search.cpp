@@ -41,7 +41,7 @@ LocusCondition ConditionOf(const SearchWord& word, Library& library)
         throw Failure(ErrorNumber::InvalidArgument, "Search",
                       "There is no such term. Terms are " + TermNames() +
                           "; a word with a colon stands in quotes");
-    return value.empty() ? LocusCondition() : term->Condition(library, value);
+    return value.empty() && !term->StandsAlone ? LocusCondition() : term->Condition(library, value);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 #include "core/text.h"
+#include "host/checks/check_rules.h"
 
 #include <algorithm>
 #include <charconv>
@@ -210,9 +211,28 @@ LocusCondition ChangedIn(Library& library, const std::string& value)
     };
 }
 
+/// The loci in which a check finds something: by rules whose names begin with the value.
+LocusCondition WithProblem(Library& library, const std::string& value)
+{
+    std::string names;
+    bool isRule = false;
+    for (const CheckRule& rule : CheckRules)
+    {
+        names.append(names.empty() ? "" : ", ").append(rule.Name);
+        isRule = isRule || rule.Name.starts_with(value);
+    }
+    if (!isRule)
+        Refuse("No rule has such a name; there are " + names);
+    return [&problems = library.Problems(),
+            begin = FoldedTexts::Separator + value](std::size_t position) {
+        return problems[position].find(begin) != std::string_view::npos;
+    };
+}
+
 constexpr SearchTerm terms[] = {
-    {"dye", OfDye},         {"panel", OfPanel},   {"project", OfProject}, {"range", OverRange},
-    {"allele", WithAllele}, {"repeat", OfRepeat}, {"used", Used},         {"changed", ChangedIn},
+    {"dye", OfDye},       {"panel", OfPanel},     {"project", OfProject},
+    {"range", OverRange}, {"allele", WithAllele}, {"repeat", OfRepeat},
+    {"used", Used},       {"changed", ChangedIn}, {"problem", WithProblem, true},
 };
 
 } // namespace

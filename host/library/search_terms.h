@@ -17,10 +17,11 @@ using LocusCondition = std::function<bool(std::size_t position)>;
 struct SearchTerm
 {
     std::string_view Name; ///< Before the colon.
-    /// Makes the condition for a folded value, which isn't empty. Raises
-    /// `ErrorNumber::InvalidArgument` with what would be right for a value that can't become right
-    /// by typing on.
+    /// Makes the condition for a folded value, which is empty only for a term that means something
+    /// without one. Raises `ErrorNumber::InvalidArgument` with what would be right for a value that
+    /// can't become right by typing on.
     LocusCondition (*Condition)(Library& library, const std::string& value);
+    bool StandsAlone = false; ///< Means something without a value.
 };
 
 std::span<const SearchTerm> SearchTerms();

@@ -111,6 +111,10 @@ TEST_F(LibraryTest, FindsWhatMeetsAllWordsAndTerms)
         {"changed:>2020-02-29", all},
         {"changed:<=2020", ""},
         {"changed:2020-02", ""},
+        {"problem:", "TH01 AMEL D3S1358"},
+        {"problem:no-w dye:yellow", "TH01"},
+        {"problem:letters", ""},
+        {"-problem:", "D2S441"},
     };
     for (const auto& row : rows)
         EXPECT_EQ(Found(row.Search), row.Found) << row.Search;
@@ -128,6 +132,7 @@ TEST_F(LibraryTest, NamesTheTermThatIsWrong)
         {"range:a", "\"range:a\": Lengths in nt"},
         {"range:200-100", "\"range:200-100\": The range ends before"},
         {"range:1-2x", "\"range:1-2x\": Lengths in nt"},
+        {"problem:wrong", "\"problem:wrong\": No rule has such a name; there are bin-overlap"},
         {"repeat:four", "\"repeat:four\": The length"},
         {"used:maybe", "\"used:maybe\": yes or no"},
         {"changed:>today", "\"changed:>today\": A date"},

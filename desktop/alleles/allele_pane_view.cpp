@@ -236,6 +236,15 @@ void AllelePaneView::FormChanged(const Control& control)
         ShowPicture();
 }
 
+void AllelePaneView::ChooseAllele(const std::string& name)
+{
+    const AlleleRows& rows = m_pane.Rows();
+    const auto row =
+        std::ranges::find(rows, name, [](const auto& allele) { return allele->AlleleText1; });
+    if (row != rows.end())
+        m_table->SelectRow(static_cast<int>(row - rows.begin()));
+}
+
 void AllelePaneView::ShowState()
 {
     m_undo->setEnabled(m_pane.CanUndo());

@@ -43,6 +43,8 @@ public:
     void LeaveUndoToPage();
     /// Selects a row, counted from 1, and gives it the focus.
     void GoTo(std::int32_t row);
+    /// Chooses the first row of an allele with the name, if there is one.
+    void ChooseAllele(const std::string& name);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -8,6 +8,8 @@
 namespace Tamrivo
 {
 
+int LongWork::s_atWork = 0;
+
 LongWork::LongWork(Store& store, const QString& what, QWidget* parent)
     : m_dialog(what, "Cancel", 0, 0, parent)
 {
@@ -19,10 +21,12 @@ LongWork::LongWork(Store& store, const QString& what, QWidget* parent)
     m_sinceShown.start();
     QApplication::setOverrideCursor(Qt::BusyCursor);
     m_progress = store.OnProgress([this] { GoOn(); });
+    ++s_atWork;
 }
 
 LongWork::~LongWork()
 {
+    --s_atWork;
     QApplication::restoreOverrideCursor();
 }
 

@@ -23,12 +23,18 @@ public:
     LongWork& operator=(const LongWork&) = delete;
     ~LongWork();
 
+    /// Whether any is going on: the store is then in the middle of something, and events that come
+    /// meanwhile must leave it alone.
+    static bool IsAtWork() { return s_atWork > 0; }
+
     /// Shows how much is done. Raises `Cancelled` once the person has cancelled.
     void Show(std::size_t done, std::size_t total);
 
 private:
     /// Lets the person see that the work goes on, and cancel it: raises `Cancelled`.
     void GoOn();
+
+    static int s_atWork;
 
     QProgressDialog m_dialog;
     QElapsedTimer m_sinceShown;

@@ -1,15 +1,13 @@
 #include "host/alleles/allele_pane.h"
 
 #include "controls/user.h"
-#include "core/numbers.h"
-#include "host/loci/allele_generation.h"
-#include "host/loci/repeats.h"
+#include "core/text.h"
+#include "host/alleles/allele_rows.h"
+#include "host/alleles/new_allele.h"
 
 #include <algorithm>
-#include <compare>
 #include <iterator>
 #include <set>
-#include <unordered_set>
 #include <utility>
 
 namespace Tamrivo
@@ -17,50 +15,6 @@ namespace Tamrivo
 
 namespace
 {
-
-/// Also sizes that are no numbers have their place.
-void SortBySize(AlleleRows& rows)
-{
-    std::ranges::stable_sort(
-        rows, [](double left, double right) { return std::is_lt(std::weak_order(left, right)); },
-        [](const std::shared_ptr<Allele>& allele) { return allele->AlleleReal1; });
-}
-
-AlleleRows RowsOf(Locus& locus)
-{
-    AlleleRows rows;
-    for (const auto& member : locus.Alleles().Members())
-        rows.push_back(As<Allele>(member));
-    SortBySize(rows);
-    return rows;
-}
-
-/// Makes the list hold the rows, in their order.
-void Rebuild(ObjectList& list, const AlleleRows& rows)
-{
-    while (list.Count() > 0)
-        list.Remove(list.Count());
-    for (const auto& row : rows)
-        list.Add(row);
-}
-
-std::unordered_set<const BusinessObject*> SetOf(const AlleleRows& rows)
-{
-    std::unordered_set<const BusinessObject*> set;
-    for (const auto& row : rows)
-        set.insert(row.get());
-    return set;
-}
-
-AlleleRows Without(const AlleleRows& rows, const AlleleRows& others)
-{
-    AlleleRows rest;
-    std::ranges::remove_copy_if(rows, std::back_inserter(rest),
-                                [others = SetOf(others)](const std::shared_ptr<Allele>& row) {
-                                    return others.contains(row.get());
-                                });
-    return rest;
-}
 
 void SetCell(AlleleFields& fields, std::int32_t row, const AlleleColumn& column,
              std::string_view text)
@@ -119,7 +73,8 @@ std::int32_t AllelePane::AddRow(std::optional<std::int32_t> after)
     std::optional<double> nextSize;
     if (place < std::ssize(m_rows))
         nextSize = m_rows[static_cast<std::size_t>(place)]->AlleleReal1;
-    const auto allele = NewAllele(before ? FieldsAfter(*before, nextSize) : FirstFields());
+    const auto allele =
+        NewAllele(before ? FieldsAfter(*before, nextSize, *m_locus) : FirstFields(*m_locus));
     Do({.ToAdd = {allele}}, {allele, place});
     return NumberOf(*allele);
 }
@@ -140,7 +95,7 @@ void AllelePane::EditCell(std::int32_t row, const AlleleColumn& column, std::str
     SetCell(fields, row, column, text);
     if (fields == *allele)
         return;
-    Derive(fields);
+    Derive(fields, *m_locus);
     if (m_held.Row != allele)
         LeaveRow();
     Do({.Edits = {{allele, fields}}}, {allele, NumberOf(*allele) - 1});
@@ -175,8 +130,8 @@ void AllelePane::PasteCells(std::int32_t row, std::size_t column,
                                 "\" on; nothing was pasted. Start further left");
         const bool isNew = row > std::ssize(m_rows);
         AlleleFields fields = !isNew ? AlleleFields(*RowAt(row))
-                              : last ? FieldsAfter(*last, {})
-                                     : FirstFields();
+                              : last ? FieldsAfter(*last, {}, *m_locus)
+                                     : FirstFields(*m_locus);
         const AlleleFields before = fields;
         for (std::size_t i = 0; i < line.size(); ++i)
         {
@@ -184,7 +139,7 @@ void AllelePane::PasteCells(std::int32_t row, std::size_t column,
                 SetCell(fields, row, AlleleColumns[column + i], line[i]);
         }
         if (isNew || fields != before)
-            Derive(fields);
+            Derive(fields, *m_locus);
         if (isNew)
             change.ToAdd.push_back(last = NewAllele(fields));
         else if (fields != before)
@@ -192,6 +147,30 @@ void AllelePane::PasteCells(std::int32_t row, std::size_t column,
         ++row;
     }
     if (!change.ToAdd.empty() || !change.Edits.empty())
+        Do(std::move(change));
+}
+
+void AllelePane::ReplaceRows(const std::vector<AlleleFields>& alleles)
+{
+    RequireLocus();
+    Change change;
+    AlleleRows rest = m_rows;
+    for (const AlleleFields& fields : alleles)
+    {
+        const auto same = std::ranges::find_if(rest, [&](const std::shared_ptr<Allele>& row) {
+            return EqualNoCase(Trim(row->AlleleText1), Trim(fields.AlleleText1));
+        });
+        if (same == rest.end())
+        {
+            change.ToAdd.push_back(NewAllele(fields));
+            continue;
+        }
+        if (static_cast<const AlleleFields&>(**same) != fields)
+            change.Edits.push_back({*same, fields});
+        rest.erase(same);
+    }
+    change.ToRemove = std::move(rest);
+    if (!change.ToAdd.empty() || !change.Edits.empty() || !change.ToRemove.empty())
         Do(std::move(change));
 }
 
@@ -222,37 +201,6 @@ std::int32_t AllelePane::NumberOf(const Allele& allele) const
 {
     const auto found = std::ranges::find(m_rows, &allele, &std::shared_ptr<Allele>::get);
     return static_cast<std::int32_t>(found - m_rows.begin()) + 1;
-}
-
-AlleleFields AllelePane::FirstFields() const
-{
-    const std::string& repeats = m_locus->RepeatsInShortestAllele;
-    AlleleFields fields;
-    fields.AlleleReal1 = m_locus->ShortestAlleleSize;
-    fields.AlleleReal2 = fields.AlleleReal1 - BinReach(*m_locus);
-    fields.AlleleReal3 = fields.AlleleReal1 + BinReach(*m_locus);
-    fields.AlleleReal4 = IsNumeric(repeats) ? ToDouble(repeats) : 0;
-    fields.AlleleInt1 = AlleleOrigin::Edited;
-    return fields;
-}
-
-AlleleFields AllelePane::FieldsAfter(const Allele& row, std::optional<double> nextSize) const
-{
-    double step = m_locus->RepeatLength;
-    if (nextSize)
-        step = std::min(step, (*nextSize - row.AlleleReal1) / 2);
-    AlleleFields fields = FirstFields();
-    fields.AlleleReal1 = row.AlleleReal1 + step;
-    fields.AlleleReal2 = fields.AlleleReal1 - BinReach(*m_locus);
-    fields.AlleleReal3 = fields.AlleleReal1 + BinReach(*m_locus);
-    fields.AlleleReal4 = RepeatsAtDistance(row.AlleleReal4, step, m_locus->RepeatLength);
-    return fields;
-}
-
-void AllelePane::Derive(AlleleFields& fields) const
-{
-    fields.AlleleReal4 = RepeatsOf(fields, *m_locus);
-    fields.AlleleInt1 = AlleleOrigin::Edited;
 }
 
 std::shared_ptr<Allele> AllelePane::NewAllele(const AlleleFields& fields) const

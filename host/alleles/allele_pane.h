@@ -70,6 +70,9 @@ public:
                     const std::vector<std::vector<std::string>>& cells);
     /// Gives a cell another value. The row stays where it is until `LeaveRow`.
     void EditCell(std::int32_t row, const AlleleColumn& column, std::string_view text);
+    /// Makes the list that of the alleles in one step. Rows whose names stay keep being the same
+    /// alleles; names that come twice pair off in their order.
+    void ReplaceRows(const std::vector<AlleleFields>& alleles);
     /// The person turns away from the row, which then goes to its place by size. Nothing that could
     /// be undone: it belongs to the edit. Any change but an edit of the same row leaves it as well.
     void LeaveRow();
@@ -103,9 +106,6 @@ private:
 
     const std::shared_ptr<Allele>& RowAt(std::int32_t row) const;
     std::int32_t NumberOf(const Allele& allele) const;
-    AlleleFields FirstFields() const;
-    AlleleFields FieldsAfter(const Allele& row, std::optional<double> nextSize) const;
-    void Derive(AlleleFields& fields) const;
     std::shared_ptr<Allele> NewAllele(const AlleleFields& fields) const;
     void RequireLocus() const;
 

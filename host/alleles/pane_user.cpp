@@ -53,6 +53,11 @@ void PasteAlleles(const AllelePaneControl& pane, std::int32_t row, std::size_t c
     Reached(pane).PasteCells(row, column, cells);
 }
 
+void ReplaceAlleles(const AllelePaneControl& pane, const std::vector<AlleleFields>& alleles)
+{
+    Reached(pane).ReplaceRows(alleles);
+}
+
 void UndoAlleles(const AllelePaneControl& pane)
 {
     Reached(pane).Undo();

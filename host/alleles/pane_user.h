@@ -25,10 +25,11 @@ void RemoveAllele(const AllelePaneControl& pane, std::int32_t row);
 void EditAllele(const AllelePaneControl& pane, std::int32_t row, const AlleleColumn& column,
                 std::string_view text);
 void LeaveAllele(const AllelePaneControl& pane);
-/// Remove rows, or enter a block of cells, in one step; see `AllelePane`.
+/// Remove rows, enter a block of cells or replace the list, in one step; see `AllelePane`.
 void RemoveAlleles(const AllelePaneControl& pane, const std::vector<std::int32_t>& rows);
 void PasteAlleles(const AllelePaneControl& pane, std::int32_t row, std::size_t column,
                   const std::vector<std::vector<std::string>>& cells);
+void ReplaceAlleles(const AllelePaneControl& pane, const std::vector<AlleleFields>& alleles);
 void UndoAlleles(const AllelePaneControl& pane);
 void RedoAlleles(const AllelePaneControl& pane);
 

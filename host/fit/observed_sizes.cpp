@@ -136,12 +136,29 @@ private:
 
 } // namespace
 
-std::map<std::string, std::vector<std::size_t>> ObservedTable::LinesOfMarker() const
+std::vector<double> ObservedTable::SizesIn(std::span<const std::size_t> lines) const
 {
-    std::map<std::string, std::vector<std::size_t>> lines;
-    for (std::size_t at = 0; at < Lines.size(); ++at)
-        lines[LookupKey(Lines[at].Cells[MarkerColumn])].push_back(at);
-    return lines;
+    std::vector<double> sizes;
+    for (const std::size_t line : lines)
+        sizes.insert(sizes.end(), Lines[line].Sizes.begin(), Lines[line].Sizes.end());
+    return sizes;
+}
+
+MarkerLines::MarkerLines(const ObservedTable& table)
+{
+    for (std::size_t at = 0; at < table.Lines.size(); ++at)
+        m_lines[LookupKey(table.Lines[at].Cells[table.MarkerColumn])].push_back(at);
+}
+
+std::vector<std::size_t> MarkerLines::Of(const std::string& tag, const std::string& name) const
+{
+    for (const std::string& marker : {tag, name})
+    {
+        const auto lines = m_lines.find(LookupKey(marker));
+        if (lines != m_lines.end())
+            return lines->second;
+    }
+    return {};
 }
 
 ObservedTable ReadObservedTable(std::string_view text, const std::string& name)

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <map>
+#include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace Tamrivo
@@ -26,8 +27,21 @@ struct ObservedTable
     std::size_t MarkerColumn = 0;
     std::vector<Line> Lines;
 
-    /// Numbers of the lines of each marker, by the marker's `LookupKey`.
-    std::map<std::string, std::vector<std::size_t>> LinesOfMarker() const;
+    std::vector<double> SizesIn(std::span<const std::size_t> lines) const;
+};
+
+/// Which lines of a table are of which marker.
+class MarkerLines
+{
+public:
+    explicit MarkerLines(const ObservedTable& table);
+
+    /// Numbers of a locus's lines: those whose marker is its tag, else those with its name, case
+    /// aside.
+    std::vector<std::size_t> Of(const std::string& tag, const std::string& name) const;
+
+private:
+    std::unordered_map<std::string, std::vector<std::size_t>> m_lines;
 };
 
 inline constexpr std::size_t MostObservedLines = 2'000'000;

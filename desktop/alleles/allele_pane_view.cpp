@@ -7,6 +7,7 @@
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/alleles/allele_table.h"
 #include "desktop/alleles/allele_table_model.h"
+#include "desktop/alleles/observed_comparison.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/clipboard_table.h"
 #include "desktop/common/icons.h"
@@ -16,6 +17,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -59,6 +61,7 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
       m_tools(new QHBoxLayout),
       m_table(new AlleleTable(*m_model, this)),
       m_picture(new AllelePicture(this)),
+      m_observed(new ObservedComparison(pane, *m_picture, actions, this)),
       m_state(new QLabel(this))
 {
     m_table->setFocusPolicy(pane.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
@@ -86,6 +89,7 @@ void AllelePaneView::LayOut()
     layout->setSpacing(2);
     layout->addLayout(m_tools);
     layout->addWidget(splitter, 1);
+    layout->addWidget(m_observed);
 }
 
 void AllelePaneView::MakeActions()
@@ -101,6 +105,8 @@ void AllelePaneView::MakeActions()
     AddAction("Copy cells", "edit-copy", Keys::keyBindings(Keys::Copy),
               [this] { CopyCells(*m_table); });
     AddAction("Paste cells", "edit-paste", Keys::keyBindings(Keys::Paste), [this] { Paste(); });
+    AddAction("Compare with observed sizes", "document-open", {Qt::CTRL | Qt::SHIFT | Qt::Key_B},
+              [this] { Compare(); });
     m_tools->addSpacing(fontMetrics().averageCharWidth());
     m_tools->addWidget(m_state, 1);
 }
@@ -204,6 +210,7 @@ void AllelePaneView::ShowRows()
 {
     m_model->Refresh();
     ShowPicture();
+    m_observed->Refresh();
     ShowState();
     MarkSelected();
 }
@@ -309,6 +316,15 @@ void AllelePaneView::Paste()
     const int row = at.isValid() ? at.row() : m_model->rowCount();
     User::PasteAlleles(m_control, row + 1, at.isValid() ? static_cast<std::size_t>(at.column()) : 0,
                        cells);
+}
+
+void AllelePaneView::Compare()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(window(), "Compare with Observed Sizes", {},
+                                     "Tables of sizes (*.tsv *.csv *.txt);;All files (*)");
+    if (!path.isEmpty())
+        m_observed->Read(path);
 }
 
 } // namespace Tamrivo

@@ -22,6 +22,7 @@ struct LengthRange;
 class AllelePicture;
 class AlleleTable;
 class AlleleTableModel;
+class ObservedComparison;
 
 /// The allele pane of a form: the rows as a table beside a picture of their bins, with buttons
 /// above. The Tab key of the form passes it by; in it, Tab goes from the table to the buttons, the
@@ -67,6 +68,8 @@ private:
     void AddRow();
     void RemoveRows();
     void Paste();
+    /// Asks for a table of observed sizes.
+    void Compare();
 
     User::AllelePaneControl& m_control;
     const Actions& m_actions;
@@ -75,6 +78,7 @@ private:
     QHBoxLayout* m_tools;
     AlleleTable* m_table;
     AllelePicture* m_picture;
+    ObservedComparison* m_observed;
     QLabel* m_state;
     std::vector<QToolButton*> m_buttons;
     QAction* m_remove = nullptr;

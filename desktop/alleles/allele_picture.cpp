@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -34,22 +35,50 @@ void AllelePicture::Show(const AlleleRows& rows, const std::optional<LengthRange
 {
     m_range = range;
     m_shapes = range ? ShapesOf(rows, *range) : std::vector<BinShape>();
-    m_shown = range.value_or(LengthRange{0, 1});
-    for (const BinShape& shape : m_shapes)
-    {
-        m_shown.From = std::min({m_shown.From, shape.From, shape.Size});
-        m_shown.To = std::max({m_shown.To, shape.To, shape.Size});
-    }
-    const double edge = std::max(1.0, (m_shown.To - m_shown.From) * 0.02);
-    m_shown.From -= edge;
-    m_shown.To += edge;
-
+    FitAxis();
+    if (m_observed)
+        CountIn(m_shapes, *m_observed);
     const auto faulty = std::ranges::count_if(
         m_shapes, [](const BinShape& shape) { return shape.State != BinState::InOrder; });
     setAccessibleDescription(QString("%1 bins, %2 of them overlapping or outside the range")
                                  .arg(m_shapes.size())
                                  .arg(faulty));
     update();
+}
+
+void AllelePicture::ShowObserved(std::vector<double> sizes, std::vector<LengthRange> proposed)
+{
+    m_observed.reset();
+    if (!sizes.empty())
+    {
+        std::ranges::sort(sizes);
+        m_observed.emplace(ObservedSizes{std::move(sizes), {}, {}, std::move(proposed)});
+        CountIn(m_shapes, *m_observed);
+    }
+    FitAxis();
+    update();
+}
+
+void AllelePicture::FitAxis()
+{
+    m_shown = m_range.value_or(LengthRange{0, 1});
+    const auto include = [this](double length) {
+        m_shown.From = std::min(m_shown.From, length);
+        m_shown.To = std::max(m_shown.To, length);
+    };
+    for (const BinShape& shape : m_shapes)
+    {
+        for (const double length : {shape.From, shape.Size, shape.To})
+            include(length);
+    }
+    if (m_observed)
+    {
+        include(m_observed->Sizes.front());
+        include(m_observed->Sizes.back());
+    }
+    const double edge = std::max(1.0, (m_shown.To - m_shown.From) * 0.02);
+    m_shown.From -= edge;
+    m_shown.To += edge;
 }
 
 void AllelePicture::Mark(const std::set<std::int32_t>& rows)
@@ -108,8 +137,13 @@ void AllelePicture::paintEvent(QPaintEvent* /*event*/)
     const LengthAxis axis = Axis();
     DrawRange(painter, axis);
     axis.Draw(painter, palette(), BaseLine(), margin);
-    for (const BinShape& shape : m_shapes)
-        DrawBin(painter, shape);
+    if (m_observed)
+        DrawObserved(painter, axis);
+    else
+    {
+        for (const BinShape& shape : m_shapes)
+            DrawBin(painter, shape);
+    }
     DrawNames(painter);
     DrawBinLegend(painter, {margin, LegendTop()}, palette());
     if (hasFocus())
@@ -129,6 +163,21 @@ void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
     painter.setPen(QPen(SafeColor::SkyBlue, 1, Qt::DashLine));
     for (const double x : {left, right})
         painter.drawLine(QPointF(x, margin / 2), QPointF(x, BaseLine()));
+}
+
+/// The sizes behind the bins, which let them shine through.
+void AllelePicture::DrawObserved(QPainter& painter, const LengthAxis& axis) const
+{
+    constexpr double opacity = 0.55;
+    const QRectF place(QPointF(0, margin), QPointF(width(), BaseLine()));
+    DrawHistogram(painter, axis, place, *m_observed, palette());
+    painter.setOpacity(opacity);
+    for (const BinShape& shape : m_shapes)
+        DrawBin(painter, shape);
+    painter.setOpacity(1);
+    DrawProposal(painter, axis, place, *m_observed, palette());
+    for (std::size_t at = 0; at < m_shapes.size(); ++at)
+        DrawCount(painter, RectOf(m_shapes[at]), m_observed->Counts[at], palette());
 }
 
 void AllelePicture::DrawBin(QPainter& painter, const BinShape& shape) const

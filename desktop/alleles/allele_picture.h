@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/alleles/bin_shapes.h"
+#include "desktop/alleles/observed_look.h"
 
 #include <QWidget>
 
@@ -23,6 +23,10 @@ public:
 
     /// Shows the alleles of a locus and its fragment range; no range leaves the picture empty.
     void Show(const AlleleRows& rows, const std::optional<LengthRange>& range);
+    /// Shows observed sizes, nt, and bins that they propose, with the alleles; none: nothing more.
+    void ShowObserved(std::vector<double> sizes, std::vector<LengthRange> proposed);
+    /// The sizes over the bins as they are; none without sizes.
+    const std::optional<ObservedSizes>& Observed() const { return m_observed; }
     /// Marks rows, counted from 1.
     void Mark(const std::set<std::int32_t>& rows);
 
@@ -45,6 +49,8 @@ protected:
 
 private:
     LengthAxis Axis() const;
+    void FitAxis();
+    void DrawObserved(QPainter& painter, const LengthAxis& axis) const;
     /// Top of the axis; bins and names stand above it.
     double BaseLine() const;
     double LegendTop() const;
@@ -55,6 +61,7 @@ private:
     void DrawName(QPainter& painter, const BinShape& shape, bool isTurned) const;
 
     std::vector<BinShape> m_shapes;
+    std::optional<ObservedSizes> m_observed;
     std::set<std::int32_t> m_marked;
     std::optional<LengthRange> m_range;
     LengthRange m_shown{0, 1}; ///< The range, all bins, and some room beside them.

@@ -1,0 +1,157 @@
+#include "desktop/alleles/observed_comparison.h"
+
+#include "controls/user.h"
+#include "core/numbers.h"
+#include "desktop/alleles/allele_picture.h"
+#include "desktop/common/actions.h"
+#include "desktop/common/text.h"
+#include "editor/locus_editor_form.h"
+#include "host/fit/fit_words.h"
+#include "host/fit/observed_sizes.h"
+#include "host/fit/proposal.h"
+#include "host/panels/panel_files.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Tamrivo
+{
+
+ObservedComparison::ObservedComparison(User::AllelePaneControl& pane, AllelePicture& picture,
+                                       const Actions& actions, QWidget* parent)
+    : QWidget(parent),
+      m_control(pane),
+      m_pane(User::AllelesOf(pane)),
+      m_picture(picture),
+      m_actions(actions),
+      m_words(new QLabel(this)),
+      m_buttons(new QWidget(this))
+{
+    m_words->setObjectName("observedWords");
+    m_words->setTextFormat(Qt::PlainText);
+    m_words->setWordWrap(true);
+    m_words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_words->setAccessibleName("What the observed sizes say");
+    auto* buttons = new QHBoxLayout(m_buttons);
+    buttons->setContentsMargins(0, 0, 0, 0);
+    AddButton("&Propose Bins", &ObservedComparison::Propose);
+    m_takeOver = AddButton("Take &Over", &ObservedComparison::TakeOver);
+    AddButton("Close Comparison", &ObservedComparison::Close);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_words, 1);
+    layout->addWidget(m_buttons, 0, Qt::AlignTop);
+    Close();
+}
+
+QPushButton* ObservedComparison::AddButton(const QString& text,
+                                           void (ObservedComparison::*action)())
+{
+    auto* button = new QPushButton(text, m_buttons);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this,
+            [this, action] { m_actions.Run([this, action] { (this->*action)(); }); });
+    m_buttons->layout()->addWidget(button);
+    return button;
+}
+
+void ObservedComparison::Read(const QString& path)
+{
+    const auto& locus = m_pane.ShownLocus();
+    if (!locus)
+        throw User::Refusal("The allele list shows no locus");
+    const PanelText text = LoadPanelFile(FromQString(path));
+    const ObservedTable table = ReadObservedTable(text.Text, text.Name);
+    const auto lines = MarkerLines(table).Of(locus->LocusTag(), locus->LocusName);
+    std::vector<double> sizes = table.SizesIn(lines);
+    if (sizes.empty())
+        throw User::Refusal(text.Name + " has no sizes of " + locus->LocusTag() +
+                            "; expected its tag or name in the column Marker");
+    m_sizes = std::move(sizes);
+    m_locus = locus.get();
+    m_fit.reset();
+    Show();
+}
+
+void ObservedComparison::Propose()
+{
+    m_fit = FitLadder(FieldsOnPage(), Known(), m_sizes);
+    Show();
+}
+
+void ObservedComparison::TakeOver()
+{
+    if (!m_fit || !m_fit->IsProposed)
+        throw User::Refusal("No bins are proposed");
+    User::ReplaceAlleles(m_control, WithProposal(Known(), *m_fit));
+}
+
+void ObservedComparison::Close()
+{
+    m_sizes.clear();
+    m_locus = nullptr;
+    m_fit.reset();
+    Show();
+}
+
+void ObservedComparison::Refresh()
+{
+    if (m_locus == nullptr)
+        return;
+    if (m_pane.ShownLocus().get() != m_locus)
+        return Close();
+    Show();
+}
+
+std::vector<const AlleleFields*> ObservedComparison::Known() const
+{
+    std::vector<const AlleleFields*> known;
+    for (const auto& row : m_pane.Rows())
+        known.push_back(row.get());
+    return known;
+}
+
+/// The page edits in its fields what the locus gets later.
+LocusFields ObservedComparison::FieldsOnPage() const
+{
+    LocusFields fields = *m_pane.ShownLocus();
+    const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form());
+    if (page == nullptr)
+        return fields;
+    fields.RepeatsInShortestAllele = page->txtRepeatsInShortestAllele.Text();
+    const auto take = [](const TextField& field, std::int32_t& value) {
+        if (IsNumeric(field.Text()))
+            value = static_cast<std::int32_t>(ToDouble(field.Text()));
+    };
+    take(page->txtRepeat, fields.RepeatLength);
+    take(page->txtShortestAlleleSize, fields.ShortestAlleleSize);
+    take(page->txtStartAtNumeric, fields.StartAtNumeric);
+    return fields;
+}
+
+void ObservedComparison::Show()
+{
+    std::vector<LengthRange> proposed;
+    if (m_fit)
+    {
+        for (const ProposedAllele& allele : m_fit->Alleles)
+            proposed.push_back({allele.Fields.AlleleReal2, allele.Fields.AlleleReal3});
+    }
+    m_picture.ShowObserved(m_sizes, std::move(proposed));
+    setVisible(!m_sizes.empty());
+    m_takeOver->setEnabled(m_fit && m_fit->IsProposed);
+    if (m_sizes.empty())
+        return;
+    const std::size_t outside = m_picture.Observed()->Outside.size();
+    QString text =
+        QString("%1 observed sizes, %2 of them in no bin.").arg(m_sizes.size()).arg(outside);
+    if (m_fit)
+    {
+        for (const std::string& sentence : WordsOf(*m_fit))
+            text += "\n" + ToQString(sentence);
+    }
+    m_words->setText(text);
+}
+
+} // namespace Tamrivo

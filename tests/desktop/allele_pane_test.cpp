@@ -1,5 +1,6 @@
 #include "desktop/alleles/allele_pane_view.h"
 #include "desktop/alleles/allele_picture.h"
+#include "desktop/alleles/observed_comparison.h"
 #include "desktop/common/colors.h"
 #include "desktop/front_end/problem_list.h"
 #include "desktop_test.h"
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <QTemporaryFile>
 #include <QToolButton>
 #include <QToolTip>
 
@@ -292,6 +294,51 @@ TEST_F(AllelePaneTest, AnInvalidListKeepsTheWizardOpenAndTellsWhy)
         QTest::mouseClick(&Named(editor, "finish"), Qt::LeftButton);
         EXPECT_TRUE(editor.isVisible());
         Discard(editor);
+    });
+}
+
+TEST_F(AllelePaneTest, ObservedSizesAreCountedFollowEditsAndProposeBinsInOneStep)
+{
+    OnPane([this] {
+        ObservedComparison* comparison = nullptr;
+        for (auto* child : m_view->findChildren<QWidget*>())
+        {
+            if (auto* found = dynamic_cast<ObservedComparison*>(child))
+                comparison = found;
+        }
+        ASSERT_TRUE(comparison);
+        EXPECT_FALSE(comparison->isVisible());
+        QTemporaryFile file;
+        ASSERT_TRUE(file.open());
+        file.write("Sample\tMarker\tSize\nS\tTH01\t99\n");
+        for (const char* size :
+             {"80.1", "84.1", "84.2", "88.3", "88.4", "92.3, 92.4", "96.5", "97.3"})
+            file.write(QByteArray("S\td3s1358\t") + size + "\n");
+        file.flush();
+        comparison->Read(file.fileName());
+        ASSERT_TRUE(m_picture->Observed());
+        EXPECT_EQ(m_picture->Observed()->Counts[1], 2U);
+        EXPECT_EQ(m_picture->Observed()->Outside, std::vector<double>{97.3});
+        EditCell(4, 3, "97.5");
+        EXPECT_TRUE(m_picture->Observed()->Outside.empty()) << "follows the edit";
+
+        const auto fieldsOfRows = [this] {
+            std::vector<AlleleFields> fields;
+            for (const auto& row : m_pane->Rows())
+                fields.push_back(*row);
+            return fields;
+        };
+        const auto before = fieldsOfRows();
+        comparison->Propose();
+        EXPECT_EQ(fieldsOfRows(), before);
+        EXPECT_EQ(m_picture->Observed()->Proposed.size(), 6U);
+        comparison->TakeOver();
+        EXPECT_NE(fieldsOfRows(), before);
+        EXPECT_TRUE(m_pane->IsValid());
+        m_pane->Undo();
+        EXPECT_EQ(fieldsOfRows(), before) << "one step";
+        comparison->Close();
+        EXPECT_FALSE(m_picture->Observed());
     });
 }
 

@@ -2,10 +2,11 @@
 
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
-.PHONY: help run test build bench lint sanitize shuffle fuzz screenshots clean
+.PHONY: help run test build bench lint sanitize shuffle fuzz screenshots clean \
+	test-windows dist-windows
 
 help:                ## this list
-	@sed -n 's/^\([a-z]*\):.*## /    make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
+	@sed -n 's/^\([a-z-]*\):.*## /    make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
 
 run:                 ## open the program on the default store, or on $TAMRIVO_STORE
 	@scripts/install-packages run
@@ -49,6 +50,18 @@ fuzz:                ## build a program a reader that feeds it bytes of any kind
 
 screenshots: build   ## draw every window of the desktop program into docs/images/
 	QT_QPA_PLATFORM=offscreen build/bin/tamrivo_screenshots examples/sample_loci.tsv docs/images
+
+test-windows:        ## build the module for Windows and test it under Wine
+	@scripts/install-packages windows
+	cmake --preset windows
+	cmake --build --preset windows
+	scripts/test-windows
+
+dist-windows:        ## pack the module for Windows into build/windows/tamrivo-windows.zip
+	@scripts/install-packages windows
+	cmake --preset windows
+	cmake --build --preset windows --target tamrivo_component tamrivo_client
+	scripts/dist-windows
 
 clean:               ## remove everything built
 	rm -rf build

@@ -35,6 +35,19 @@ List Checked(const Class& type, const Member& member, const List& arguments)
     return checked;
 }
 
+/// Counts a call as long as it lasts.
+class Nested
+{
+public:
+    explicit Nested(int& depth) : m_depth(depth) { ++m_depth; }
+    Nested(const Nested&) = delete;
+    Nested& operator=(const Nested&) = delete;
+    ~Nested() { --m_depth; }
+
+private:
+    int& m_depth;
+};
+
 } // namespace
 
 std::int32_t Class::Find(std::string_view name, Access how) const
@@ -73,6 +86,11 @@ Value TableObject::Call(std::string_view name, Access how, const List& arguments
 
 Value TableObject::CallAt(std::size_t position, const List& arguments)
 {
+    constexpr int deepest = 16;
+    if (m_depth >= deepest)
+        throw Failure(ErrorNumber::Unexpected, std::string(ClassOf().Name),
+                      std::string(ClassOf().Name) + " is called from its own calls without end");
+    const Nested nested(m_depth);
     try
     {
         return Do(position, Checked(ClassOf(), ClassOf().Members[position], arguments));

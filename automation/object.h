@@ -79,12 +79,15 @@ public:
     virtual const Class& ClassOf() const = 0;
 
     Value Call(std::string_view name, Access how, const List& arguments) override;
-    /// Calls the member at a position. The only way in: whatever leaves it is a `Failure`.
+    /// Calls the member at a position. The only way in: whatever leaves it is a `Failure`, also for
+    /// a host that calls back from each of its calls.
     Value CallAt(std::size_t position, const List& arguments);
 
 private:
     /// @param arguments as many as the member has, and of their types
     virtual Value Do(std::size_t position, const List& arguments) = 0;
+
+    int m_depth = 0; ///< Calls that are under way.
 };
 
 /// A row of the table of a class: a member and what it does. `T` is the object's type.

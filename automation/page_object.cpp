@@ -76,8 +76,18 @@ Value PageObject::Open(const Member&, const List& arguments)
     auto reports = session->ValidateFailed.Connect([this](const ErrorRecord& error) {
         HostOfForm().ReportError({}, "Page", "Validate", error, {}, true);
     });
-    session->Initialize();
-    session->Activate();
+    try
+    {
+        session->Initialize();
+        session->Activate();
+    }
+    catch (...)
+    {
+        // A page that is filled in part can't be used; the next call makes another.
+        session.reset();
+        m_page.reset();
+        throw;
+    }
     m_session = std::move(session);
     m_reports = std::move(reports);
     return {};

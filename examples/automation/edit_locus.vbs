@@ -3,7 +3,7 @@
 '     cscript //nologo edit_locus.vbs
 Option Explicit
 
-Dim page, host, locus, loci, parameters, saved, alleles
+Dim page, host, locus, loci, parameters, saved, alleles, binning
 
 ' The page is made for its host at its first use; until then only Host is there.
 Set page = CreateObject("Tamrivo.LocusEditorPage")
@@ -27,16 +27,6 @@ page.Type "txtRepeat", "4x"
 WScript.Echo "'4x' typed leaves " & page.Read("txtRepeat", "Text")
 page.Click "cmdGenAlleleList"
 
-' What nobody could do is refused, with the reason.
-On Error Resume Next
-page.Click "cmdReplace"
-WScript.Echo "refused: " & Err.Description
-Err.Clear
-page.Click "cmdSaveAs"
-WScript.Echo "Save As: " & Err.Description
-Err.Clear
-On Error Goto 0
-
 If Not page.Validate Then WScript.Quit 1
 page.Save
 
@@ -46,5 +36,19 @@ alleles = saved.Alleles
 WScript.Echo saved.LocusTag & ": repeat " & saved.RepeatLength & " nt, " & _
     (UBound(alleles) + 1) & " alleles, the first of " & _
     alleles(0).AlleleReal1 & " nt"
+
+' What nobody could do is refused, with the reason: while bins are made the button is hidden.
+Set binning = CreateObject("Tamrivo.LocusEditorPage")
+Set binning.Host = host
+Set parameters = host.Create("Parameters")
+parameters.Add saved, "Locus"
+parameters.Add "Binning", "Binning"
+binning.Open parameters
+On Error Resume Next
+binning.Click "cmdGenAlleleList"
+WScript.Echo "refused: " & Err.Description
+If Err.Number = 0 Then WScript.Quit 1
+On Error Goto 0
+
 WScript.Echo "done"
 WScript.Quit 0

@@ -135,6 +135,33 @@ TEST(PageObject, SurvivesAHostThatFails)
     EXPECT_EQ(Tags(*stored.Host), "TH01 ");
 }
 
+TEST(PageObject, EndsWhatAHostCallsWithoutEnd)
+{
+    const Stored stored("TH01");
+    const auto host = std::make_shared<ScriptHost>();
+    host->Behind = stored.Host;
+    const auto page = OpenEditor(host, stored.EditorParameters());
+    host->Own["Save"] = [&](const List&) { return Do(*page, "Save"); };
+    EXPECT_THAT(FailureOf([&] { Do(*page, "Save"); }).Description, HasSubstr("without end"));
+    host->Own.clear();
+    Do(*page, "Save");
+}
+
+TEST(PageObject, CanBeOpenedAgainWhenThatFailed)
+{
+    const Stored stored("TH01");
+    const auto host = std::make_shared<ScriptHost>();
+    host->Behind = stored.Host;
+    const auto page = NewEditorPage();
+    page->Put("Host", host);
+    host->Own["Query"] = [](const List&) -> Value { return "no array"; };
+    EXPECT_THAT(FailureOf([&] { Do(*page, "Open", {stored.EditorParameters()}); }).Description,
+                HasSubstr("What the host's Query gives must be a list"));
+    host->Own.clear();
+    Do(*page, "Open", {stored.EditorParameters()});
+    EXPECT_EQ(Do(*page, "Read", {"txtFragEnd", "Text"}), Value("120"));
+}
+
 /// A locus of a client's own, with few properties.
 TEST(PageObject, ReadsAClientsLocusByName)
 {

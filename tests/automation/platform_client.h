@@ -77,12 +77,12 @@ inline DISPID NumberOf(IDispatch& object, const wchar_t* name)
     return number;
 }
 
-/// Memory of the process, bytes.
+/// Memory that the process occupies, bytes.
 inline std::size_t Memory()
 {
     PROCESS_MEMORY_COUNTERS counters{};
     GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-    return counters.PagefileUsage;
+    return counters.WorkingSetSize;
 }
 
 } // namespace Client

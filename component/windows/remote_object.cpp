@@ -73,7 +73,8 @@ DISPID RemoteObject::NumberOf(std::string_view name) const
     LPOLESTR names = wide.data();
     if (FAILED(result))
         result = m_client->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &number);
-    if (result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND)
+    // The last is the answer of those that know `IDispatchEx` alone.
+    if (result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND || result == E_NOTIMPL)
         throw Failure(ClientError::NoSuchMember, "Host",
                       "The client's object has no member \"" + std::string(name) + "\"");
     if (FAILED(result))

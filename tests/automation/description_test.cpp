@@ -27,11 +27,18 @@ std::string IdlType(Type type)
     return idlTypes.at(static_cast<std::size_t>(type));
 }
 
+/// An object is set by reference; some languages tell that apart.
+std::string Attribute(const Member& member)
+{
+    if (member.How == Access::Put)
+        return member.Parameters[0].Of == Type::Object ? ", propputref" : ", propput";
+    return member.How == Access::Get ? ", propget" : "";
+}
+
 void WriteMember(std::ostream& out, const Class& type, const Member& member)
 {
-    constexpr std::array<const char*, 3> access{"", ", propget", ", propput"};
-    out << "        [id(" << type.NumberOf(member.Name) << ")"
-        << access.at(static_cast<std::size_t>(member.How)) << "] HRESULT " << member.Name << "(";
+    out << "        [id(" << type.NumberOf(member.Name) << ")" << Attribute(member) << "] HRESULT "
+        << member.Name << "(";
     const char* separator = "";
     for (std::size_t i = 0; i < member.Count(); ++i)
     {

@@ -50,6 +50,9 @@ std::string_view BinsCell(std::string_view cell)
 BinsLine KindOf(std::string_view firstCell)
 {
     const std::string_view cell = BinsCell(firstCell);
+    // Most lines are bins of alleles that are numbers.
+    if (!cell.empty() && cell.front() >= '0' && cell.front() <= '9')
+        return BinsLine::Content;
     const auto* word = std::ranges::find_if(words, [cell](const Word& row) {
         return cell.size() == row.Text.size() && EqualNoCase(cell, row.Text);
     });

@@ -9,13 +9,23 @@ namespace Tamrivo
 namespace
 {
 
-/// Whether all characters are of ASCII. One loop without a branch, since nearly all lines are.
-bool IsAscii(std::string_view line)
+struct KindOfText
+{
+    bool IsAscii;
+    bool HasZero;
+};
+
+/// One loop without branches, since nearly all lines are plain.
+KindOfText Look(std::string_view line)
 {
     unsigned char all = 0;
+    bool hasZero = false;
     for (const char character : line)
+    {
         all |= static_cast<unsigned char>(character);
-    return all < 0x80;
+        hasZero |= character == 0;
+    }
+    return {all < 0x80, hasZero};
 }
 
 } // namespace
@@ -28,9 +38,10 @@ bool TableLines::Next()
         ++m_number;
         if (line.ends_with('\r'))
             line.remove_suffix(1);
-        if (line.find('\0') != std::string_view::npos)
+        const auto [isAscii, hasZero] = Look(line);
+        if (hasZero)
             m_problem = "The line has a zero byte; the file is binary or damaged";
-        else if (!IsAscii(line) && !IsUtf8(line))
+        else if (!isAscii && !IsUtf8(line))
             m_problem = "The text isn't UTF-8; save the table as UTF-8";
         else if (line.find_first_not_of("\t ") != std::string_view::npos)
         {

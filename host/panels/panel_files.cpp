@@ -40,7 +40,7 @@ public:
         switch (m_choice.Format.value_or(DetectFormat(head)))
         {
         case PanelFormat::PanelTable:
-        case PanelFormat::KitTable: Add(ReadPanelTable(source), name); break;
+        case PanelFormat::KitTable: Add(ReadPanelTable(source, m_choice.Panels), name); break;
         case PanelFormat::OsirisKit: Add(ReadOsirisKit(source, m_choice.Interval), name); break;
         case PanelFormat::PanelsBins:
             if (IsBins(head))

@@ -93,6 +93,9 @@ TEST(Formats, AKitTableMayHaveQuotesAndMissingValues)
     EXPECT_THAT(reading.Markers[2].Flaws, SizeIs(6));
     EXPECT_TRUE(std::ranges::all_of(reading.Markers[2].Flaws, &PanelComplaint::IsLack));
     EXPECT_FALSE(reading.Markers[3].Flaws[0].IsLack);
+    const PanelReading wanted = Read({kitTable}, {.Panels = {"ka"}});
+    EXPECT_THAT(wanted.Markers[1].Alleles, SizeIs(1));
+    EXPECT_THAT(wanted.Markers[3].Alleles, IsEmpty());
     for (const char* name : {"ka", "kit a", "KIT \"A\""})
         EXPECT_TRUE(IsOfPanels(th01, {name})) << name;
 }

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "host/panels/cells.h"
+#include "host/panels/import_plan.h"
 #include "host/panels/locus_columns.h"
 #include "host/panels/table/table_row.h"
 
@@ -23,7 +24,9 @@ std::string CountOfCells(std::size_t count)
 class PanelTableReader
 {
 public:
-    explicit PanelTableReader(LineSource& source) : m_lines(source) {}
+    PanelTableReader(LineSource& source, const std::vector<std::string>& panels)
+        : m_panels(panels), m_lines(source)
+    {}
 
     PanelReading Read()
     {
@@ -49,6 +52,7 @@ private:
     {
         std::size_t Index = 0;               ///< Of the marker.
         std::vector<std::string> FirstCells; ///< Of its first line.
+        bool IsWanted = true;
     };
 
     using GroupKey = std::tuple<std::string, std::string, std::string>;
@@ -69,10 +73,14 @@ private:
     void ReadRow()
     {
         const Group* group = GroupOfRow();
+        if (group != nullptr && !group->IsWanted)
+            return;
         if (group != nullptr && !HasAllOfMarker())
             return AddCountFlaw(m_reading.Markers[group->Index],
                                 "; the file may have been cut off here");
         PanelMarker& marker = group != nullptr ? Agreeing(*group) : ReadMarker();
+        if (!m_last->IsWanted)
+            return;
         for (std::size_t at = m_header.ColumnCount(); at < m_lines.Cells().size(); ++at)
         {
             if (!m_lines.Cell(at).empty())
@@ -161,6 +169,7 @@ private:
         marker.Stated = {m_header.Has(PanelColumn::Virtual), m_header.Has(PanelColumn::AlleleReal4),
                          m_header.Has(PanelColumn::AlleleInt1)};
         ReadNames(marker);
+        m_last->IsWanted = m_panels.empty() || IsOfPanels(marker, m_panels);
         ReadMeasures(marker);
         ReadFields(marker);
         return marker;
@@ -236,19 +245,20 @@ private:
                 m_row.Number(marker, PanelColumn::AlleleReal4, "the number of repeats");
     }
 
+    const std::vector<std::string>& m_panels;
     TableLines m_lines;
     TableHeader m_header;
     TableRow m_row{m_header, m_lines};
     std::map<GroupKey, Group> m_groups;
-    const Group* m_last = nullptr;
+    Group* m_last = nullptr;
     PanelReading m_reading;
 };
 
 } // namespace
 
-PanelReading ReadPanelTable(LineSource& source)
+PanelReading ReadPanelTable(LineSource& source, const std::vector<std::string>& panels)
 {
-    return PanelTableReader(source).Read();
+    return PanelTableReader(source, panels).Read();
 }
 
 } // namespace Tamrivo

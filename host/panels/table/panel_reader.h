@@ -11,6 +11,8 @@ namespace Tamrivo
 /// quotes around cells. "NA" is a missing value.
 ///
 /// Complaints are about the table as a whole; what is wrong in a line is a flaw of its marker.
-PanelReading ReadPanelTable(LineSource& source);
+/// @param panels names of the panels that are wanted; empty: all. Of the others only the markers
+/// are read, not their alleles
+PanelReading ReadPanelTable(LineSource& source, const std::vector<std::string>& panels = {});
 
 } // namespace Tamrivo

@@ -71,8 +71,7 @@ std::vector<std::string> ResultOf(const ImportPlan& plan, const std::string& sou
         if (present > 0)
             sentences.push_back("The store had " + CountOfLoci(present) + " already.");
         for (std::int32_t dye = plan.DyesBefore.Count(); dye < plan.DyesAfter.Count(); ++dye)
-            sentences.push_back("Added the dye " + DyeEntry(dye) + ", " +
-                                plan.DyesAfter.ColorOf(dye) + ".");
+            sentences.push_back("Added the dye " + plan.DyesAfter.ColorOf(dye) + ".");
     }
     if (plan.Refused() > 0)
         sentences.push_back("Left out " + CountOfLoci(plan.Refused()) + ".");

@@ -58,23 +58,23 @@ void DrawName(QPainter& painter, const QString& name, const QRectF& bar, double 
     painter.drawText(place, shown);
 }
 
-/// Alleles rise from the foot of the bar, observed sizes hang from its top.
+/// Alleles rise from the foot of the bar, observed sizes hang from its top; what is outside the
+/// range would seem to be a neighbour's.
 void DrawTicks(QPainter& painter, const LaneBar& bar, const LaneDetails& details,
                const LengthAxis& axis, const QColor& color, const QColor& text)
 {
     const double length = bar.Rect.height() / 3;
+    const auto draw = [&](double size, double from, double to) {
+        const double x = axis.X(size);
+        if (x >= bar.Rect.left() && x <= bar.Rect.right())
+            painter.drawLine(QPointF(x, from), QPointF(x, to));
+    };
     painter.setPen(QPen(color, 1.5));
     for (const LaneAllele& allele : details.Alleles)
-    {
-        const double x = axis.X(allele.Size);
-        painter.drawLine(QPointF(x, bar.Rect.bottom()), QPointF(x, bar.Rect.bottom() - length));
-    }
+        draw(allele.Size, bar.Rect.bottom(), bar.Rect.bottom() - length);
     painter.setPen(QPen(text, 1));
     for (const double size : details.Observed)
-    {
-        const double x = axis.X(size);
-        painter.drawLine(QPointF(x, bar.Rect.top()), QPointF(x, bar.Rect.top() + length));
-    }
+        draw(size, bar.Rect.top(), bar.Rect.top() + length);
 }
 
 void DrawOutlines(QPainter& painter, const QRectF& rect, const BarLook& look, const QColor& text)

@@ -11,6 +11,15 @@ namespace
 constexpr std::size_t blockSize = 65536;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
+/// One loop without branches.
+bool IsPlainText(std::string_view bytes)
+{
+    bool isPlain = true;
+    for (const char byte : bytes)
+        isPlain &= static_cast<signed char>(byte) > 0;
+    return isPlain;
+}
+
 } // namespace
 
 bool LineSource::Fill()
@@ -24,6 +33,7 @@ bool LineSource::Fill()
         throw Failure(ErrorNumber::InvalidArgument, "PanelFile",
                       "The file can't be read: reading has failed");
     m_bytes.resize(left + static_cast<std::size_t>(m_in.gcount()));
+    m_isPlain = m_isPlain && IsPlainText(std::string_view(m_bytes).substr(left));
     if (!m_isBegun && m_bytes.starts_with(byteOrderMark))
         m_start = byteOrderMark.size();
     m_isBegun = true;

@@ -27,6 +27,8 @@ public:
     /// for a line that is too long.
     bool Next(std::string_view& line);
     bool IsTooLong() const { return m_isTooLong; }
+    /// Whether all bytes so far are of ASCII and none is zero, so that no line needs a look.
+    bool IsPlain() const { return m_isPlain; }
 
     /// Reads what is left. False when it is more than `most` bytes.
     bool ReadRest(std::string& text, std::size_t most);
@@ -40,6 +42,7 @@ private:
     std::size_t m_start = 0; ///< Of what is left.
     bool m_isBegun = false;
     bool m_isTooLong = false;
+    bool m_isPlain = true;
 };
 
 } // namespace Tamrivo

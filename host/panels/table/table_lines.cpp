@@ -6,30 +6,6 @@
 namespace Tamrivo
 {
 
-namespace
-{
-
-struct KindOfText
-{
-    bool IsAscii;
-    bool HasZero;
-};
-
-/// One loop without branches, since nearly all lines are plain.
-KindOfText Look(std::string_view line)
-{
-    unsigned char all = 0;
-    bool hasZero = false;
-    for (const char character : line)
-    {
-        all |= static_cast<unsigned char>(character);
-        hasZero |= character == 0;
-    }
-    return {all < 0x80, hasZero};
-}
-
-} // namespace
-
 bool TableLines::Next()
 {
     std::string_view line;
@@ -38,10 +14,10 @@ bool TableLines::Next()
         ++m_number;
         if (line.ends_with('\r'))
             line.remove_suffix(1);
-        const auto [isAscii, hasZero] = Look(line);
-        if (hasZero)
+        const bool isPlain = m_source.IsPlain();
+        if (!isPlain && line.find('\0') != std::string_view::npos)
             m_problem = "The line has a zero byte; the file is binary or damaged";
-        else if (!isAscii && !IsUtf8(line))
+        else if (!isPlain && !IsUtf8(line))
             m_problem = "The text isn't UTF-8; save the table as UTF-8";
         else if (line.find_first_not_of("\t ") != std::string_view::npos)
         {

@@ -16,4 +16,14 @@ QColor DyeShade(const Dyes& dyes, std::int32_t dyeIndex, const QPalette& palette
     return QColor::fromRgb(IsDarkTheme(palette) ? color->OnDark : color->OnLight);
 }
 
+QIcon DyeSwatch(const Dyes& dyes, std::int32_t dyeIndex, const QPalette& palette, int size)
+{
+    QPixmap square(size, size);
+    square.fill(DyeShade(dyes, dyeIndex, palette));
+    QIcon swatch;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        swatch.addPixmap(square, mode);
+    return swatch;
+}
+
 } // namespace Tamrivo

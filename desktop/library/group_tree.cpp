@@ -10,7 +10,6 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
-#include <QPixmap>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -59,13 +58,6 @@ LocusGroup GroupOf(const QTreeWidgetItem& item)
 bool IsHeading(const QTreeWidgetItem& item)
 {
     return item.data(nameColumn, kindRole).toInt() == noGroup;
-}
-
-QIcon Swatch(const QColor& color, int size)
-{
-    QPixmap swatch(size, size);
-    swatch.fill(color);
-    return swatch;
 }
 
 } // namespace
@@ -204,8 +196,7 @@ void GroupTree::Paint()
         if (IsHeading(**at) || group.What != LocusGroup::Kind::Dye)
             continue;
         const auto dye = m_dyes.OfColor(FromQString(group.Name));
-        (*at)->setIcon(nameColumn,
-                       Swatch(DyeShade(m_dyes, *dye, palette()), fontMetrics().ascent()));
+        (*at)->setIcon(nameColumn, DyeSwatch(m_dyes, *dye, palette(), fontMetrics().ascent()));
     }
 }
 

@@ -5,7 +5,8 @@
 #include "desktop/library/library_columns.h"
 #include "host/grid/sort_key.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFontMetrics>
 #include <QMimeData>
 
 #include <algorithm>
@@ -129,7 +130,8 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const
         return QVariant((column.IsNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::DecorationRole:
         if (index.column() == DyeColumn)
-            return DyeShade(m_library->LabDyes(), locus.DyeIndex, QGuiApplication::palette());
+            return DyeSwatch(m_library->LabDyes(), locus.DyeIndex, QApplication::palette(),
+                             QFontMetrics(QApplication::font()).ascent());
         return {};
     case Qt::CheckStateRole:
         if (index.column() == TagColumn && m_ticks)

@@ -91,7 +91,7 @@ void LibraryTable::setModel(QAbstractItemModel* model)
 
 void LibraryTable::WidenColumns()
 {
-    constexpr int widths[] = {18, 12, 12, 0, 0, 14, 14, 0, 18, 26, 14}; // Characters.
+    constexpr int widths[] = {18, 12, 12, 0, 0, 12, 12, 0, 18, 26, 14}; // Characters.
     const int character = fontMetrics().averageCharWidth();
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
     {

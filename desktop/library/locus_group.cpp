@@ -14,10 +14,11 @@ namespace Tamrivo
 namespace
 {
 
-bool IsRecent(const LibraryLocus& locus)
+/// Tells of a locus whether it was changed within the last days.
+auto IsRecent()
 {
-    const auto since = std::chrono::system_clock::now() - std::chrono::days(RecentDays);
-    return locus.Changed && *locus.Changed >= since;
+    return [since = std::chrono::system_clock::now() - std::chrono::days(RecentDays)](
+               const LibraryLocus& locus) { return locus.Changed && *locus.Changed >= since; };
 }
 
 void AddNames(std::vector<CountedGroup>& groups, LocusGroup::Kind kind, const NameList& names)
@@ -55,7 +56,7 @@ std::vector<CountedGroup> GroupsOf(Library& library, const QStringList& searches
     const auto& loci = library.Loci();
     std::vector<CountedGroup> groups = {
         {{Kind::All, {}}, loci.size()},
-        {{Kind::Recent, {}}, static_cast<std::size_t>(std::ranges::count_if(loci, IsRecent))}};
+        {{Kind::Recent, {}}, static_cast<std::size_t>(std::ranges::count_if(loci, IsRecent()))}};
     AddNames(groups, Kind::Panel, library.Panels());
     std::vector<std::size_t> ofDye(library.LabDyes().All().size());
     for (const LibraryLocus& locus : loci)
@@ -80,7 +81,7 @@ std::vector<std::uint32_t> LociOf(const Library& library, const LocusGroup& grou
     const std::string name = FromQString(group.Name);
     switch (group.What)
     {
-    case LocusGroup::Kind::Recent: return Those(library, IsRecent);
+    case LocusGroup::Kind::Recent: return Those(library, IsRecent());
     case LocusGroup::Kind::Panel:
         return Those(library, [&](const LibraryLocus& locus) {
             return library.Panels()[locus.Panel].Name == name;

@@ -79,6 +79,7 @@ public:
         TakeFailure(window);
         TakeImport(window);
         TakeExport(window);
+        TakeLarge(window);
         window.Commands()[Do<&ReportCommands::ShowAll>].trigger();
         Settle();
         for (QWidget* top : QApplication::topLevelWidgets())
@@ -276,6 +277,29 @@ private:
         });
         window.Commands()[Do<&LocusCommands::Delete>].trigger();
         ChooseRows(window, {3});
+    }
+
+    /// A large screen, and text of 130 percent.
+    void TakeLarge(MainWindow& window)
+    {
+        window.resize(2200, 1300);
+        Settle();
+        Take(window, "library-large");
+        window.resize(1240, 900);
+        const QFont font = QApplication::font();
+        QFont larger = font;
+        larger.setPointSizeF(font.pointSizeF() * 1.3);
+        QApplication::setFont(larger);
+        ChooseRows(window, {3});
+        Take(window, "library-large-text");
+        window.Commands()[Do<&LocusCommands::Edit>].trigger();
+        Settle();
+        QDialog& editor = OpenEditor();
+        editor.resize(1280, 1000);
+        Settle();
+        Take(editor, "editor-large-text");
+        Close(editor);
+        QApplication::setFont(font);
     }
 
     void TakeFailure(MainWindow& window)

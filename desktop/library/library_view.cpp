@@ -32,13 +32,22 @@ namespace
 
 constexpr const char* splitterKey = "library/splitter";
 
-/// Dark on a pale yellow: readable in light and dark themes alike.
-QPalette ErrorPalette()
+/// What is wrong with the search, dark on a pale yellow: readable in light and dark themes alike.
+QLabel* NewErrorLine(QWidget* parent)
 {
+    auto* line = new QLabel(parent);
+    line->setObjectName("searchErrors");
+    line->setAccessibleName("What is wrong with the search");
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    line->setMargin(line->fontMetrics().averageCharWidth() / 2);
+    line->setAutoFillBackground(true);
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(255, 243, 196));
     palette.setColor(QPalette::WindowText, Qt::black);
-    return palette;
+    line->setPalette(palette);
+    line->hide();
+    return line;
 }
 
 } // namespace
@@ -47,7 +56,7 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     : QWidget(parent),
       m_actions(actions),
       m_search(new QLineEdit(this)),
-      m_errors(new QLabel(this)),
+      m_errors(NewErrorLine(this)),
       m_splitter(new QSplitter(Qt::Vertical, this)),
       m_model(new LibraryModel(this)),
       m_table(new LibraryTable(m_splitter)),
@@ -63,14 +72,6 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     m_search->setPlaceholderText("Search, such as: TH01   dye:blue   panel:H24   range:100-200   "
                                  "allele:9.3   used:no");
     m_search->addAction(ThemeIcon("edit-find"), QLineEdit::LeadingPosition);
-    m_errors->setObjectName("searchErrors");
-    m_errors->setAccessibleName("What is wrong with the search");
-    m_errors->setTextFormat(Qt::PlainText);
-    m_errors->setWordWrap(true);
-    m_errors->setMargin(fontMetrics().averageCharWidth() / 2);
-    m_errors->setAutoFillBackground(true);
-    m_errors->setPalette(ErrorPalette());
-    m_errors->hide();
     m_table->setModel(m_model);
     m_splitter->setStretchFactor(0, 3);
     m_splitter->setStretchFactor(1, 2);

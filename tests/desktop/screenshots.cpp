@@ -295,7 +295,7 @@ private:
         window.Commands()[Do<&LocusCommands::Edit>].trigger();
         Settle();
         QDialog& editor = OpenEditor();
-        editor.resize(1280, 1000);
+        editor.resize(1340, 1000);
         Settle();
         Take(editor, "editor-large-text");
         Close(editor);

@@ -10,7 +10,9 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <functional>
 #include <set>
+#include <span>
 #include <utility>
 
 namespace Tamrivo
@@ -19,12 +21,17 @@ namespace Tamrivo
 namespace
 {
 
-/// A key with its first bytes as numbers, which tell nearly all keys apart without a look at it.
-struct TagKey
+/// The first bytes of a tag's sort key as numbers, which tell nearly all tags apart.
+struct TagStart
 {
     std::uint64_t First;
     std::uint64_t Second;
     std::uint32_t Position;
+
+    bool operator<(const TagStart& other) const
+    {
+        return First != other.First ? First < other.First : Second < other.Second;
+    }
 };
 
 std::uint64_t BytesAt(const std::string& key, std::size_t place)
@@ -35,31 +42,41 @@ std::uint64_t BytesAt(const std::string& key, std::size_t place)
     return bytes;
 }
 
+/// Puts tags that begin alike in order.
+void OrderByWholeKey(std::span<TagStart> alike, const std::vector<LibraryLocus>& loci)
+{
+    std::vector<std::pair<std::string, std::uint32_t>> keys;
+    for (const TagStart& tag : alike)
+        keys.emplace_back(SortKey(ColumnKind::Tags, loci[tag.Position].Tag, false), tag.Position);
+    std::ranges::sort(keys);
+    for (std::size_t at = 0; at < alike.size(); ++at)
+        alike[at].Position = keys[at].second;
+}
+
 /// The positions of all loci in the order of their tags.
 std::vector<std::uint32_t> OrderByTag(const std::vector<LibraryLocus>& loci)
 {
-    std::vector<std::string> keys;
-    std::vector<TagKey> order;
-    keys.reserve(loci.size());
+    std::vector<TagStart> order;
     order.reserve(loci.size());
     for (const LibraryLocus& locus : loci)
     {
-        const std::string& key = keys.emplace_back(SortKey(ColumnKind::Tags, locus.Tag, false));
+        const std::string key = SortKey(ColumnKind::Tags, locus.Tag, false);
         order.push_back(
             {BytesAt(key, 0), BytesAt(key, 8), static_cast<std::uint32_t>(order.size())});
     }
-    std::ranges::sort(order, [&keys](const TagKey& left, const TagKey& right) {
-        if (left.First != right.First)
-            return left.First < right.First;
-        if (left.Second != right.Second)
-            return left.Second < right.Second;
-        const int compared = keys[left.Position].compare(keys[right.Position]);
-        return compared != 0 ? compared < 0 : left.Position < right.Position;
-    });
+    std::ranges::sort(order, std::less<>());
     std::vector<std::uint32_t> positions;
     positions.reserve(order.size());
-    for (const TagKey& key : order)
-        positions.push_back(key.Position);
+    for (auto start = order.begin(); start != order.end();)
+    {
+        auto end = start + 1;
+        while (end != order.end() && !(*start < *end))
+            ++end;
+        if (end - start > 1)
+            OrderByWholeKey({start, end}, loci);
+        for (; start != end; ++start)
+            positions.push_back(start->Position);
+    }
     return positions;
 }
 

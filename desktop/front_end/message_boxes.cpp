@@ -32,7 +32,7 @@ MessageAnswer ShowMessageBox(QWidget* parent, const std::string& text, std::int3
 
 void OpenLog(QWidget* parent)
 {
-    const QString path = QString::fromStdString((StateDirectory() / "tamrivo.log").string());
+    const QString path = QString::fromStdString(LogFile().string());
     if (!QFileInfo::exists(path))
         QMessageBox::information(parent, "Log", "There is no log yet: nothing has failed so far.");
     else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))

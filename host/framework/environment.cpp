@@ -26,6 +26,11 @@ std::filesystem::path StateDirectory()
     return (base.is_absolute() ? base : Variable("HOME") / ".local" / "state") / "tamrivo";
 }
 
+std::filesystem::path LogFile()
+{
+    return StateDirectory() / "tamrivo.log";
+}
+
 void UseEnvironmentLocale()
 {
     try

@@ -18,8 +18,8 @@ spdlog::sink_ptr OpenSink()
     constexpr std::size_t olderFiles = 1;
     try
     {
-        return std::make_shared<spdlog::sinks::rotating_file_sink_mt>(
-            StateDirectory() / "tamrivo.log", fileSize, olderFiles);
+        return std::make_shared<spdlog::sinks::rotating_file_sink_mt>(LogFile(), fileSize,
+                                                                      olderFiles);
     }
     catch (const spdlog::spdlog_ex&)
     {

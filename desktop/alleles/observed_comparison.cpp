@@ -144,12 +144,15 @@ void ObservedComparison::Show()
     if (m_sizes.empty())
         return;
     const std::size_t outside = m_picture.Observed()->Outside.size();
-    QString text =
-        QString("%1 observed sizes, %2 of them in no bin.").arg(m_sizes.size()).arg(outside);
+    QString text = QString("%1 observed sizes (grey), %2 of them in no bin (triangles).")
+                       .arg(m_sizes.size())
+                       .arg(outside);
     if (m_fit)
     {
         for (const std::string& sentence : WordsOf(*m_fit))
             text += "\n" + ToQString(sentence);
+        if (m_fit->IsProposed)
+            text += "\nThe proposed bins are dashed.";
     }
     m_words->setText(text);
 }

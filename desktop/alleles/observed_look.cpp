@@ -60,6 +60,7 @@ void DrawProposal(QPainter& painter, const LengthAxis& axis, const QRectF& place
 {
     constexpr double share = 0.3; // of the height
     constexpr double mark = 4;    // pixels
+    painter.save();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(palette.color(QPalette::Text), 2, Qt::DashLine));
     const double height = place.height() * share;
@@ -78,6 +79,7 @@ void DrawProposal(QPainter& painter, const LengthAxis& axis, const QRectF& place
         arrow.lineTo(x + mark, place.bottom() + mark);
         painter.drawPath(arrow);
     }
+    painter.restore();
 }
 
 void DrawCount(QPainter& painter, const QRectF& bin, std::size_t count, const QPalette& palette)

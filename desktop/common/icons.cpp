@@ -38,6 +38,7 @@ constexpr OwnIcon ownIcons[] = {
     {"document-save", "M4 4h13l3 3v13H4z M8 4v5h8V4 M7 20v-7h10v7"},
     {"edit-copy", "M8 8h12v12H8z M16 8V4H4v12h4"},
     {"edit-delete", "M5 7h14 M9 7V4h6v3 M7 7l1 13h8l1-13 M10 11v6 M14 11v6"},
+    {"dialog-warning", "M12 4L21 20H3z M12 10v5 M12 17v1"},
     {"edit-find", "M10 4a6 6 0 1 0 .01 0z M14.5 14.5L20 20"},
     {"edit-paste", "M6 5h12v15H6z M9 3h6v4H9z M9 12h6 M9 16h6"},
     {"edit-redo", "M20 9H9a5 5 0 0 0 0 10h4 M16 5l4 4-4 4"},

@@ -37,6 +37,7 @@ struct KindText
 constexpr KindText kinds[] = {
     {LocusGroup::Kind::All, "", "Library", "x-office-spreadsheet"},
     {LocusGroup::Kind::Recent, "", "Recent", "document-revert"},
+    {LocusGroup::Kind::Problems, "", "Problems", "dialog-warning"},
     {LocusGroup::Kind::Panel, "Panels", "", ""},
     {LocusGroup::Kind::Dye, "Dyes", "", ""},
     {LocusGroup::Kind::Project, "Projects", "", ""},
@@ -58,6 +59,16 @@ LocusGroup GroupOf(const QTreeWidgetItem& item)
 bool IsHeading(const QTreeWidgetItem& item)
 {
     return item.data(nameColumn, kindRole).toInt() == noGroup;
+}
+
+QString TipOf(const LocusGroup& group, const QString& text)
+{
+    switch (group.What)
+    {
+    case LocusGroup::Kind::Recent: return QString("Changed in the last %1 days").arg(RecentDays);
+    case LocusGroup::Kind::Problems: return "A check finds something in them";
+    default: return text;
+    }
 }
 
 } // namespace
@@ -121,9 +132,7 @@ void GroupTree::Show(const std::vector<CountedGroup>& groups, const Library& lib
         auto* item = *text.Heading == '\0' ? new QTreeWidgetItem(this)
                                            : new QTreeWidgetItem(HeadingFor(group.What));
         item->setText(nameColumn, *text.Heading == '\0' ? QString(text.Title) : group.Name);
-        item->setToolTip(nameColumn, group.What == LocusGroup::Kind::Recent
-                                         ? QString("Changed in the last %1 days").arg(RecentDays)
-                                         : item->text(nameColumn));
+        item->setToolTip(nameColumn, TipOf(group, item->text(nameColumn)));
         item->setText(countColumn, QString::number(loci));
         item->setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(nameColumn, kindRole, static_cast<int>(group.What));

@@ -4,7 +4,8 @@
 #include "desktop/common/icons.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
-#include "desktop/lanes/locus_lanes.h"
+#include "desktop/findings/finding_watch.h"
+#include "desktop/findings/findings_view.h"
 #include "desktop/lanes/locus_lanes.h"
 #include "desktop/library/library_columns.h"
 #include "desktop/library/library_model.h"
@@ -23,6 +24,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <string_view>
 
 namespace Tamrivo
 {
@@ -60,7 +63,9 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
       m_splitter(new QSplitter(Qt::Vertical, this)),
       m_model(new LibraryModel(this)),
       m_table(new LibraryTable(m_splitter)),
-      m_preview(new LocusPreview(actions, m_splitter))
+      m_preview(new LocusPreview(actions, m_splitter)),
+      m_watch(new FindingWatch(this)),
+      m_findings(new FindingsView(*m_watch, this))
 {
     m_preview->Picture().allelesOf = [this](const std::string& tag) {
         const auto locus = m_store->FindLocus(tag);
@@ -70,7 +75,7 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     m_search->setAccessibleName("Search");
     m_search->setClearButtonEnabled(true);
     m_search->setPlaceholderText("Search, such as: TH01   dye:blue   panel:H24   range:100-200   "
-                                 "allele:9.3   used:no");
+                                 "allele:9.3   used:no   problem:");
     m_search->addAction(ThemeIcon("edit-find"), QLineEdit::LeadingPosition);
     m_table->setModel(m_model);
     m_splitter->setStretchFactor(0, 3);
@@ -83,6 +88,11 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     layout->addWidget(m_errors);
     layout->addWidget(m_splitter, 1);
 
+    m_preview->addTab(m_findings, "&Findings");
+    connect(m_watch, &FindingWatch::Changed, this,
+            [this] { m_actions.Run([this] { TakeFindings(); }); });
+    connect(m_findings, &FindingsView::Chosen, this,
+            [this](const Finding& finding) { ChooseTags({finding.Tag}); });
     m_chosenChanged.setSingleShot(true);
     m_chosenChanged.setInterval(0);
     connect(&m_chosenChanged, &QTimer::timeout, this, [this] {
@@ -109,6 +119,7 @@ LibraryView::~LibraryView()
 void LibraryView::SetStore(Store* store)
 {
     m_store = store;
+    m_watch->Stop();
     m_model->SetLibrary(nullptr);
     m_library.reset();
     m_preview->Show({});
@@ -123,8 +134,37 @@ void LibraryView::Read()
     auto library = std::make_unique<Library>(*m_store);
     m_model->SetLibrary(library.get());
     m_library = std::move(library);
+    m_library->TakeFindings(m_watch->Found());
+    m_watch->Check(*m_store);
     Filter();
     ChooseNumbers(chosen);
+}
+
+void LibraryView::TakeFindings()
+{
+    if (!m_library)
+        return;
+    m_library->TakeFindings(m_watch->Found());
+    Filter();
+}
+
+void LibraryView::ShowFindings()
+{
+    std::unordered_set<std::string_view> found;
+    for (const Finding& finding : m_watch->Found())
+        found.insert(finding.Tag);
+    std::set<std::string> shown;
+    for (const std::uint32_t position : m_model->Positions())
+    {
+        const std::string& tag = m_library->Loci()[position].Tag;
+        if (found.contains(tag))
+            shown.insert(tag);
+    }
+    // What no locus has is missing from an analysis parameter.
+    const bool withNoLocus = m_group.What == LocusGroup::Kind::All ||
+                             m_group.What == LocusGroup::Kind::Parameter ||
+                             m_group.What == LocusGroup::Kind::Problems;
+    m_findings->ShowLoci(std::move(shown), withNoLocus);
 }
 
 void LibraryView::Filter()
@@ -144,6 +184,7 @@ void LibraryView::Filter()
     std::vector<std::uint32_t> shown;
     std::ranges::set_intersection(ofGroup, found.Loci, std::back_inserter(shown));
     m_model->Show(std::move(shown));
+    ShowFindings();
     ChooseNumbers(chosen);
     m_chosenChanged.start();
 }

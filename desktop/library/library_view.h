@@ -15,6 +15,8 @@ class QSplitter;
 namespace Tamrivo
 {
 
+class FindingsView;
+class FindingWatch;
 class LibraryModel;
 class LibraryTable;
 class Store;
@@ -56,6 +58,10 @@ public:
 
     LibraryTable& LociTable() const { return *m_table; }
     LocusPreview& Preview() const { return *m_preview; }
+    /// Checks the loci whenever they are read.
+    FindingWatch& Watch() const { return *m_watch; }
+    /// A tab of the preview: what is found in the loci on show.
+    FindingsView& FoundProblems() const { return *m_findings; }
 
 signals:
     /// Shortly after another choice of loci, or other loci are on show.
@@ -65,6 +71,8 @@ signals:
 private:
     void Filter();
     void ShowPreview();
+    void TakeFindings();
+    void ShowFindings();
 
     const Actions& m_actions;
     Store* m_store = nullptr;
@@ -79,6 +87,8 @@ private:
     LibraryModel* m_model;
     LibraryTable* m_table;
     LocusPreview* m_preview;
+    FindingWatch* m_watch;
+    FindingsView* m_findings;
 };
 
 } // namespace Tamrivo

@@ -14,6 +14,8 @@ namespace Tamrivo
 namespace
 {
 
+constexpr const char* withProblems = "problem:";
+
 /// Tells of a locus whether it was changed within the last days.
 auto IsRecent()
 {
@@ -56,7 +58,8 @@ std::vector<CountedGroup> GroupsOf(Library& library, const QStringList& searches
     const auto& loci = library.Loci();
     std::vector<CountedGroup> groups = {
         {{Kind::All, {}}, loci.size()},
-        {{Kind::Recent, {}}, static_cast<std::size_t>(std::ranges::count_if(loci, IsRecent()))}};
+        {{Kind::Recent, {}}, static_cast<std::size_t>(std::ranges::count_if(loci, IsRecent()))},
+        {{Kind::Problems, {}}, Search(library, withProblems).Loci.size()}};
     AddNames(groups, Kind::Panel, library.Panels());
     std::vector<std::size_t> ofDye(library.LabDyes().All().size());
     for (const LibraryLocus& locus : loci)
@@ -75,13 +78,14 @@ std::vector<CountedGroup> GroupsOf(Library& library, const QStringList& searches
     return groups;
 }
 
-std::vector<std::uint32_t> LociOf(const Library& library, const LocusGroup& group,
+std::vector<std::uint32_t> LociOf(Library& library, const LocusGroup& group,
                                   const std::optional<std::unordered_set<std::int32_t>>& selected)
 {
     const std::string name = FromQString(group.Name);
     switch (group.What)
     {
     case LocusGroup::Kind::Recent: return Those(library, IsRecent());
+    case LocusGroup::Kind::Problems: return Search(library, withProblems).Loci;
     case LocusGroup::Kind::Panel:
         return Those(library, [&](const LibraryLocus& locus) {
             return library.Panels()[locus.Panel].Name == name;

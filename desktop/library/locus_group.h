@@ -17,7 +17,8 @@ struct LocusGroup
     enum class Kind
     {
         All,
-        Recent, ///< Changed within the last days.
+        Recent,   ///< Changed within the last days.
+        Problems, ///< In which a check finds something.
         Panel,
         Dye,
         Project,
@@ -46,7 +47,7 @@ std::vector<CountedGroup> GroupsOf(Library& library, const QStringList& searches
 
 /// Positions of the group's loci. Those of a search are all: it is the search that narrows them.
 /// @param selected numbers of the loci that the group's parameter has at present, if it is open
-std::vector<std::uint32_t> LociOf(const Library& library, const LocusGroup& group,
+std::vector<std::uint32_t> LociOf(Library& library, const LocusGroup& group,
                                   const std::optional<std::unordered_set<std::int32_t>>& selected);
 
 } // namespace Tamrivo

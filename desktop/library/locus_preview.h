@@ -32,6 +32,7 @@ public:
         Lanes,
         Details,
         Compare,
+        Findings, ///< Added by what knows them.
     };
 
     LocusPreview(const Actions& actions, QWidget* parent);

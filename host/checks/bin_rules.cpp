@@ -66,7 +66,7 @@ void CheckBinOverlap(const CheckedLocus& locus, Findings& findings)
     }
 }
 
-void CheckBinOverlapOfLoci(const LocusGroup& group, Findings& findings)
+void CheckBinOverlapOfLoci(const LociTogether& group, Findings& findings)
 {
     std::map<std::int32_t, std::vector<Stretch>> binsOfDye;
     for (std::size_t at = 0; at < group.Loci.size(); ++at)

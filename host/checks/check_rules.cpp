@@ -24,7 +24,7 @@ void CheckLocus(const CheckedLocus& locus, const ChosenRules& rules, std::vector
     }
 }
 
-void CheckGroup(const LocusGroup& group, const ChosenRules& rules, std::vector<Finding>& found)
+void CheckGroup(const LociTogether& group, const ChosenRules& rules, std::vector<Finding>& found)
 {
     for (std::size_t at = 0; at < CheckRuleCount; ++at)
     {

@@ -28,7 +28,7 @@ struct CheckRule
     Severity Weight;
     std::string_view Meaning; ///< A line for people: what the rule finds.
     void (*OfLocus)(const CheckedLocus&, Findings&);
-    void (*OfGroup)(const LocusGroup&, Findings&);
+    void (*OfGroup)(const LociTogether&, Findings&);
 };
 
 /// Something that a rule has found.
@@ -72,7 +72,7 @@ private:
 };
 
 void CheckBinOverlap(const CheckedLocus& locus, Findings& findings);
-void CheckBinOverlapOfLoci(const LocusGroup& group, Findings& findings);
+void CheckBinOverlapOfLoci(const LociTogether& group, Findings& findings);
 void CheckOutsideBin(const CheckedLocus& locus, Findings& findings);
 void CheckOrder(const CheckedLocus& locus, Findings& findings);
 void CheckSameName(const CheckedLocus& locus, Findings& findings);
@@ -81,15 +81,15 @@ void CheckSizeName(const CheckedLocus& locus, Findings& findings);
 void CheckRepeatLength(const CheckedLocus& locus, Findings& findings);
 void CheckLetters(const CheckedLocus& locus, Findings& findings);
 void CheckUnknownDye(const CheckedLocus& locus, Findings& findings);
-void CheckMissingLocus(const LocusGroup& group, Findings& findings);
-void CheckRangeOverlap(const LocusGroup& group, Findings& findings);
+void CheckMissingLocus(const LociTogether& group, Findings& findings);
+void CheckRangeOverlap(const LociTogether& group, Findings& findings);
 void CheckOutsideRange(const CheckedLocus& locus, Findings& findings);
 void CheckStutterRange(const CheckedLocus& locus, Findings& findings);
 void CheckLadderGap(const CheckedLocus& locus, Findings& findings);
 void CheckOddBin(const CheckedLocus& locus, Findings& findings);
 void CheckNoWidth(const CheckedLocus& locus, Findings& findings);
 void CheckBinsTouch(const CheckedLocus& locus, Findings& findings);
-void CheckSamePrimers(const LocusGroup& group, Findings& findings);
+void CheckSamePrimers(const LociTogether& group, Findings& findings);
 void CheckConvention(const CheckedLocus& locus, Findings& findings);
 
 /// The rules, errors first. Their order is that of a locus's findings.
@@ -149,6 +149,6 @@ inline ChosenRules AllCheckRules()
 void CheckLocus(const CheckedLocus& locus, const ChosenRules& rules, std::vector<Finding>& found);
 /// Appends what the rules find in loci that are analysed together. Where many overlap, each is
 /// reported with one of the others, so that it takes n log n time for n alleles.
-void CheckGroup(const LocusGroup& group, const ChosenRules& rules, std::vector<Finding>& found);
+void CheckGroup(const LociTogether& group, const ChosenRules& rules, std::vector<Finding>& found);
 
 } // namespace Tamrivo

@@ -64,7 +64,7 @@ void CheckRun::CheckOne(std::size_t number)
 
 void CheckRun::CheckTogether(const CheckSource::Group& group)
 {
-    LocusGroup together{group.Name, {}, group.MissingTagIDs};
+    LociTogether together{group.Name, {}, group.MissingTagIDs};
     for (const std::size_t locus : group.Loci)
         together.Loci.push_back(&*m_loci[locus]);
     CheckGroup(together, m_rules, m_found);

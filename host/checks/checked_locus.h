@@ -28,7 +28,7 @@ struct CheckedLocus
 };
 
 /// Loci that are analysed together: those of a panel or of an analysis parameter.
-struct LocusGroup
+struct LociTogether
 {
     std::string Name; ///< "panel Panel-17", "analysis parameter Casework"
     std::vector<const CheckedLocus*> Loci;

@@ -42,7 +42,7 @@ std::string RangeText(const CheckedLocus& locus)
 using RangesOfDye = std::map<std::int32_t, std::vector<Stretch>>;
 using LocusPairs = std::set<std::pair<std::size_t, std::size_t>>;
 
-RangesOfDye RangesOf(const LocusGroup& group)
+RangesOfDye RangesOf(const LociTogether& group)
 {
     RangesOfDye ranges;
     for (std::size_t at = 0; at < group.Loci.size(); ++at)
@@ -67,7 +67,7 @@ void ReportRangeOverlap(const CheckedLocus& locus, const CheckedLocus& other, Fi
 
 /// Alleles of a locus that lie in the range of another. The range and the allele's place, a
 /// stretch without length, overlap by more than roundedRange on either side of the place.
-void ReportStrayAlleles(const LocusGroup& group, const std::vector<Stretch>& ranges,
+void ReportStrayAlleles(const LociTogether& group, const std::vector<Stretch>& ranges,
                         const LocusPairs& reported, Findings& findings)
 {
     std::vector<Stretch> stretches = ranges;
@@ -139,14 +139,14 @@ void CheckUnknownDye(const CheckedLocus& locus, Findings& findings)
                          "The dye " + locus.Dye + " is none of the store's; expected one of them");
 }
 
-void CheckMissingLocus(const LocusGroup& group, Findings& findings)
+void CheckMissingLocus(const LociTogether& group, Findings& findings)
 {
     for (const std::int32_t tagID : group.MissingTagIDs)
         findings.OfNoLocus("The " + group.Name + " names a locus that is gone, number " +
                            IntegerText(tagID) + "; expected loci that the store has");
 }
 
-void CheckRangeOverlap(const LocusGroup& group, Findings& findings)
+void CheckRangeOverlap(const LociTogether& group, Findings& findings)
 {
     for (const auto& [dye, ranges] : RangesOf(group))
     {
@@ -188,7 +188,7 @@ void CheckStutterRange(const CheckedLocus& locus, Findings& findings)
                               ", to include it while stutter is searched for");
 }
 
-void CheckSamePrimers(const LocusGroup& group, Findings& findings)
+void CheckSamePrimers(const LociTogether& group, Findings& findings)
 {
     std::map<std::pair<std::string, std::string>, const CheckedLocus*> firstWith;
     for (const CheckedLocus* locus : group.Loci)

@@ -124,13 +124,9 @@ void LocusLanes::ShowObserved(const QString& path)
     const PanelText text = LoadPanelFile(FromQString(path));
     const ObservedTable table = ReadObservedTable(text.Text, text.Name);
     m_observed.clear();
-    for (const auto& [marker, lines] : table.LinesOfMarker())
-    {
-        std::vector<double>& sizes = m_observed[marker];
-        for (const std::size_t line : lines)
-            sizes.insert(sizes.end(), table.Lines[line].Sizes.begin(),
-                         table.Lines[line].Sizes.end());
-    }
+    const MarkerLines lines(table);
+    for (const auto& [marker, ofMarker] : lines.All())
+        m_observed[marker] = table.SizesIn(ofMarker);
     m_picture->ForgetDetails();
 }
 

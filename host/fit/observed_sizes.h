@@ -39,6 +39,8 @@ public:
     /// Numbers of a locus's lines: those whose marker is its tag, else those with its name, case
     /// aside.
     std::vector<std::size_t> Of(const std::string& tag, const std::string& name) const;
+    /// Numbers of the lines by the marker's `LookupKey`.
+    const std::unordered_map<std::string, std::vector<std::size_t>>& All() const { return m_lines; }
 
 private:
     std::unordered_map<std::string, std::vector<std::size_t>> m_lines;

@@ -47,7 +47,7 @@ void EditorWindows::OpenNew(HostApplication& host)
     Show(std::make_unique<Editor>(Editor{{}, {}, host.OpenNewLocus(false), nullptr}));
 }
 
-void EditorWindows::Open(HostApplication& host, const std::string& tag, bool binning)
+WizardDialog& EditorWindows::Open(HostApplication& host, const std::string& tag, bool binning)
 {
     const auto locus = host.StoredLocus(tag);
     const auto open = std::ranges::find_if(
@@ -59,9 +59,10 @@ void EditorWindows::Open(HostApplication& host, const std::string& tag, bool bin
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
     window.activateWindow();
+    return window;
 }
 
-void EditorWindows::Show(std::unique_ptr<Editor> editor)
+WizardDialog& EditorWindows::Show(std::unique_ptr<Editor> editor)
 {
     editor->Window = std::make_unique<WizardDialog>(*editor->Wizard.Session, m_actions, nullptr);
     Editor& shown = *m_editors.emplace_back(std::move(editor));
@@ -71,6 +72,7 @@ void EditorWindows::Show(std::unique_ptr<Editor> editor)
             [this](const QString& tag) { emit Stored(tag); });
     connect(shown.Window.get(), &QDialog::finished, this, [this, &shown] { End(shown); });
     shown.Window->show();
+    return *shown.Window;
 }
 
 void EditorWindows::End(Editor& editor)

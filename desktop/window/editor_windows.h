@@ -11,6 +11,7 @@ namespace Tamrivo
 
 class Actions;
 class HostApplication;
+class WizardDialog;
 
 /// The locus editors that stand beside the window: any number at a time, one a locus.
 class EditorWindows : public QObject
@@ -25,7 +26,7 @@ public:
     /// Opens an editor; that of a locus which is open already is brought to the front. The host
     /// must outlive the editors. Both raise what the opening raises.
     void OpenNew(HostApplication& host);
-    void Open(HostApplication& host, const std::string& tag, bool binning);
+    WizardDialog& Open(HostApplication& host, const std::string& tag, bool binning);
 
     /// Closes all, each after its question when something was changed. Gives whether none is left.
     bool CloseAll();
@@ -37,7 +38,7 @@ signals:
 private:
     struct Editor;
 
-    void Show(std::unique_ptr<Editor> editor);
+    WizardDialog& Show(std::unique_ptr<Editor> editor);
     void End(Editor& editor);
 
     const Actions& m_actions;

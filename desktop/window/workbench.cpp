@@ -5,7 +5,11 @@
 #include "desktop/common/actions.h"
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
+#include "desktop/findings/finding_place.h"
+#include "desktop/findings/finding_watch.h"
+#include "desktop/findings/findings_view.h"
 #include "desktop/front_end/desktop_front_end.h"
+#include "desktop/front_end/wizard_dialog.h"
 #include "desktop/lanes/locus_lanes.h"
 #include "desktop/library/group_tree.h"
 #include "desktop/library/library_table.h"
@@ -99,6 +103,13 @@ void Workbench::ConnectParts()
     connect(m_library, &LibraryView::Ticked, this, [this](const std::string& tag, bool isTicked) {
         UserActions().Run([&] { m_parameter->Select({tag}, isTicked); });
     });
+    connect(&m_library->Watch(), &FindingWatch::Changed, this, [this] {
+        // The number of loci with problems.
+        if (m_library->Loci() != nullptr)
+            m_groups->Show(GroupsOf(*m_library->Loci(), KeptSearches()), *m_library->Loci());
+    });
+    connect(&m_library->FoundProblems(), &FindingsView::Chosen, this,
+            [this](const Finding& finding) { UserActions().Run([&] { LeadTo(finding); }); });
     connect(&m_editors, &EditorWindows::Stored, this,
             [this](const QString& tag) { Reload("Stored " + tag + ".", {FromQString(tag)}); });
     m_library->Preview().Picture().onClicked = [this](const std::string& tag) {
@@ -229,6 +240,12 @@ void Workbench::ChooseGroup(const LocusGroup& group)
     if (isParameter)
         m_library->Preview().setCurrentIndex(LocusPreview::Lanes);
     emit Changed();
+}
+
+void Workbench::LeadTo(const Finding& finding)
+{
+    if (!finding.Tag.empty())
+        Tamrivo::LeadTo(m_editors.Open(Host(), finding.Tag, false).Page(), finding);
 }
 
 void Workbench::ShowAllLoci()

@@ -15,6 +15,7 @@ class QStackedWidget;
 namespace Tamrivo
 {
 
+struct Finding;
 struct LocusGroup;
 class DesktopFrontEnd;
 class GroupTree;
@@ -97,6 +98,8 @@ signals:
 private:
     void ConnectParts();
     void ChooseGroup(const LocusGroup& group);
+    /// Opens the editor at what a finding is about.
+    void LeadTo(const Finding& finding);
     void DropOn(const std::string& parameter, const std::vector<std::string>& tags);
     void ShowParameter(const std::string& name);
     void ShowSelection();

@@ -20,6 +20,7 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -49,6 +50,17 @@ constexpr WizardText wizardTexts[] = {
     {LocusEditorWizard.Name, "Locus", "The locus can't be stored as it is.", true},
     {SaveAsWizard.Name, "Save Locus Tag As", "Enter a tag that no other locus has."},
 };
+
+QLabel* NewNotice(const std::string& text)
+{
+    auto* notice = new QLabel(ToQString(text));
+    notice->setObjectName("notice");
+    notice->setTextFormat(Qt::PlainText);
+    notice->setWordWrap(true);
+    notice->setFrameShape(QFrame::StyledPanel);
+    notice->setMargin(notice->fontMetrics().averageCharWidth());
+    return notice;
+}
 
 WizardText TextOf(const std::string& wizard)
 {
@@ -132,6 +144,8 @@ void WizardDialog::LayOut()
     scroll->setWidget(m_page);
 
     auto* layout = new QVBoxLayout(this);
+    if (!m_wizard.Notice.empty())
+        layout->addWidget(NewNotice(m_wizard.Notice));
     layout->addWidget(scroll, 1);
     layout->addLayout(MakeBottomRow());
     const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());

@@ -118,8 +118,9 @@ constexpr Command commands[] = {
     {"&Locus", "&Edit Locus...", "document-edit", "Ctrl+L", "Edit the chosen locus",
      Need::Store | Need::OneLocus, CommandPlace::LocusMenu, Do<&LocusCommands::Edit>},
     {"&Locus", "Edit for &Binning...", "document-properties", "Ctrl+B",
-     "Edit the alleles of the chosen locus for binning", Need::Store | Need::OneLocus,
-     CommandPlace::LocusMenu, Do<&LocusCommands::EditForBinning>},
+     "Edit sizes and bins of the alleles of the chosen locus; its naming convention and its list "
+     "stay",
+     Need::Store | Need::OneLocus, CommandPlace::LocusMenu, Do<&LocusCommands::EditForBinning>},
     {"&Locus", "D&uplicate Locus...", "edit-copy", "Ctrl+D",
      "Store a copy of the chosen locus under another tag", Need::Writing | Need::OneLocus,
      CommandPlace::LocusMenu, Do<&LocusCommands::Duplicate>},

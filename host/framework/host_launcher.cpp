@@ -1,6 +1,7 @@
 #include "host/framework/host_launcher.h"
 
 #include "core/error.h"
+#include "core/text.h"
 #include "editor/locus_editor_page.h"
 #include "host/framework/host_application.h"
 #include "host/framework/wizard_session.h"
@@ -69,6 +70,18 @@ NewPage CreatePage(std::string_view wizard, HostApplication& host)
                   "There is no wizard \"" + std::string(wizard) + "\"");
 }
 
+std::string NoticeOf(std::string_view wizard, const ParameterCollection& parameters,
+                     const Store& store)
+{
+    std::string notice;
+    if (store.IsReadOnly())
+        notice = "The store is read-only: nothing that is entered here can be stored. ";
+    if (wizard == LocusEditorWizard.Name && parameters.KeyExists(ParameterKey::Binning))
+        notice += "For binning: sizes and bins of the alleles that there are. The naming "
+                  "convention and a new list are left to editing outside of binning. ";
+    return TrimRight(notice);
+}
+
 } // namespace
 
 std::shared_ptr<LauncherResult> HostLauncher::Start(
@@ -93,6 +106,7 @@ OpenWizard HostLauncher::Open(std::string_view wizard,
     pageBase->SetParameters(parameters);
 
     auto session = std::make_unique<WizardSession>(std::string(wizard), page.Form, pageBase);
+    session->Notice = NoticeOf(wizard, *parameters, m_host.Store());
     Connection failures = session->ValidateFailed.Connect(
         [this](const ErrorRecord& error) { m_host.ShowFailure(error); });
     Connection menus = m_host.AttachForm(session->Page());

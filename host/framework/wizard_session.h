@@ -30,6 +30,9 @@ public:
     UserControl& Page() { return *m_page; }
     PageBase& Base() { return *m_pageBase; }
 
+    /// What a person should know of the page before they enter anything; mostly nothing.
+    std::string Notice;
+
     void Activate();
     void Deactivate();
 

@@ -3,6 +3,7 @@
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -162,6 +163,21 @@ TEST_F(WizardQuestions, AFailureIsTakenInPlainWordsAndNothingIsLost)
             Discard(editor);
         }
     });
+}
+
+TEST_F(WizardQuestions, APageSaysWhatItIsForBeforeAnythingIsTyped)
+{
+    for (const bool binning : {false, true})
+    {
+        OnModal([binning](QDialog& editor) {
+            const auto* notice = editor.findChild<QLabel*>("notice");
+            EXPECT_EQ(notice != nullptr, binning);
+            EXPECT_TRUE(!binning ||
+                        (notice->isVisible() && notice->text().startsWith("For binning: ")));
+            editor.reject();
+        });
+        Host().EditLocus("D3S1358", binning);
+    }
 }
 
 TEST_F(WizardQuestions, AMessageBoxHasWhatItsKindSays)

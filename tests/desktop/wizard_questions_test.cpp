@@ -194,16 +194,16 @@ TEST_F(WizardQuestions, AMessageBoxHasWhatItsKindSays)
         {MessageKind::Exclamation, QMessageBox::Warning, QMessageBox::Ok, MessageAnswer::Ok},
         {MessageKind::Critical, QMessageBox::Critical, QMessageBox::Ok, MessageAnswer::Ok},
     };
-    for (const auto& [kind, icon, buttons, escaped] : cases)
+    for (const auto& each : cases)
     {
         OnModal([&](QDialog& dialog) {
             auto& box = dynamic_cast<QMessageBox&>(dialog);
             EXPECT_EQ((box.windowTitle() + '|' + box.text()).toStdString(), "Title|Text");
-            EXPECT_EQ(box.icon(), icon);
-            EXPECT_EQ(box.standardButtons(), buttons);
+            EXPECT_EQ(box.icon(), each.Icon);
+            EXPECT_EQ(box.standardButtons(), each.Buttons);
             QTest::keyClick(&box, Qt::Key_Escape);
         });
-        EXPECT_EQ(m_frontEnd.ShowMessage("Text", kind, "Title"), escaped);
+        EXPECT_EQ(m_frontEnd.ShowMessage("Text", each.Kind, "Title"), each.Escaped);
     }
 }
 

@@ -82,11 +82,11 @@ void EditorWindows::End(Editor& editor)
         session.IsCancelled() ? std::string() : StoredTag(*editor.Wizard.Parameters, editor.Tag);
     editor.LocusID.reset();
     // The window is still at work on the click that has ended it.
-    QTimer::singleShot(0, this, [this, ended = &editor] {
+    QTimer::singleShot(0, this, [this, ended = &editor, stored] {
         std::erase_if(m_editors, [&](const auto& one) { return one.get() == ended; });
+        if (!stored.empty())
+            emit Stored(ToQString(stored));
     });
-    if (!stored.empty())
-        emit Stored(ToQString(stored));
 }
 
 bool EditorWindows::CloseAll()

@@ -9,12 +9,15 @@
 #include "host/framework/host_application.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
+
+#include <utility>
 
 namespace Tamrivo
 {
@@ -28,6 +31,23 @@ QString StoreName(const std::string& address)
     const QString text = ToQString(address);
     return text.contains("://") ? text.section('/', -1).section('?', 0, 0)
                                 : QFileInfo(text).fileName();
+}
+
+/// Marks the theme that is in use among the commands that choose one.
+void MarkTheme(const Commands& commands, QObject* window)
+{
+    const std::pair<CommandProcedure, Theme> themes[] = {
+        {Do<&ViewCommands::UseDesktopTheme>, Theme::Desktop},
+        {Do<&ViewCommands::UseLightTheme>, Theme::Light},
+        {Do<&ViewCommands::UseDarkTheme>, Theme::Dark},
+    };
+    auto* choice = new QActionGroup(window);
+    for (const auto& [procedure, theme] : themes)
+    {
+        QAction* command = choice->addAction(&commands[procedure]);
+        command->setCheckable(true);
+        command->setChecked(ChosenTheme() == theme);
+    }
 }
 
 } // namespace
@@ -62,6 +82,7 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
             statusBar()->showMessage(news, readingTime);
     });
     m_bench->Offer(m_commands);
+    MarkTheme(m_commands, this);
     RestorePlace(*this, {fontMetrics().averageCharWidth() * 190, fontMetrics().lineSpacing() * 56});
 }
 

@@ -240,6 +240,10 @@ TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
         QTest::keyClick(&Named(list, "filter"), Qt::Key_Return);
     });
     Trigger(Do<&Commands::ShowList>);
+    Trigger(Do<&ViewCommands::UseDarkTheme>);
+    EXPECT_TRUE(m_window->Commands()[Do<&ViewCommands::UseDarkTheme>].isChecked());
+    Trigger(Do<&ViewCommands::UseDesktopTheme>);
+    EXPECT_FALSE(m_window->Commands()[Do<&ViewCommands::UseDarkTheme>].isChecked());
     EXPECT_TRUE(Shown().contains("FGA-2"));
 }
 

@@ -3,7 +3,7 @@
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
 .PHONY: help run test build bench lint sanitize shuffle fuzz screenshots clean \
-	test-windows dist-windows
+	test-windows dist-windows test-kill test-faults test-damage test-server
 
 help:                ## this list
 	@sed -n 's/^\([a-z-]*\):.*## /    make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
@@ -16,6 +16,26 @@ run:                 ## open the program on the default store, or on $TAMRIVO_ST
 
 test: build          ## build everything and run the tests
 	ctest --preset default
+
+# What these do takes long, so that they are no part of `make test`.
+KILLS ?= 1000
+TIMES ?= 10000
+
+test-kill: build     ## kill processes at work on a store, KILLS times
+	cmake --build --preset default --target tamrivo_kill_test
+	build/bin/tamrivo_kill_test $(KILLS)
+
+test-faults: build   ## fail every call of the file system and refuse memory
+	cmake --build --preset default --target tamrivo_fault_test
+	build/bin/tamrivo_fault_test
+
+test-damage: build   ## flip bytes of a store at random, TIMES times
+	cmake --build --preset default --target tamrivo_damage_test
+	build/bin/tamrivo_damage_test $(TIMES)
+
+test-server: build   ## twelve writers, a server killed under load, a standby promoted
+	cmake --build --preset default --target tamrivo_server_load_test
+	build/bin/tamrivo_server_load_test
 
 shuffle: build       ## run every test program three times in a random order
 	scripts/shuffle

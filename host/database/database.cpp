@@ -112,6 +112,7 @@ void Database::BeginSnapshot()
 {
     m_backend->BeginSnapshot(m_session);
     m_undone = false;
+    m_undoOfLevel.push_back(m_undo.size());
     ++m_depth;
 }
 
@@ -121,6 +122,7 @@ void Database::Begin()
     {
         m_backend->Begin(m_session);
         m_undone = false;
+        m_isInDoubt = false;
         m_witness.clear();
     }
     else if (m_undone)
@@ -132,6 +134,7 @@ void Database::Begin()
     {
         m_session << "SAVEPOINT Level" << m_depth;
     }
+    m_undoOfLevel.push_back(m_undo.size());
     ++m_depth;
 }
 
@@ -141,15 +144,39 @@ void Database::Commit()
         throw Failure(StoreError::Database, "Store",
                       "Nothing was stored: the transaction has been taken back");
     if (m_depth == 1)
-        m_backend->Commit(m_session, m_witness);
+    {
+        try
+        {
+            m_backend->Commit(m_session, m_witness);
+        }
+        catch (const soci::soci_error& error)
+        {
+            m_isInDoubt = m_backend->ErrorNumberOf(error) == StoreError::Unknown;
+            throw;
+        }
+        m_undo.clear();
+    }
     else
+    {
         m_session << "RELEASE SAVEPOINT Level" << m_depth - 1;
+    }
+    m_undoOfLevel.pop_back();
     --m_depth;
+}
+
+void Database::Undo() noexcept
+{
+    const std::size_t kept = m_undoOfLevel.empty() ? 0 : m_undoOfLevel.back();
+    if (!m_undoOfLevel.empty())
+        m_undoOfLevel.pop_back();
+    for (; m_undo.size() > kept; m_undo.pop_back())
+        m_undo.back()(m_isInDoubt ? m_witness : std::string());
 }
 
 void Database::RollBack() noexcept
 {
     --m_depth;
+    Undo();
     try
     {
         if (m_depth == 0)
@@ -174,6 +201,11 @@ void Database::RequireReachable(const std::string& consequence)
     if (m_depth > 0)
         return;
     m_backend->Reconnect(m_session);
+    if (m_connectionNumber != m_backend->ConnectionNumber())
+    {
+        m_connectionNumber = m_backend->ConnectionNumber();
+        Reconnected();
+    }
     if (!m_backend->IsReachable(m_session))
         RaiseFailure(consequence, StoreError::Unreachable,
                      "its file was removed or replaced since it was opened");

@@ -30,8 +30,6 @@ public:
 
     /// The address as messages show it.
     const std::string& Name() const { return m_name; }
-    /// Goes up when a lost connection was made anew, whose prepared statements are gone.
-    int ConnectionNumber() const { return m_backend->ConnectionNumber(); }
     bool IsReadOnly() const { return m_readOnly; }
     bool IsInTransaction() const { return m_depth > 0; }
     const Tamrivo::Backend& Backend() const { return *m_backend; }
@@ -44,6 +42,17 @@ public:
     /// Raised before each piece of work and, during a long one, again and again. What the handler
     /// throws ends the work as a failure does.
     Event<> Progress;
+
+    /// A lost connection was made anew, whose prepared statements are gone. They are to be given up
+    /// at once: within a transaction that would spoil it.
+    Event<> Reconnected;
+
+    /// Has `undo` called if what is written in the present transaction is taken back: with an empty
+    /// text or, when it isn't known whether it was stored, with the transaction's witness.
+    void IfUndone(std::function<void(const std::string& witness)> undo)
+    {
+        m_undo.push_back(std::move(undo));
+    }
 
     /// The present moment, as what is written is stamped with it.
     std::function<std::chrono::sys_seconds()> Now = [] {
@@ -128,6 +137,7 @@ private:
     void Begin();
     void Commit();
     void RollBack() noexcept;
+    void Undo() noexcept;
 
     void RequireReachable(const std::string& consequence);
     /// Raises the failure unless the work may be tried again. Lets the error itself go on where
@@ -145,8 +155,12 @@ private:
     std::string m_witness;
     int m_witnesses = 0;
     bool m_readOnly = false;
-    int m_running = 0;     ///< Pieces of work, one inside the other.
-    int m_depth = 0;       ///< Open transactions, one inside the other.
+    int m_running = 0; ///< Pieces of work, one inside the other.
+    int m_depth = 0;   ///< Open transactions, one inside the other.
+    int m_connectionNumber = 0;
+    std::vector<std::function<void(const std::string&)>> m_undo;
+    std::vector<std::size_t> m_undoOfLevel; ///< How many there were when each level began.
+    bool m_isInDoubt = false;               ///< Whether the last commit was stored isn't known.
     bool m_undone = false; ///< The outermost one was taken back while inner ones were open.
 };
 

@@ -10,8 +10,7 @@ class Database;
 /// an inner one that is taken back takes back its own writes alone, and what it has committed
 /// becomes durable with the outermost one.
 ///
-/// Objects that were saved inside a transaction that is taken back keep the numbers they were
-/// given and must not be saved again.
+/// Loci that were saved inside a transaction that is taken back get their numbers from before back.
 class Transaction
 {
 public:

@@ -178,7 +178,10 @@ HistoryRecord History::LocusRecordAt(const std::string& tag, const std::string& 
     }
     const std::string hadTag = "Kind = 'Locus' AND NameKey = :Key AND NameKey <> ''";
     if (const auto last = ReadOne(hadTag + " AND " + upTo + " ORDER BY Number DESC", key))
-        return *ofObject(last->ObjectNumber);
+    {
+        if (auto record = ofObject(last->ObjectNumber))
+            return *record;
+    }
     if (const auto last = ReadOne(hadTag + " ORDER BY Number DESC", key))
     {
         if (auto record = ofObject(last->ObjectNumber))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/event.h"
 #include "host/store/allele_table.h"
 #include "host/store/locus_state.h"
 #include "host/store/stored_locus.h"
@@ -81,8 +82,8 @@ private:
     void Record(const LocusIdentity& identity, const LocusState& state, std::string_view operation);
 
     Database& m_database;
-    std::unique_ptr<Statements> m_statements;
-    int m_preparedOn = 0; ///< `Database::ConnectionNumber`.
+    std::unique_ptr<Statements> m_statements; ///< None on a new connection.
+    Connection m_reconnected;
 };
 
 } // namespace Tamrivo

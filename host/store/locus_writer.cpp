@@ -71,17 +71,17 @@ struct LocusWriter::Statements
     HistoryWriter History;
 };
 
-LocusWriter::LocusWriter(Database& database) : m_database(database) {}
+LocusWriter::LocusWriter(Database& database)
+    : m_database(database),
+      m_reconnected(database.Reconnected.Connect([this] { m_statements.reset(); }))
+{}
 
 LocusWriter::~LocusWriter() = default;
 
 LocusWriter::Statements& LocusWriter::Prepared(soci::session& session)
 {
-    if (!m_statements || m_preparedOn != m_database.ConnectionNumber())
-    {
+    if (!m_statements)
         m_statements = std::make_unique<Statements>(m_database, session);
-        m_preparedOn = m_database.ConnectionNumber();
-    }
     return *m_statements;
 }
 
@@ -117,16 +117,16 @@ void LocusWriter::Save(StoredLocus& locus)
             }
             Update(identity, state, *stored, HistoryOperation::Changed);
         }
-        try
-        {
-            transaction.Commit();
-        }
-        catch (const Failure& failure)
-        {
-            if (failure.Record().Number == StoreError::Unknown)
-                locus.SetDoubt({identity, m_database.Witness()});
-            throw;
-        }
+        m_database.IfUndone([weak = locus.weak_from_this(), before = locus.Identity(),
+                             identity](const std::string& witness) {
+            const auto saved = weak.lock();
+            if (!saved)
+                return;
+            saved->SetIdentity(before);
+            if (!witness.empty())
+                saved->SetDoubt({identity, witness});
+        });
+        transaction.Commit();
     });
     locus.SetIdentity(identity);
     SealNowAndThen(m_database);

@@ -228,6 +228,10 @@ void ParameterStore::Save(StoredAnalysisParameter& parameter)
 {
     Database& database = m_store.SharedDatabase();
     const std::string consequence = NotDone(parameter.Name(), "stored");
+    // The last save may have ended with a lost line.
+    if (!parameter.m_doubtfulWitness.empty() && database.Testifies(parameter.m_doubtfulWitness))
+        ++parameter.m_revision;
+    parameter.m_doubtfulWitness.clear();
     database.Run(consequence, [&](soci::session& session) {
         Transaction transaction(database);
         soci::statement update =
@@ -244,7 +248,9 @@ void ParameterStore::Save(StoredAnalysisParameter& parameter)
         if (const auto& tagList = parameter.m_fragAnalysisParam.TagList)
             InsertTags(session, parameter.m_parameterID, *tagList);
         RecordState(database, parameter.m_parameterID, HistoryOperation::Changed);
+        parameter.m_doubtfulWitness = database.Witness();
         transaction.Commit();
+        parameter.m_doubtfulWitness.clear();
         ++parameter.m_revision;
     });
 }

@@ -70,6 +70,7 @@ private:
     std::string m_name;
     std::int32_t m_parameterID = 0;
     std::int32_t m_revision = 0;
+    std::string m_doubtfulWitness; ///< Of a save of which isn't known whether it was stored.
     StoredFragAnalysisParam m_fragAnalysisParam;
 };
 

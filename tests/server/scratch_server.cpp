@@ -52,14 +52,40 @@ ScratchServer& ScratchServer::Get()
     return server;
 }
 
-ScratchServer::ScratchServer()
+void ScratchServer::MakeDirectory()
 {
     std::string name = fs::temp_directory_path() / "tamrivo_server.XXXXXX";
     m_directory = mkdtemp(name.data());
     if (geteuid() == 0 && std::system(("chown nobody:nogroup " + name).c_str()) != 0)
         throw std::runtime_error("The folder of the scratch server can't be given away");
+}
+
+ScratchServer::ScratchServer()
+{
+    MakeDirectory();
     Run("initdb", "--pgdata=data --username=keeper --auth=trust --encoding=UTF8 --no-sync");
     Start();
+}
+
+ScratchServer::ScratchServer(const ScratchServer& primary)
+{
+    MakeDirectory();
+    Run("pg_basebackup", "--pgdata=data --write-recovery-conf --no-sync --checkpoint=fast "
+                         "--username=keeper --host=" +
+                             primary.m_directory.string());
+    Start();
+}
+
+void ScratchServer::Promote() const
+{
+    Run("pg_ctl", "promote --wait --pgdata=data");
+}
+
+std::string ScratchServer::AddressOfBoth(const ScratchServer& standby,
+                                         const std::string& database) const
+{
+    return AddressOf(database) + "," + standby.m_directory.string() +
+           "&target_session_attrs=read-write";
 }
 
 ScratchServer::~ScratchServer()

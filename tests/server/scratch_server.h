@@ -16,8 +16,9 @@ public:
     static ScratchServer& Get();
 
     ScratchServer();
+    /// A standby of the server, which follows it by streaming replication.
+    explicit ScratchServer(const ScratchServer& primary);
     ~ScratchServer();
-    ScratchServer(const ScratchServer&) = delete;
     ScratchServer& operator=(const ScratchServer&) = delete;
 
     /// The address of a new, empty database.
@@ -27,8 +28,13 @@ public:
     /// Ends the server as a power cut would.
     void Kill();
     void Start();
+    /// Makes a standby a server of its own.
+    void Promote() const;
+    /// An address of both servers, at which programs find the one that takes writes.
+    std::string AddressOfBoth(const ScratchServer& standby, const std::string& database) const;
 
 private:
+    void MakeDirectory();
     void Run(const std::string& program, const std::string& arguments) const;
 
     std::filesystem::path m_directory;

@@ -13,6 +13,7 @@ namespace Tamrivo
 
 class Commands;
 class HelpCommands;
+class HistoryCommands;
 class LocusCommands;
 class PanelFileCommands;
 class ParameterCommands;
@@ -53,7 +54,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(CommandPlaces)
 /// The objects that carry commands out.
 using CommandTargets =
     std::tuple<Commands&, StoreCommands&, PanelFileCommands&, SearchCommands&, LocusCommands&,
-               ParameterCommands&, ReportCommands&, ViewCommands&, HelpCommands&>;
+               ParameterCommands&, HistoryCommands&, ReportCommands&, ViewCommands&, HelpCommands&>;
 
 using CommandProcedure = void (*)(const CommandTargets& targets);
 using SubmenuProcedure = QMenu& (*)(const CommandTargets& targets);

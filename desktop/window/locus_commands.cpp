@@ -124,7 +124,9 @@ bool LocusCommands::MayDelete(const std::vector<std::string>& tags)
     const QString whom = tags.size() == 1 ? "the locus \"" + names.front() + "\" with all its"
                                           : WordsFor(tags) + " with all their";
     QMessageBox box(QMessageBox::Warning, "Delete Loci",
-                    "Delete " + whom + " alleles? This can't be undone.",
+                    "Delete " + whom +
+                        " alleles? Deleted Loci in the File menu "
+                        "brings them back.",
                     QMessageBox::Yes | QMessageBox::No, &m_workbench.Window());
     box.setObjectName("deleteLocus");
     box.setTextFormat(Qt::PlainText);

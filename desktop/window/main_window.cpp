@@ -62,9 +62,10 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
       m_reports(*m_bench),
       m_view(*m_bench),
       m_help(*m_bench),
+      m_history(*m_bench),
       m_commands(*this,
-                 {m_commands, m_store, m_panelFiles, m_search, m_loci, m_parameters, m_reports,
-                  m_view, m_help},
+                 {m_commands, m_store, m_panelFiles, m_search, m_loci, m_parameters, m_history,
+                  m_reports, m_view, m_help},
                  m_bench->UserActions())
 {
     setObjectName("main");
@@ -75,7 +76,10 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
         m_commands.Enable(m_bench->Given());
         ShowTitle();
     });
-    connect(m_bench, &Workbench::StoreClosing, this, [this] { m_reports.CloseWindow(); });
+    connect(m_bench, &Workbench::StoreClosing, this, [this] {
+        m_reports.CloseWindow();
+        m_history.CloseWindow();
+    });
     connect(m_bench, &Workbench::Told, this, [this](const QString& news) {
         constexpr int readingTime = 10'000; // ms
         if (!news.isEmpty())

@@ -2,6 +2,7 @@
 
 #include "desktop/window/commands.h"
 #include "desktop/window/help_commands.h"
+#include "desktop/window/history_commands.h"
 #include "desktop/window/locus_commands.h"
 #include "desktop/window/panel_file_commands.h"
 #include "desktop/window/parameter_commands.h"
@@ -47,6 +48,7 @@ private:
     ReportCommands m_reports;
     ViewCommands m_view;
     HelpCommands m_help;
+    HistoryCommands m_history;
     Tamrivo::Commands m_commands;
 };
 

@@ -32,6 +32,7 @@ void AddChange(CLI::App& command, Context& context, const char* name, const char
         ->type_name("");
     if (*second)
         change.add_option(second, names->Second, "The new name")->required()->type_name("");
+    change.fallthrough(); // --store may stand at the end.
     AddReasonOption(change, context);
     change.callback([&context, names, done, work] {
         Store store(context.StoreLocation);

@@ -34,6 +34,7 @@ void AddSettingsCommand(CLI::App& program, Context& context)
         ->type_name("")
         ->check(CLI::IsMember({"required", "optional"}));
     AddReasonOption(command, context);
+    reason.fallthrough(); // --store may stand at the end.
     AddReasonOption(reason, context);
     command.callback([&context, rule] { SetReasonRule(context, *rule); });
 }

@@ -6,10 +6,12 @@
 namespace Tamrivo
 {
 
-std::vector<LaneAllele> LaneAllelesOf(Locus& locus)
+std::vector<LaneAllele> LaneAllelesOf(Locus* locus)
 {
     std::vector<LaneAllele> alleles;
-    for (const auto& member : locus.Alleles().Members())
+    if (locus == nullptr)
+        return alleles;
+    for (const auto& member : locus->Alleles().Members())
     {
         const auto allele = As<Allele>(member);
         alleles.push_back({allele->AlleleText1, allele->AlleleReal1});

@@ -22,7 +22,8 @@ struct LaneDetails
     std::vector<double> Observed; ///< Sizes that an instrument has shown, nt.
 };
 
-std::vector<LaneAllele> LaneAllelesOf(Locus& locus);
+/// None for null, which is a locus that is gone.
+std::vector<LaneAllele> LaneAllelesOf(Locus* locus);
 
 /// "8, 9, 9.3, ..."; past a number that nobody reads only the count.
 std::string NamesOf(const std::vector<LaneAllele>& alleles);

@@ -68,8 +68,7 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
       m_findings(new FindingsView(*m_watch, this))
 {
     m_preview->Picture().allelesOf = [this](const std::string& tag) {
-        const auto locus = m_store->FindLocus(tag);
-        return locus ? LaneAllelesOf(*locus) : std::vector<LaneAllele>();
+        return LaneAllelesOf(m_store->FindLocus(tag).get());
     };
     m_search->setObjectName("search");
     m_search->setAccessibleName("Search");

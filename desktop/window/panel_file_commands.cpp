@@ -3,6 +3,7 @@
 #include "desktop/import/export_dialog.h"
 #include "desktop/import/import_dialog.h"
 #include "desktop/library/library_view.h"
+#include "desktop/window/parameter_view.h"
 #include "desktop/window/workbench.h"
 #include "host/framework/host_application.h"
 
@@ -34,8 +35,11 @@ void PanelFileCommands::ImportFiles(const QStringList& paths)
 
 void PanelFileCommands::Export()
 {
-    m_workbench.Tell(
-        ExportLoci(m_workbench.Host().Store(), m_workbench.UserActions(), &m_workbench.Window()));
+    const ParameterView* parameter = m_workbench.Parameter();
+    m_workbench.Tell(ExportLoci(m_workbench.Host().Store(), m_workbench.UserActions(),
+                                &m_workbench.Window(),
+                                {.Chosen = m_workbench.Loci().ChosenTags(),
+                                 .Parameter = parameter ? parameter->Name() : ""}));
 }
 
 } // namespace Tamrivo

@@ -59,6 +59,9 @@ ParameterView::ParameterView(HostApplication& host, const Actions& actions, cons
       m_splitter(new QSplitter(Qt::Vertical, this)),
       m_lanes(new LocusLanes(actions, this))
 {
+    m_lanes->allelesOf = [this](const std::string& tag) {
+        return LaneAllelesOf(m_host.Store().FindLocus(tag).get());
+    };
     auto* scroll = new QScrollArea(m_splitter);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);

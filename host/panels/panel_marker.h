@@ -31,12 +31,12 @@ struct PanelComplaint
 /// What a remark is about.
 enum class RemarkKind
 {
-    Renamed,           ///< The tag isn't the marker's name.
-    Lacking,           ///< A marker that its file says too little about.
-    Nominal,           ///< A marker whose sizes follow from repeats, without bins of its own.
-    SizeOutsideBin,    ///< An allele.
-    LadderWithoutBin,  ///< An allele of the ladder.
-    BinOutsideLadder,  ///< A bin that is neither virtual nor of the ladder.
+    Renamed,          ///< The tag isn't the marker's name.
+    Lacking,          ///< A marker that its file says too little about.
+    Nominal,          ///< A marker whose sizes follow from repeats, without bins of its own.
+    SizeOutsideBin,   ///< An allele.
+    LadderWithoutBin, ///< An allele of the ladder.
+    BinOutsideLadder, ///< A bin that is neither virtual nor of the ladder.
 };
 
 /// Something noteworthy about what was read or planned; people get one sentence for all of a kind.

@@ -99,7 +99,8 @@ TEST_F(MainWindowTest, ChangesAreShownAskedAboutAndKept)
     EXPECT_EQ(Open(), "Research") << "the last parameter is remembered";
     EXPECT_TRUE(m_window->Bench().Parameter()->SelectedTags().empty());
     ClickGroup("Casework");
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U) << "all there after a restart";
+    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U)
+        << "all there after a restart";
     EXPECT_EQ(RecentStores().value(0).toStdString(), Address());
 }
 

@@ -57,8 +57,8 @@ public:
         m_lattice.Step = period / repeatLength;
         m_lattice.Offset = BestOffset(sizes, m_lattice.Step);
         m_lattice.Spread = firstSpread;
-        constexpr std::int32_t room = 4; // A step that changes moves the ends.
-        m_first = -room;
+        constexpr std::size_t room = 4; // A step that changes moves the ends.
+        m_first = -static_cast<std::int32_t>(room);
         m_shares.assign(static_cast<std::size_t>(PlaceOf(sizes.back())) + 2 * room + 1, 1);
     }
 

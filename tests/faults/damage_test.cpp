@@ -113,7 +113,10 @@ int DamageAtRandom(int times, unsigned seed)
     {
         std::string damaged = bytes.str();
         for (unsigned flips = 1 + random() % 8; flips > 0; --flips)
-            damaged[random() % damaged.size()] ^= static_cast<char>(1U << random() % 8);
+        {
+            char& byte = damaged[random() % damaged.size()];
+            byte = static_cast<char>(byte ^ (1U << random() % 8));
+        }
         const std::string file = directory.Path() / "damaged";
         fs::remove(file + "-journal");
         std::ofstream(file, std::ios::binary) << damaged;
@@ -140,5 +143,13 @@ int main(int argc, char** argv)
 {
     const int times = argc > 1 ? std::atoi(argv[1]) : 1000;
     const unsigned seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1;
-    return Tamrivo::Testing::DamageAtRandom(times, seed) > 0 ? 1 : 0;
+    try
+    {
+        return Tamrivo::Testing::DamageAtRandom(times, seed) > 0 ? 1 : 0;
+    }
+    catch (const std::exception& error)
+    {
+        std::printf("FAILED, seed %u: %s\n", seed, error.what());
+        return 1;
+    }
 }

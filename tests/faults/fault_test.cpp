@@ -6,11 +6,11 @@
 // doesn't.
 
 #include "host/panels/import.h"
-#include "host/panels/table/panel_reader.h"
 #include "host/store/integrity.h"
 #include "host/store/store_backup.h"
 #include "tests/faults/failing_sqlite.h"
 #include "tests/faults/sample.h"
+#include "tests/panels/read_table.h"
 
 #include <cstdio>
 #include <new>
@@ -65,7 +65,7 @@ void SaveOnce(const std::string& file)
 void ImportOnce(const std::string& file)
 {
     Store store(file);
-    CarryOutImport(PlanImport(ReadPanelTable(PanelOf("I")).Markers, {}, store), store);
+    CarryOutImport(PlanImport(ReadTable(PanelOf("I")).Markers, {}, store), store);
 }
 
 void RestoreOnce(const std::string& file)

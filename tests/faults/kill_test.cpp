@@ -6,13 +6,13 @@
 
 #include "contracts/object_manager.h"
 #include "host/panels/import.h"
-#include "host/panels/table/panel_reader.h"
 #include "host/store/history_record.h"
 #include "host/store/history_writer.h"
 #include "host/store/integrity.h"
 #include "host/store/store_backup.h"
 #include "host/store/store_copy.h"
 #include "tests/faults/sample.h"
+#include "tests/panels/read_table.h"
 #include "tests/server/scratch_server.h"
 
 #include <sys/wait.h>
@@ -112,7 +112,7 @@ int NumberRestored(Scene& scene, int)
 void ImportOn(const Scene& scene, const Tell& tell)
 {
     Store store(scene.Address);
-    const auto reading = ReadPanelTable(PanelOf("T" + std::to_string(scene.Turn) + "_"));
+    const auto reading = ReadTable(PanelOf("T" + std::to_string(scene.Turn) + "_"));
     CarryOutImport(PlanImport(reading.Markers, {}, store), store);
     tell(scene.Known + 1);
 }

@@ -9,11 +9,11 @@
 #include "host/database/database.h"
 #include "host/library/changes.h"
 #include "host/panels/import.h"
-#include "host/panels/table/panel_reader.h"
 #include "host/store/history.h"
 #include "host/store/integrity.h"
 #include "host/store/stored_locus.h"
 #include "tests/faults/sample.h"
+#include "tests/panels/read_table.h"
 #include "tests/server/scratch_server.h"
 
 #include <soci/postgresql/soci-postgresql.h>
@@ -119,7 +119,7 @@ private:
     {
         const std::string prefix =
             "W" + std::to_string(m_number) + "_" + std::to_string(m_told.Imports + 1) + "_";
-        CarryOutImport(PlanImport(ReadPanelTable(PanelOf(prefix)).Markers, {}, m_store), m_store);
+        CarryOutImport(PlanImport(ReadTable(PanelOf(prefix)).Markers, {}, m_store), m_store);
         ++m_told.Imports;
     }
 

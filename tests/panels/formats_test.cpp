@@ -169,6 +169,7 @@ TEST(Formats, AKitFileGivesNominalLoci)
 
 TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
 {
+    constexpr std::size_t pastLargest = 16'000'000;
     using namespace std::string_literals;
     const std::string columns = "Panel\tMarker\tAllele\tSize\tSize.Min\tSize.Max\tColor\tRepeat\t"
                                 "Marker.Min\tMarker.Max\n";
@@ -179,7 +180,7 @@ TEST(Formats, WhatIsNoneOfThemIsToldInOneSentence)
              {kit.substr(0, 300), "cut off"},
              {"<svg/>"s, "root is <svg>"},
              {"<KitData/>"s, "no loci"},
-             {"<KitData>" + std::string(16'000'000, ' '), "larger than"},
+             {"<KitData>" + std::string(pastLargest, ' '), "larger than"},
              {columns + std::string(1'000'001, 'x') + "\n", "longer than a million bytes"},
              {columns + std::string(100'000, '\n') + "P\0"s, "zero byte"},
              {"<!DOCTYPE a [<!ENTITY b \"bb\">]><KitData>&b;</KitData>"s, "declares entities"},

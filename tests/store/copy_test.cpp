@@ -15,7 +15,6 @@ namespace Tamrivo::Testing
 namespace
 {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 namespace fs = std::filesystem;

@@ -61,7 +61,7 @@ TEST_F(IntegrityTest, EachDamageIsNamed)
     {
         const auto store = NewStore();
         ASSERT_THAT(CheckIntegrity(*store), IsEmpty());
-        store->SharedDatabase().Run("", [&](soci::session& session) { session << damage; });
+        store->SharedDatabase().Run("", [sql = damage](soci::session& session) { session << sql; });
         EXPECT_THAT(CheckIntegrity(*store), Contains(HasSubstr(found))) << damage;
     }
 }

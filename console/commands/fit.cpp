@@ -107,7 +107,10 @@ void Fit(Context& context, const FitOptions& options)
     if (!options.Peaks.empty())
         WritePeaks(options.Peaks, table, fitted);
     if (options.Apply)
+    {
+        store.SetReason(context.Reason);
         Apply(store, fitted);
+    }
     ReportIgnored(context, table, fitted);
     PrintFit(context.Out, options.Format, fitted);
     const auto proposals = static_cast<std::size_t>(std::ranges::count_if(
@@ -144,6 +147,7 @@ void AddFitCommand(CLI::App& program, Context& context)
                     "Write the observed table with Tag, Called and Residual (nt) behind it")
         ->type_name("OUT");
     command.add_flag("--apply", options->Apply, "Store the proposed bins");
+    AddReasonOption(command, context);
     AddFormatOption(command, options->Format,
                     {OutputFormat::Table, OutputFormat::Tsv, OutputFormat::Json});
     command.callback([&context, options] { Fit(context, *options); });

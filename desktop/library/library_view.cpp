@@ -1,7 +1,6 @@
 #include "desktop/library/library_view.h"
 
 #include "desktop/common/actions.h"
-#include "desktop/common/icons.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
 #include "desktop/findings/finding_watch.h"
@@ -10,14 +9,13 @@
 #include "desktop/library/library_columns.h"
 #include "desktop/library/library_model.h"
 #include "desktop/library/library_table.h"
+#include "desktop/library/search_line.h"
 #include "host/library/search.h"
 #include "host/loci/keys.h"
 #include "host/store/store.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -35,31 +33,12 @@ namespace
 
 constexpr const char* splitterKey = "library/splitter";
 
-/// What is wrong with the search, dark on a pale yellow: readable in light and dark themes alike.
-QLabel* NewErrorLine(QWidget* parent)
-{
-    auto* line = new QLabel(parent);
-    line->setObjectName("searchErrors");
-    line->setAccessibleName("What is wrong with the search");
-    line->setTextFormat(Qt::PlainText);
-    line->setWordWrap(true);
-    line->setMargin(line->fontMetrics().averageCharWidth() / 2);
-    line->setAutoFillBackground(true);
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(255, 243, 196));
-    palette.setColor(QPalette::WindowText, Qt::black);
-    line->setPalette(palette);
-    line->hide();
-    return line;
-}
-
 } // namespace
 
 LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     : QWidget(parent),
       m_actions(actions),
-      m_search(new QLineEdit(this)),
-      m_errors(NewErrorLine(this)),
+      m_search(new SearchLine(this)),
       m_splitter(new QSplitter(Qt::Vertical, this)),
       m_model(new LibraryModel(this)),
       m_table(new LibraryTable(m_splitter)),
@@ -70,12 +49,6 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     m_preview->Picture().allelesOf = [this](const std::string& tag) {
         return LaneAllelesOf(m_store->FindLocus(tag).get());
     };
-    m_search->setObjectName("search");
-    m_search->setAccessibleName("Search");
-    m_search->setClearButtonEnabled(true);
-    m_search->setPlaceholderText("Search, such as: TH01   dye:blue   panel:H24   range:100-200   "
-                                 "allele:9.3   used:no   problem:");
-    m_search->addAction(ThemeIcon("edit-find"), QLineEdit::LeadingPosition);
     m_table->setModel(m_model);
     m_splitter->setStretchFactor(0, 3);
     m_splitter->setStretchFactor(1, 2);
@@ -84,7 +57,6 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_search);
-    layout->addWidget(m_errors);
     layout->addWidget(m_splitter, 1);
 
     m_preview->addTab(m_findings, "&Findings");
@@ -98,9 +70,8 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
         ShowPreview();
         emit Chosen();
     });
-    connect(m_search, &QLineEdit::textChanged, this,
-            [this] { m_actions.Run([this] { Filter(); }); });
-    connect(m_search, &QLineEdit::returnPressed, m_table, [this] {
+    connect(m_search, &SearchLine::Changed, this, [this] { m_actions.Run([this] { Filter(); }); });
+    connect(m_search, &SearchLine::Entered, m_table, [this] {
         m_table->setFocus();
         if (m_table->ChosenRows().empty() && m_model->rowCount() > 0)
             m_table->ChooseRows({0});
@@ -173,12 +144,11 @@ void LibraryView::Filter()
     std::unordered_set<std::int32_t> chosen;
     for (const int row : m_table->ChosenRows())
         chosen.insert(m_model->LocusAt(row).LocusID);
-    const SearchResult found = Search(*m_library, FromQString(m_search->text()));
+    const SearchResult found = Search(*m_library, FromQString(m_search->Text()));
     QStringList errors;
     for (const std::string& error : found.Errors)
         errors += ToQString(error);
-    m_errors->setText(errors.join('\n'));
-    m_errors->setVisible(!errors.isEmpty());
+    m_search->ShowErrors(errors);
     const auto ofGroup = LociOf(*m_library, m_group, m_selected);
     std::vector<std::uint32_t> shown;
     std::ranges::set_intersection(ofGroup, found.Loci, std::back_inserter(shown));
@@ -192,7 +162,7 @@ void LibraryView::ShowGroup(const LocusGroup& group)
 {
     m_group = group;
     if (group.What == LocusGroup::Kind::Search)
-        m_search->setText(group.Name);
+        m_search->SetText(group.Name);
     Filter();
 }
 
@@ -271,18 +241,17 @@ void LibraryView::CopyChosen() const
 
 QString LibraryView::SearchText() const
 {
-    return m_search->text();
+    return m_search->Text();
 }
 
 void LibraryView::SetSearch(const QString& search)
 {
-    m_search->setText(search);
+    m_search->SetText(search);
 }
 
 void LibraryView::FocusSearch()
 {
-    m_search->setFocus(Qt::ShortcutFocusReason);
-    m_search->selectAll();
+    m_search->Focus();
 }
 
 void LibraryView::ShowPreview()

@@ -8,8 +8,6 @@
 
 #include <memory>
 
-class QLabel;
-class QLineEdit;
 class QSplitter;
 
 namespace Tamrivo
@@ -19,6 +17,7 @@ class FindingsView;
 class FindingWatch;
 class LibraryModel;
 class LibraryTable;
+class SearchLine;
 class Store;
 
 /// The loci of a store: a search field, the table of those that it finds in the chosen group, and a
@@ -81,8 +80,7 @@ private:
     std::optional<std::unordered_set<std::int32_t>> m_selected;
     QTimer m_chosenChanged;
 
-    QLineEdit* m_search;
-    QLabel* m_errors;
+    SearchLine* m_search;
     QSplitter* m_splitter;
     LibraryModel* m_model;
     LibraryTable* m_table;

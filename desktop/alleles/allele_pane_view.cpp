@@ -7,22 +7,21 @@
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/alleles/allele_table.h"
 #include "desktop/alleles/allele_table_model.h"
+#include "desktop/alleles/allele_tools.h"
 #include "desktop/alleles/observed_comparison.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/clipboard_table.h"
 #include "desktop/common/icons.h"
-#include "desktop/common/text.h"
 #include "desktop/forms/appearance.h"
 #include "editor/locus_editor_form.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QSplitter>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -37,18 +36,6 @@ std::optional<double> NumberIn(const TextField& field)
     return IsNumeric(field.Text()) ? std::optional(ToDouble(field.Text())) : std::nullopt;
 }
 
-QString StateText(const AllelePane& pane)
-{
-    const auto& reasons = pane.IsValid() ? pane.Warnings() : pane.Problems();
-    if (reasons.empty())
-        return QString(pane.Rows().size() == 1 ? "%1 allele" : "%1 alleles")
-            .arg(pane.Rows().size());
-    QString text = QString("Row %1: %2").arg(reasons[0].Row).arg(ToQString(reasons[0].Reason));
-    if (reasons.size() > 1)
-        text += QString(" (and %1 more)").arg(reasons.size() - 1);
-    return text;
-}
-
 } // namespace
 
 AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
@@ -58,11 +45,10 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
       m_actions(actions),
       m_pane(User::AllelesOf(pane)),
       m_model(new AlleleTableModel(pane, actions, this)),
-      m_tools(new QHBoxLayout),
+      m_tools(new AlleleTools(this)),
       m_table(new AlleleTable(*m_model, this)),
       m_picture(new AllelePicture(this)),
-      m_observed(new ObservedComparison(pane, *m_picture, actions, this)),
-      m_state(new QLabel(this))
+      m_observed(new ObservedComparison(pane, *m_picture, actions, this))
 {
     m_table->setFocusPolicy(pane.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
     setFocusProxy(m_table);
@@ -75,9 +61,6 @@ AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
 
 void AllelePaneView::LayOut()
 {
-    m_state->setObjectName("alleleState");
-    m_state->setTextFormat(Qt::PlainText);
-    m_state->setAccessibleName("State of the allele list");
     auto* splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_table);
@@ -87,7 +70,7 @@ void AllelePaneView::LayOut()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    layout->addLayout(m_tools);
+    layout->addWidget(m_tools);
     layout->addWidget(splitter, 1);
     layout->addWidget(m_observed);
 }
@@ -107,8 +90,6 @@ void AllelePaneView::MakeActions()
     AddAction("Paste cells", "edit-paste", Keys::keyBindings(Keys::Paste), [this] { Paste(); });
     AddAction("Compare with observed sizes", "document-open", {Qt::CTRL | Qt::SHIFT | Qt::Key_B},
               [this] { Compare(); });
-    m_tools->addSpacing(fontMetrics().averageCharWidth());
-    m_tools->addWidget(m_state, 1);
 }
 
 QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
@@ -125,14 +106,7 @@ QAction* AllelePaneView::AddAction(const QString& text, const char* icon,
     });
     addAction(added);
     m_table->addAction(added); // For its context menu.
-
-    auto* button = new QToolButton(this);
-    button->setDefaultAction(added);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setAccessibleName(text);
-    m_tools->addWidget(button);
-    m_buttons.push_back(button);
+    m_tools->Add(*added);
     return added;
 }
 
@@ -169,11 +143,8 @@ void AllelePaneView::keyPressEvent(QKeyEvent* event)
 bool AllelePaneView::focusNextPrevChild(bool next)
 {
     std::vector<QWidget*> ring{m_table};
-    for (QToolButton* button : m_buttons)
-    {
-        if (button->isEnabled())
-            ring.push_back(button);
-    }
+    const auto buttons = m_tools->Answering();
+    ring.insert(ring.end(), buttons.begin(), buttons.end());
     ring.push_back(m_picture);
     const QWidget* focus = QApplication::focusWidget();
     const auto present = std::ranges::find_if(ring, [&](const QWidget* widget) {
@@ -256,7 +227,7 @@ void AllelePaneView::ShowState()
 {
     m_undo->setEnabled(m_pane.CanUndo());
     m_redo->setEnabled(m_pane.CanRedo());
-    m_state->setText(StateText(m_pane));
+    m_tools->ShowState(m_pane);
 }
 
 void AllelePaneView::LeaveUndoToPage()
@@ -266,8 +237,6 @@ void AllelePaneView::LeaveUndoToPage()
         action->setShortcuts(QList<QKeySequence>());
         action->setVisible(false);
     }
-    for (QToolButton* button : m_buttons)
-        button->setVisible(button->defaultAction()->isVisible());
 }
 
 void AllelePaneView::GoTo(std::int32_t row)

@@ -11,9 +11,6 @@
 #include <vector>
 
 class QAction;
-class QHBoxLayout;
-class QLabel;
-class QToolButton;
 
 namespace Tamrivo
 {
@@ -22,6 +19,7 @@ struct LengthRange;
 class AllelePicture;
 class AlleleTable;
 class AlleleTableModel;
+class AlleleTools;
 class ObservedComparison;
 
 /// The allele pane of a form: the rows as a table beside a picture of their bins, with buttons
@@ -75,12 +73,10 @@ private:
     const Actions& m_actions;
     AllelePane& m_pane;
     AlleleTableModel* m_model;
-    QHBoxLayout* m_tools;
+    AlleleTools* m_tools;
     AlleleTable* m_table;
     AllelePicture* m_picture;
     ObservedComparison* m_observed;
-    QLabel* m_state;
-    std::vector<QToolButton*> m_buttons;
     QAction* m_remove = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;

@@ -61,24 +61,7 @@ void AllelePicture::ShowObserved(std::vector<double> sizes, std::vector<LengthRa
 
 void AllelePicture::FitAxis()
 {
-    m_shown = m_range.value_or(LengthRange{0, 1});
-    const auto include = [this](double length) {
-        m_shown.From = std::min(m_shown.From, length);
-        m_shown.To = std::max(m_shown.To, length);
-    };
-    for (const BinShape& shape : m_shapes)
-    {
-        for (const double length : {shape.From, shape.Size, shape.To})
-            include(length);
-    }
-    if (m_observed)
-    {
-        include(m_observed->Sizes.front());
-        include(m_observed->Sizes.back());
-    }
-    const double edge = std::max(1.0, (m_shown.To - m_shown.From) * 0.02);
-    m_shown.From -= edge;
-    m_shown.To += edge;
+    m_shown = LengthsOnShow(m_range, m_shapes, m_observed ? &*m_observed : nullptr);
 }
 
 void AllelePicture::Mark(const std::set<std::int32_t>& rows)

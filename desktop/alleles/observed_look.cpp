@@ -14,6 +14,28 @@
 namespace Tamrivo
 {
 
+LengthRange LengthsOnShow(const std::optional<LengthRange>& range, std::span<const BinShape> bins,
+                          const ObservedSizes* observed)
+{
+    LengthRange shown = range.value_or(LengthRange{0, 1});
+    const auto include = [&shown](double length) {
+        shown.From = std::min(shown.From, length);
+        shown.To = std::max(shown.To, length);
+    };
+    for (const BinShape& bin : bins)
+    {
+        for (const double length : {bin.From, bin.Size, bin.To})
+            include(length);
+    }
+    if (observed != nullptr)
+    {
+        include(observed->Sizes.front());
+        include(observed->Sizes.back());
+    }
+    const double room = std::max(1.0, (shown.To - shown.From) * 0.02);
+    return {shown.From - room, shown.To + room};
+}
+
 void CountIn(std::span<const BinShape> bins, ObservedSizes& observed)
 {
     observed.Counts.assign(bins.size(), 0);

@@ -3,6 +3,7 @@
 #include "desktop/alleles/bin_shapes.h"
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -26,6 +27,12 @@ struct ObservedSizes
 
 /// Counts the sizes in the bins. A size at a limit is inside.
 void CountIn(std::span<const BinShape> bins, ObservedSizes& observed);
+
+/// The lengths that a picture's axis spans: the range, all bins and sizes, and some room beside
+/// them.
+/// @param observed null when there are none
+LengthRange LengthsOnShow(const std::optional<LengthRange>& range, std::span<const BinShape> bins,
+                          const ObservedSizes* observed);
 
 /// Draws how many sizes there are along the axis, as columns above the place's lower edge.
 void DrawHistogram(QPainter& painter, const LengthAxis& axis, const QRectF& place,

@@ -3,9 +3,8 @@
 #include "host/database/database.h"
 #include "host/loci/keys.h"
 #include "host/store/history_writer.h"
+#include "host/store/parameter_tags.h"
 #include "host/store/store.h"
-
-#include <unordered_set>
 
 namespace Tamrivo
 {
@@ -85,39 +84,6 @@ std::vector<Value> ReadAll(const Value& value, soci::statement select)
     for (select.execute(); select.fetch();)
         values.push_back(value);
     return values;
-}
-
-std::vector<std::int32_t> ReadTags(soci::session& session, std::int32_t parameterID)
-{
-    std::int32_t tagID = 0;
-    return ReadAll(tagID, (session.prepare << "SELECT LocusTagID FROM AnalysisParameterTag "
-                                              "WHERE ParameterID = :ParameterID ORDER BY Position",
-                           soci::use(parameterID), soci::into(tagID)));
-}
-
-void RemoveTags(soci::session& session, std::int32_t parameterID)
-{
-    session << "DELETE FROM AnalysisParameterTag WHERE ParameterID = :ParameterID",
-        soci::use(parameterID);
-}
-
-void InsertTags(soci::session& session, std::int32_t parameterID, const LocusTagEntries& entries)
-{
-    std::int32_t tagID = 0;
-    int position = 0;
-    soci::statement insert =
-        (session.prepare << "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) "
-                            "VALUES (:ParameterID, :LocusTagID, :Position)",
-         soci::use(parameterID), soci::use(tagID), soci::use(position));
-    std::unordered_set<std::int32_t> written;
-    for (const auto& entry : entries.Entries())
-    {
-        tagID = entry->TagID(0);
-        if (!written.insert(tagID).second)
-            continue;
-        ++position;
-        insert.execute(true);
-    }
 }
 
 /// Adds the parameter, as it is in the store now, to the history.
@@ -277,12 +243,7 @@ void ParameterStore::Duplicate(const std::string& name, const std::string& copyN
         Transaction transaction(database);
         const ParameterRow row = RequireRow(database, session, name);
         const std::int32_t copy = InsertRow(database, session, copyName, row.LocusTagListCount);
-        session << "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) "
-                   "SELECT "
-                << copy
-                << ", LocusTagID, Position FROM AnalysisParameterTag "
-                   "WHERE ParameterID = :ParameterID",
-            soci::use(row.ParameterID);
+        CopyTags(session, row.ParameterID, copy);
         RecordState(database, copy, HistoryOperation::Made);
         transaction.Commit();
     });

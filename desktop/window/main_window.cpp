@@ -3,6 +3,7 @@
 #include "desktop/common/actions.h"
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
+#include "desktop/window/given_needs.h"
 #include "desktop/window/parameter_view.h"
 #include "desktop/window/status_line.h"
 #include "desktop/window/workbench.h"
@@ -73,7 +74,7 @@ MainWindow::MainWindow(DesktopFrontEnd& frontEnd)
     setCentralWidget(m_bench);
     statusBar()->addWidget(new StatusLine(*m_bench, this), 1);
     connect(m_bench, &Workbench::Changed, this, [this] {
-        m_commands.Enable(m_bench->Given());
+        m_commands.Enable(GivenBy(*m_bench));
         ShowTitle();
     });
     connect(m_bench, &Workbench::StoreClosing, this, [this] {

@@ -16,17 +16,14 @@
 #include "desktop/library/library_view.h"
 #include "desktop/window/commands.h"
 #include "desktop/window/locus_commands.h"
-#include "desktop/window/parameter_bar.h"
 #include "desktop/window/parameter_commands.h"
 #include "desktop/window/parameter_view.h"
-#include "desktop/window/start_page.h"
 #include "desktop/window/store_session.h"
+#include "desktop/window/workbench_pages.h"
 
 #include <QAction>
 #include <QMainWindow>
-#include <QStackedWidget>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <unordered_set>
 #include <utility>
@@ -39,8 +36,8 @@ Workbench::Workbench(DesktopFrontEnd& frontEnd, QMainWindow& window)
       m_frontEnd(frontEnd),
       m_editors(frontEnd.UserActions()),
       m_groups(new GroupTree(this)),
-      m_pages(new QStackedWidget(this)),
-      m_library(new LibraryView(frontEnd.UserActions(), this))
+      m_library(new LibraryView(frontEnd.UserActions(), this)),
+      m_pages(new WorkbenchPages(*m_library, this))
 {
     ConnectParts();
 }
@@ -54,18 +51,7 @@ Workbench::~Workbench()
 
 void Workbench::Offer(const Commands& commands)
 {
-    m_bar = new ParameterBar(commands.For(CommandPlace::ParameterBar), this);
-    m_noStore = new StartPage("No store is open.", commands.For(CommandPlace::NoStore), this);
-    m_emptyStore =
-        new StartPage("The store has no loci yet.\nBring in a panel, or define a locus by hand.",
-                      commands.For(CommandPlace::EmptyStore), this);
-    for (QWidget* page : {m_noStore, m_emptyStore, static_cast<QWidget*>(m_library)})
-        m_pages->addWidget(page);
-    auto* right = new QWidget(this);
-    auto* layout = new QVBoxLayout(right);
-    layout->setContentsMargins(0, fontMetrics().averageCharWidth(), 0, 0);
-    layout->addWidget(m_bar);
-    layout->addWidget(m_pages, 1);
+    m_pages->Offer(commands);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);
 
@@ -186,25 +172,6 @@ std::string Workbench::ChosenLocus() const
     return tags.front();
 }
 
-Needs Workbench::Given() const
-{
-    if (!HasStore())
-        return {};
-    const bool mayWrite = !Host().Store().IsReadOnly();
-    // What is highlighted on the selector's page is asked for when a command begins.
-    const bool isSelector = IsSelectorShown();
-    const std::size_t chosen = m_library->ChosenCount();
-    Needs given = Need::Store;
-    given.setFlag(Need::Writing, mayWrite);
-    given.setFlag(Need::Table, !isSelector);
-    given.setFlag(Need::Parameter, m_parameter != nullptr);
-    given.setFlag(Need::Changes, m_parameter != nullptr && m_parameter->IsChanged() && mayWrite);
-    given.setFlag(Need::OneLocus, isSelector || chosen == 1);
-    given.setFlag(Need::SomeLoci, isSelector || chosen > 0);
-    given.setFlag(Need::TwoLoci, !isSelector && chosen == 2);
-    return given;
-}
-
 void Workbench::Reload(const QString& news, const std::vector<std::string>& choose)
 {
     UserActions().Run([&] {
@@ -235,7 +202,7 @@ void Workbench::ChooseGroup(const LocusGroup& group)
     const bool isParameter = group.What == LocusGroup::Kind::Parameter;
     if (isParameter && !OpenParameter(FromQString(group.Name)))
         return m_groups->Choose({});
-    m_pages->setCurrentWidget(m_library);
+    m_pages->TurnToTable();
     m_library->ShowGroup(group);
     if (isParameter)
         m_library->Preview().setCurrentIndex(LocusPreview::Lanes);
@@ -257,19 +224,19 @@ void Workbench::ShowAllLoci()
 
 void Workbench::TurnToTable()
 {
-    m_pages->setCurrentWidget(m_library);
+    m_pages->TurnToTable();
     emit Changed();
 }
 
 void Workbench::TurnToSelector()
 {
-    m_pages->setCurrentWidget(m_parameter);
+    m_pages->TurnTo(*m_parameter);
     emit Changed();
 }
 
 bool Workbench::IsSelectorShown() const
 {
-    return m_parameter != nullptr && m_pages->currentWidget() == m_parameter;
+    return m_parameter != nullptr && m_pages->IsShown(*m_parameter);
 }
 
 bool Workbench::OpenParameter(const std::string& name)
@@ -292,7 +259,7 @@ void Workbench::ShowParameter(const std::string& name)
     CloseParameter();
     m_parameter = view;
     connect(view, &ParameterView::Changed, this, &Workbench::ShowSelection);
-    m_pages->addWidget(view);
+    m_pages->Add(*view);
     RememberParameter(ToQString(Host().Store().Name()), ToQString(name));
     ShowSelection();
 }
@@ -312,7 +279,7 @@ void Workbench::CloseParameter()
     if (m_parameter == nullptr)
         return;
     if (IsSelectorShown())
-        m_pages->setCurrentWidget(m_library);
+        m_pages->TurnToTable();
     delete std::exchange(m_parameter, nullptr);
     m_groups->MarkOpen({}, false, 0);
     m_library->SetSelected(std::nullopt);
@@ -346,18 +313,8 @@ void Workbench::DropOn(const std::string& parameter, const std::vector<std::stri
 
 void Workbench::ShowPage()
 {
-    if (!IsSelectorShown())
-    {
-        const bool hasLoci = m_library->Loci() != nullptr && !m_library->Loci()->Loci().empty();
-        m_pages->setCurrentWidget(hasLoci || m_parameter != nullptr ? m_library
-                                  : HasStore()                      ? m_emptyStore
-                                                                    : m_noStore);
-    }
     m_groups->setEnabled(HasStore());
-    m_bar->setVisible(m_parameter != nullptr);
-    if (m_parameter != nullptr)
-        m_bar->Show(ToQString(m_parameter->Name()), m_parameter->IsChanged(),
-                    Host().Store().IsReadOnly());
+    m_pages->Update(HasStore(), m_parameter, HasStore() && Host().Store().IsReadOnly());
 }
 
 } // namespace Tamrivo

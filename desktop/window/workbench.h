@@ -10,7 +10,6 @@
 #include <vector>
 
 class QMainWindow;
-class QStackedWidget;
 
 namespace Tamrivo
 {
@@ -20,9 +19,9 @@ struct LocusGroup;
 class DesktopFrontEnd;
 class GroupTree;
 class LibraryView;
-class ParameterBar;
 class ParameterView;
 class StoreSession;
+class WorkbenchPages;
 
 /// What the window works on: an open store with the groups of its loci at the left and the loci of
 /// the chosen one at the right. While an analysis parameter is open, ticks before the loci and the
@@ -60,9 +59,6 @@ public:
     std::vector<std::string> ChosenLoci() const;
     /// Raises `User::Refusal` unless it is exactly one.
     std::string ChosenLocus() const;
-
-    /// What commands can rely on at present.
-    Needs Given() const;
 
     /// Reads the store anew after a change, chooses these loci if there are any, and tells what has
     /// happened.
@@ -109,11 +105,8 @@ private:
     std::unique_ptr<StoreSession> m_session;
     EditorWindows m_editors;
     GroupTree* m_groups;
-    ParameterBar* m_bar = nullptr;
-    QStackedWidget* m_pages;
-    QWidget* m_noStore = nullptr;
-    QWidget* m_emptyStore = nullptr;
     LibraryView* m_library;
+    WorkbenchPages* m_pages;
     ParameterView* m_parameter = nullptr;
 };
 

@@ -133,7 +133,7 @@ struct TerminalSource::Editor
 
     std::filesystem::path HistoryFile;
     EditLine* Line;
-    History* Past;
+    ::History* Past;
     std::string Prompt;
     Completer Complete;
 };

@@ -141,6 +141,29 @@ void CheckTheStore(Context& context)
     }
 }
 
+/// What is checked: named loci, those of a parameter or a panel, or files.
+void AddScopeOptions(CLI::App& command, CheckOptions& options)
+{
+    CLI::Option* const tags =
+        command.add_option("TAG", options.Scope.Tags, "Locus tags; all current loci unless named")
+            ->type_name("");
+    CLI::Option* const parameter = command
+                                       .add_option("--parameter", options.Scope.Parameter,
+                                                   "The loci that this analysis parameter uses")
+                                       ->type_name("NAME")
+                                       ->excludes(tags);
+    CLI::Option* const panel =
+        command.add_option("--panel", options.Scope.Panel, "The loci of this panel (primer set)")
+            ->type_name("NAME")
+            ->excludes(tags)
+            ->excludes(parameter);
+    command.add_option("--file", options.Files, "Files to check; no store is opened")
+        ->type_name("FILE...")
+        ->excludes(tags)
+        ->excludes(parameter)
+        ->excludes(panel);
+}
+
 } // namespace
 
 void AddCheckCommand(CLI::App& program, Context& context)
@@ -159,24 +182,7 @@ void AddCheckCommand(CLI::App& program, Context& context)
         "Rules:\n" +
             RuleLines());
     const auto options = std::make_shared<CheckOptions>();
-    CLI::Option* const tags =
-        command.add_option("TAG", options->Scope.Tags, "Locus tags; all current loci unless named")
-            ->type_name("");
-    CLI::Option* const parameter = command
-                                       .add_option("--parameter", options->Scope.Parameter,
-                                                   "The loci that this analysis parameter uses")
-                                       ->type_name("NAME")
-                                       ->excludes(tags);
-    CLI::Option* const panel =
-        command.add_option("--panel", options->Scope.Panel, "The loci of this panel (primer set)")
-            ->type_name("NAME")
-            ->excludes(tags)
-            ->excludes(parameter);
-    command.add_option("--file", options->Files, "Files to check; no store is opened")
-        ->type_name("FILE...")
-        ->excludes(tags)
-        ->excludes(parameter)
-        ->excludes(panel);
+    AddScopeOptions(command, *options);
     command
         .add_option("--without", options->Without, "Leave a rule out; may be given several times")
         ->type_name("RULE")
@@ -190,7 +196,7 @@ void AddCheckCommand(CLI::App& program, Context& context)
         .add_flag("--store-integrity", options->StoreIntegrity,
                   "Check the store itself: its tables, its history, and whether they agree; status "
                   "1 when it is damaged")
-        ->excludes(tags);
+        ->excludes("TAG");
     AddFormatOption(command, options->Format,
                     {OutputFormat::Table, OutputFormat::Tsv, OutputFormat::Json});
     command.callback([&context, options] {

@@ -35,6 +35,21 @@ Date DateOf(HistoryTime moment)
     return std::chrono::floor<std::chrono::seconds>(moment);
 }
 
+/// Gives a saved locus the identity that it has now back when the change is undone with the work
+/// around it, and notes the one that it would have where nobody knows what became of it.
+void GoBackIfUndone(Database& database, StoredLocus& locus, const LocusIdentity& saved)
+{
+    database.IfUndone([weak = locus.weak_from_this(), before = locus.Identity(),
+                       saved](const std::string& witness) {
+        const auto undone = weak.lock();
+        if (!undone)
+            return;
+        undone->SetIdentity(before);
+        if (!witness.empty())
+            undone->SetDoubt({saved, witness});
+    });
+}
+
 } // namespace
 
 struct LocusWriter::Statements
@@ -117,15 +132,7 @@ void LocusWriter::Save(StoredLocus& locus)
             }
             Update(identity, state, *stored, HistoryOperation::Changed);
         }
-        m_database.IfUndone([weak = locus.weak_from_this(), before = locus.Identity(),
-                             identity](const std::string& witness) {
-            const auto saved = weak.lock();
-            if (!saved)
-                return;
-            saved->SetIdentity(before);
-            if (!witness.empty())
-                saved->SetDoubt({identity, witness});
-        });
+        GoBackIfUndone(m_database, locus, identity);
         transaction.Commit();
     });
     locus.SetIdentity(identity);

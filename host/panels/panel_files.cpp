@@ -32,7 +32,7 @@ public:
     void Read(const PanelFile& file)
     {
         const std::string name = m_isOnly ? "" : file.Name;
-        LineSource source(*file.Bytes);
+        LineReader source(*file.Bytes);
         const std::string_view head = source.Head();
         std::string problem = ProblemOfBytes(head);
         if (!problem.empty())

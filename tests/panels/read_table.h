@@ -12,7 +12,7 @@ namespace Tamrivo
 inline PanelReading ReadTable(const std::string& text)
 {
     std::istringstream bytes(text);
-    LineSource source(bytes);
+    LineReader source(bytes);
     return ReadPanelTable(source);
 }
 

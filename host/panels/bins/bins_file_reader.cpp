@@ -26,7 +26,7 @@ double Limit(double size, double distance)
 class BinsFileReader
 {
 public:
-    BinsFileReader(LineSource& source, const std::string& file) : m_lines(source)
+    BinsFileReader(LineReader& source, const std::string& file) : m_lines(source)
     {
         m_read.File = file;
     }
@@ -116,7 +116,7 @@ private:
 
 } // namespace
 
-BinsFile ReadBinsFile(LineSource& source, const std::string& file)
+BinsFile ReadBinsFile(LineReader& source, const std::string& file)
 {
     return BinsFileReader(source, file).Read();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/panels/line_source.h"
+#include "host/panels/line_reader.h"
 #include "host/panels/panel_marker.h"
 
 #include <span>
@@ -44,8 +44,8 @@ struct BinsFile
     std::vector<PanelComplaint> Complaints;
 };
 
-PanelsFile ReadPanelsFile(LineSource& source, const std::string& file);
-BinsFile ReadBinsFile(LineSource& source, const std::string& file);
+PanelsFile ReadPanelsFile(LineReader& source, const std::string& file);
+BinsFile ReadBinsFile(LineReader& source, const std::string& file);
 
 /// Puts the bins to the panels of their names. Complains about bins of panels that aren't there,
 /// panels without bins, and panels with several sets of bins of which none is chosen.

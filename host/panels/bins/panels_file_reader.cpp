@@ -32,7 +32,7 @@ std::vector<std::string> SplitNames(std::string_view list)
 class PanelsFileReader
 {
 public:
-    PanelsFileReader(LineSource& source, const std::string& file) : m_lines(source)
+    PanelsFileReader(LineReader& source, const std::string& file) : m_lines(source)
     {
         m_read.File = file;
     }
@@ -122,7 +122,7 @@ private:
 
 } // namespace
 
-PanelsFile ReadPanelsFile(LineSource& source, const std::string& file)
+PanelsFile ReadPanelsFile(LineReader& source, const std::string& file)
 {
     return PanelsFileReader(source, file).Read();
 }

@@ -75,7 +75,7 @@ private:
 class KitReader
 {
 public:
-    KitReader(LineSource& source, double interval) : m_interval(interval)
+    KitReader(LineReader& source, double interval) : m_interval(interval)
     {
         m_isTooLarge = !source.ReadRest(m_text, largestKit);
     }
@@ -250,7 +250,7 @@ private:
 
 } // namespace
 
-PanelReading ReadOsirisKit(LineSource& source, double interval)
+PanelReading ReadOsirisKit(LineReader& source, double interval)
 {
     return KitReader(source, interval).Read();
 }

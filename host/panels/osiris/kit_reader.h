@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/panels/line_source.h"
+#include "host/panels/line_reader.h"
 #include "host/panels/panel_marker.h"
 
 namespace Tamrivo
@@ -10,6 +10,6 @@ namespace Tamrivo
 /// The kit is the panel. Its loci are nominal: sizes are whole, bins reach as far as told, and the
 /// range is the outer one of the alleles' and the search regions'.
 /// @param interval from a size to either limit of its bin, nt
-PanelReading ReadOsirisKit(LineSource& source, double interval);
+PanelReading ReadOsirisKit(LineReader& source, double interval);
 
 } // namespace Tamrivo

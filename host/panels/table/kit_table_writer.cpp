@@ -206,7 +206,7 @@ void AppendToKitTable(std::ostream& out, const std::string& table, const ExportP
 {
     KitTableWriter writer(out, plan);
     std::istringstream bytes(table);
-    LineSource source(bytes);
+    LineReader source(bytes);
     TableLines lines(source);
     if (!lines.Next())
         RefuseTable("the table that should be added to is empty");

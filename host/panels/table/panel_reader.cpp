@@ -24,7 +24,7 @@ std::string CountOfCells(std::size_t count)
 class PanelTableReader
 {
 public:
-    PanelTableReader(LineSource& source, const std::vector<std::string>& panels)
+    PanelTableReader(LineReader& source, const std::vector<std::string>& panels)
         : m_panels(panels), m_lines(source)
     {}
 
@@ -256,7 +256,7 @@ private:
 
 } // namespace
 
-PanelReading ReadPanelTable(LineSource& source, const std::vector<std::string>& panels)
+PanelReading ReadPanelTable(LineReader& source, const std::vector<std::string>& panels)
 {
     return PanelTableReader(source, panels).Read();
 }

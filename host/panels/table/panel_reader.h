@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/panels/line_source.h"
+#include "host/panels/line_reader.h"
 #include "host/panels/panel_marker.h"
 
 namespace Tamrivo
@@ -13,6 +13,6 @@ namespace Tamrivo
 /// Complaints are about the table as a whole; what is wrong in a line is a flaw of its marker.
 /// @param panels names of the panels that are wanted; empty: all. Of the others only the markers
 /// are read, not their alleles
-PanelReading ReadPanelTable(LineSource& source, const std::vector<std::string>& panels = {});
+PanelReading ReadPanelTable(LineReader& source, const std::vector<std::string>& panels = {});
 
 } // namespace Tamrivo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/panels/line_source.h"
+#include "host/panels/line_reader.h"
 
 #include <cstddef>
 #include <string_view>
@@ -15,7 +15,7 @@ class TableLines
 {
 public:
     /// @param source must outlive this object
-    explicit TableLines(LineSource& source) : m_source(source) {}
+    explicit TableLines(LineReader& source) : m_source(source) {}
 
     /// Goes to the next line that has anything in it. False at the end, and from a line on that
     /// no text file has.
@@ -33,7 +33,7 @@ public:
     std::string_view Problem() const { return m_problem; }
 
 private:
-    LineSource& m_source;
+    LineReader& m_source;
     std::size_t m_number = 0;
     std::vector<std::string_view> m_cells;
     std::string_view m_problem;

@@ -9,14 +9,14 @@ namespace Tamrivo
 {
 
 /// The bytes of a file, read block by block. A byte order mark is passed over.
-class LineSource
+class LineReader
 {
 public:
     /// No line of a text that people exchange is longer, bytes.
     static constexpr std::size_t LongestLine = 1'000'000;
 
     /// @param in must outlive this object
-    explicit LineSource(std::istream& in) : m_in(in) {}
+    explicit LineReader(std::istream& in) : m_in(in) {}
 
     /// What the next bytes are: all that are left, or at least a block of them. They are still
     /// there to be read. Raises, as all of these, `ErrorNumber::InvalidArgument` when reading

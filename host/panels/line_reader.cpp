@@ -1,4 +1,4 @@
-#include "host/panels/line_source.h"
+#include "host/panels/line_reader.h"
 
 #include "core/error.h"
 
@@ -22,7 +22,7 @@ bool IsPlainText(std::string_view bytes)
 
 } // namespace
 
-bool LineSource::Fill()
+bool LineReader::Fill()
 {
     m_bytes.erase(0, m_start);
     m_start = 0;
@@ -40,14 +40,14 @@ bool LineSource::Fill()
     return m_bytes.size() > left;
 }
 
-std::string_view LineSource::Head()
+std::string_view LineReader::Head()
 {
     if (m_bytes.size() - m_start < blockSize / 2)
         Fill();
     return std::string_view(m_bytes).substr(m_start);
 }
 
-bool LineSource::Next(std::string_view& line)
+bool LineReader::Next(std::string_view& line)
 {
     if (!m_isBegun)
         Fill();
@@ -73,7 +73,7 @@ bool LineSource::Next(std::string_view& line)
     }
 }
 
-bool LineSource::ReadRest(std::string& text, std::size_t most)
+bool LineReader::ReadRest(std::string& text, std::size_t most)
 {
     while (m_bytes.size() - m_start <= most && Fill())
     {}

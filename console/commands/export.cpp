@@ -102,12 +102,10 @@ void AddFormatOptions(CLI::App& command, ExportOptions& options)
     command
         .add_option("--format", options.Format,
                     "What is written; the panel table unless named, which alone has everything")
-        ->type_name("panel-table|kit-table|panels-bins|osiris-kit")
+        ->type_name(FormatOptions("|"))
         ->check([](const std::string& name) {
             return FindFormat(name) ? std::string()
-                                    : "\"" + name +
-                                          "\" is none of panel-table, kit-table, panels-bins and "
-                                          "osiris-kit";
+                                    : "\"" + name + "\" is none of " + FormatOptions(", ");
         });
     command
         .add_option("--kit", options.Choice.Kit,

@@ -197,12 +197,11 @@ void AddReadingOptions(CLI::App& command, ImportOptions& options)
         .add_option("--format", options.Format,
                     "What the files are; known from their content unless named. For a dry run tsv "
                     "prints the plan for a program")
-        ->type_name("panel-table|kit-table|panels-bins|osiris-kit|tsv")
+        ->type_name(FormatOptions("|") + "|tsv")
         ->check([](const std::string& name) {
-            return name == "tsv" || FindFormat(name) ? std::string()
-                                                     : "\"" + name +
-                                                           "\" is none of panel-table, kit-table, "
-                                                           "panels-bins, osiris-kit and tsv";
+            return name == "tsv" || FindFormat(name)
+                       ? std::string()
+                       : "\"" + name + "\" is none of " + FormatOptions(", ") + " and tsv";
         });
     command
         .add_option("--panel", options.Choice.Panels,

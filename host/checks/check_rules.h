@@ -71,26 +71,35 @@ private:
     std::vector<Finding>& m_found;
 };
 
+// bin_rules.cpp: bins, of a locus and between loci.
 void CheckBinOverlap(const CheckedLocus& locus, Findings& findings);
 void CheckBinOverlapOfLoci(const LociTogether& group, Findings& findings);
 void CheckOutsideBin(const CheckedLocus& locus, Findings& findings);
-void CheckOrder(const CheckedLocus& locus, Findings& findings);
-void CheckSameName(const CheckedLocus& locus, Findings& findings);
 void CheckSameBin(const CheckedLocus& locus, Findings& findings);
-void CheckSizeName(const CheckedLocus& locus, Findings& findings);
-void CheckRepeatLength(const CheckedLocus& locus, Findings& findings);
-void CheckLetters(const CheckedLocus& locus, Findings& findings);
-void CheckUnknownDye(const CheckedLocus& locus, Findings& findings);
-void CheckMissingLocus(const LociTogether& group, Findings& findings);
-void CheckRangeOverlap(const LociTogether& group, Findings& findings);
-void CheckOutsideRange(const CheckedLocus& locus, Findings& findings);
-void CheckStutterRange(const CheckedLocus& locus, Findings& findings);
-void CheckLadderGap(const CheckedLocus& locus, Findings& findings);
 void CheckOddBin(const CheckedLocus& locus, Findings& findings);
 void CheckNoWidth(const CheckedLocus& locus, Findings& findings);
 void CheckBinsTouch(const CheckedLocus& locus, Findings& findings);
-void CheckSamePrimers(const LociTogether& group, Findings& findings);
+
+// name_rules.cpp: alleles by name and size.
+void CheckOrder(const CheckedLocus& locus, Findings& findings);
+void CheckSameName(const CheckedLocus& locus, Findings& findings);
+void CheckSizeName(const CheckedLocus& locus, Findings& findings);
+void CheckLadderGap(const CheckedLocus& locus, Findings& findings);
 void CheckConvention(const CheckedLocus& locus, Findings& findings);
+
+// field_rules.cpp: fields of a locus.
+void CheckRepeatLength(const CheckedLocus& locus, Findings& findings);
+void CheckLetters(const CheckedLocus& locus, Findings& findings);
+void CheckUnknownDye(const CheckedLocus& locus, Findings& findings);
+
+// range_rules.cpp: ranges, what lies outside of them and how they overlap.
+void CheckRangeOverlap(const LociTogether& group, Findings& findings);
+void CheckOutsideRange(const CheckedLocus& locus, Findings& findings);
+void CheckStutterRange(const CheckedLocus& locus, Findings& findings);
+
+// group_rules.cpp: loci that are analysed together.
+void CheckMissingLocus(const LociTogether& group, Findings& findings);
+void CheckSamePrimers(const LociTogether& group, Findings& findings);
 
 /// The rules, errors first. Their order is that of a locus's findings.
 inline constexpr CheckRule CheckRules[] = {

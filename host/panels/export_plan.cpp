@@ -7,8 +7,6 @@
 #include "host/panels/marker_name.h"
 #include "host/panels/osiris/kit_writer.h"
 #include "host/panels/panel_marker.h"
-#include "host/panels/table/kit_table_writer.h"
-#include "host/panels/table/panel_writer.h"
 #include "host/store/bulk_alleles.h"
 
 #include <algorithm>
@@ -163,19 +161,6 @@ ExportPlan PlanExport(std::span<const std::shared_ptr<BusinessObject>> loci,
         RefuseExport("none of the loci fits a " + std::string(NameOf(choice.Format).Title) + ". " +
                      plan.Losses);
     return plan;
-}
-
-void WriteExport(std::ostream& out, const ExportPlan& plan, const LociProgress& progress)
-{
-    switch (plan.Choice.Format)
-    {
-    case PanelFormat::PanelTable: WritePanelTable(out, plan.Loci, plan.OfStore, progress); break;
-    case PanelFormat::KitTable: WriteKitTable(out, plan, progress); break;
-    case PanelFormat::OsirisKit: WriteOsirisKit(out, plan); break;
-    case PanelFormat::PanelsBins:
-        throw Failure(ErrorNumber::InvalidArgument, "Export",
-                      "Nothing was exported: panels and bins are two files");
-    }
 }
 
 } // namespace Tamrivo

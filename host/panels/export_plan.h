@@ -6,7 +6,6 @@
 #include "host/panels/panel_format.h"
 
 #include <memory>
-#include <ostream>
 #include <span>
 #include <string>
 #include <vector>
@@ -60,8 +59,5 @@ struct ExportPlan
 ExportPlan PlanExport(std::span<const std::shared_ptr<BusinessObject>> loci,
                       const ExportChoice& choice, const Dyes& dyes,
                       const LociProgress& progress = {});
-
-/// Writes the plan in a format of one file: panel table, kit table or kit file.
-void WriteExport(std::ostream& out, const ExportPlan& plan, const LociProgress& progress = {});
 
 } // namespace Tamrivo

@@ -6,6 +6,14 @@
 namespace Tamrivo
 {
 
+std::string FormatOptions(std::string_view between)
+{
+    std::string options;
+    for (const PanelFormatName& format : PanelFormatNames)
+        options.append(options.empty() ? "" : between).append(format.Option);
+    return options;
+}
+
 std::optional<PanelFormat> FindFormat(std::string_view option)
 {
     for (std::size_t format = 0; format < std::size(PanelFormatNames); ++format)

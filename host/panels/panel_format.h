@@ -36,6 +36,9 @@ inline const PanelFormatName& NameOf(PanelFormat format)
     return PanelFormatNames[static_cast<std::size_t>(format)];
 }
 
+/// The names for a command line, between them this.
+std::string FormatOptions(std::string_view between);
+
 /// The format of the name for a command line, case aside, or none.
 std::optional<PanelFormat> FindFormat(std::string_view option);
 

@@ -57,14 +57,27 @@ std::string SummaryOf(const Json& allele)
     return summary.empty() ? "no size" : summary;
 }
 
+/// What a field holds in a record of a version that didn't have it.
+bool IsInitial(const Json& value)
+{
+    return value.is_null() || value == "" || value == 0 || value == false;
+}
+
+bool IsSame(const Json& old, const Json& now)
+{
+    return old.is_null() || now.is_null() ? IsInitial(old) && IsInitial(now) : old == now;
+}
+
 /// Of the members of both objects those that differ.
 void CompareFields(const Json& before, const Json& after, const std::string& prefix, bool inAllele,
                    std::vector<ContentDifference>& differences)
 {
+    const bool areStates = !before.empty() && !after.empty();
     const auto compare = [&](const std::string& field) {
         const Json old = before.value(field, Json());
         const Json now = after.value(field, Json());
-        if (field != "Alleles" && field != "Format" && old != now)
+        if (field != "Alleles" && field != "Format" &&
+            !(areStates ? IsSame(old, now) : old == now))
             differences.push_back(
                 {prefix + (inAllele ? WordOf(field) : field), TextOf(old), TextOf(now)});
     };

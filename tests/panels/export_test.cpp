@@ -1,4 +1,5 @@
 #include "host/panels/bins/panels_bins_writer.h"
+#include "host/panels/export_files.h"
 #include "host/panels/import.h"
 #include "host/panels/osiris/kit_writer.h"
 #include "host/panels/panel_files.h"

@@ -92,6 +92,16 @@ TEST_F(HistoryTest, EveryChangeLeavesARecord)
                 IsEmpty());
 }
 
+TEST(ContentDifferences, TakeAFieldThatAnOlderRecordLacksForInitial)
+{
+    const std::string older = R"({"Format":1,"FragEnd":300})";
+    EXPECT_THAT(ContentDifferences(older, R"({"Format":2,"FragEnd":300,"Note":"","Score":0})"),
+                IsEmpty());
+    EXPECT_THAT(ContentDifferences(older, R"({"Format":2,"FragEnd":300,"Note":"n"})"), SizeIs(1));
+    EXPECT_THAT(ContentDifferences("", older), SizeIs(1));
+    EXPECT_THAT(ContentDifferences("", R"({"DyeIndex":0})"), SizeIs(1)) << "a locus that is made";
+}
+
 TEST_F(HistoryTest, ASaveWithoutADifferenceWritesNothing)
 {
     Store store(Address());

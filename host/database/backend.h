@@ -27,7 +27,9 @@ public:
     /// How a column is declared whose numbers the database gives, each once and rising.
     virtual std::string_view SerialKey() const = 0;
     virtual void Connect(soci::session& session) = 0;
-    virtual bool IsReadOnly(soci::session& session) = 0;
+    /// Why nothing can be stored through the connection and what to do about it, in words that go
+    /// on from "is read-only: "; empty when something can.
+    virtual std::string WhyReadOnly(soci::session& session) = 0;
     /// Connects anew if the connection was found lost and the server answers again. Gives whether
     /// it has.
     virtual bool Reconnect(soci::session&) { return false; }
@@ -37,8 +39,8 @@ public:
     virtual std::string ServerUser(soci::session&) { return {}; }
     /// Whether the connection still leads to the store that stands at its address.
     virtual bool IsReachable(soci::session& session) = 0;
-    /// What tells the store from all others, however its address is spelt.
-    virtual std::string Identity(soci::session& session) = 0;
+    /// What tells the place of the store from all others, however its address is spelt.
+    virtual std::string Place(soci::session& session) = 0;
     /// What the database itself finds wrong with its files or tables, a text each.
     virtual std::vector<std::string> Faults(soci::session&) { return {}; }
     /// Begins a transaction that only reads, and sees the store as it is when it first does.
@@ -59,9 +61,15 @@ public:
     /// Lets one connection after the other change the tables themselves, to the end of the
     /// transaction.
     virtual void ReserveSchema(soci::session&) {}
+    /// Whether the connection may change the tables themselves, which takes their owner on a
+    /// server.
+    virtual bool MayChangeSchema(soci::session&) { return true; }
     /// Keeps other connections from writing seals to the end of the transaction. False when one is
     /// at it.
     virtual bool TryReserveSeals(soci::session&) { return true; }
+    /// Keeps other connections that ask for the same from an object, which need not be there, to
+    /// the end of the transaction.
+    virtual void ReserveObject(soci::session&, std::int32_t /*number*/) {}
     /// What a SELECT ends with that keeps its rows from being changed by others.
     virtual std::string_view RowLock() const { return ""; }
     /// Whether rows are best written many at once, as an array of JSON objects, since every
@@ -89,8 +97,8 @@ inline constexpr int LockTimeoutSeconds = 5;
 /// @param version as the server gives it: 150003 is 15.3
 void RequireServerVersion(int version);
 
-/// `Backend::Identity` of the store in an SQLite file.
-std::string IdentityOfFile(const std::string& path);
+/// `Backend::Place` of the store in an SQLite file.
+std::string PlaceOfFile(const std::string& path);
 
 /// The back end for an address, not connected yet.
 std::unique_ptr<Backend> BackendFor(const std::string& address);

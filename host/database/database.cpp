@@ -1,6 +1,7 @@
 #include "host/database/database.h"
 
 #include "host/database/address.h"
+#include "host/database/execute.h"
 #include "host/database/schema.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ Database::Database(const std::string& address, const std::function<void(Database
     try
     {
         m_backend->Connect(m_session);
-        m_readOnly = m_backend->IsReadOnly(m_session);
+        m_whyReadOnly = m_backend->WhyReadOnly(m_session);
         m_serverUser = m_backend->ServerUser(m_session);
     }
     catch (const soci::soci_error& error)
@@ -84,15 +85,21 @@ bool Database::Testifies(const std::string& witness)
 {
     return Run("It isn't known yet whether a change was stored", [&](soci::session& session) {
         int count = 0;
-        session << witness, soci::into(count);
+        Execute(session, witness, soci::into(count));
         return count > 0;
     });
 }
 
-std::string Database::Identity()
+void Database::RequireWritable(const std::string& consequence) const
+{
+    if (IsReadOnly())
+        RaiseFailure(consequence, StoreError::ReadOnly, "");
+}
+
+std::string Database::Place()
 {
     return Run("The store is not looked at",
-               [this](soci::session& session) { return m_backend->Identity(session); });
+               [this](soci::session& session) { return m_backend->Place(session); });
 }
 
 std::vector<std::string> Database::Faults()
@@ -132,7 +139,7 @@ void Database::Begin()
     }
     else
     {
-        m_session << "SAVEPOINT Level" << m_depth;
+        Execute(m_session, "SAVEPOINT Level" + std::to_string(m_depth));
     }
     m_undoOfLevel.push_back(m_undo.size());
     ++m_depth;
@@ -158,7 +165,7 @@ void Database::Commit()
     }
     else
     {
-        m_session << "RELEASE SAVEPOINT Level" << m_depth - 1;
+        Execute(m_session, "RELEASE SAVEPOINT Level" + std::to_string(m_depth - 1));
     }
     m_undoOfLevel.pop_back();
     --m_depth;
@@ -181,12 +188,12 @@ void Database::RollBack() noexcept
     {
         if (m_depth == 0)
         {
-            m_session << "ROLLBACK";
+            Execute(m_session, "ROLLBACK");
         }
         else
         {
-            m_session << "ROLLBACK TO SAVEPOINT Level" << m_depth;
-            m_session << "RELEASE SAVEPOINT Level" << m_depth;
+            Execute(m_session, "ROLLBACK TO SAVEPOINT Level" + std::to_string(m_depth));
+            Execute(m_session, "RELEASE SAVEPOINT Level" + std::to_string(m_depth));
         }
     }
     catch (const std::exception&)
@@ -235,6 +242,12 @@ void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
 {
     const Reason& reason = ReasonOf(number);
     std::string description = consequence + ": the store \"" + m_name + "\" ";
+    if (number == StoreError::ReadOnly && IsReadOnly())
+        throw Failure(number, "Store", description + "is read-only: " + m_whyReadOnly);
+    if (number == StoreError::ReadOnly && !m_serverUser.empty())
+        throw Failure(number, "Store",
+                      description + "doesn't let \"" + m_serverUser + "\" do that (" +
+                          OwnWords(message) + "). Ask its keeper");
     description += reason.Text;
     if (reason.IsExplained)
         description += " (" + OwnWords(message) + ")";

@@ -30,7 +30,12 @@ public:
 
     /// The address as messages show it.
     const std::string& Name() const { return m_name; }
-    bool IsReadOnly() const { return m_readOnly; }
+    /// `Backend::WhyReadOnly`, as it was when the store was opened.
+    const std::string& WhyReadOnly() const { return m_whyReadOnly; }
+    bool IsReadOnly() const { return !m_whyReadOnly.empty(); }
+    /// Raises `StoreError::ReadOnly` on a store that is read-only.
+    /// @param consequence as `Run` takes it
+    void RequireWritable(const std::string& consequence) const;
     bool IsInTransaction() const { return m_depth > 0; }
     const Tamrivo::Backend& Backend() const { return *m_backend; }
 
@@ -55,8 +60,8 @@ public:
     }
 
     /// The present moment, as what is written is stamped with it.
-    std::function<std::chrono::sys_seconds()> Now = [] {
-        return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    std::function<std::chrono::sys_time<std::chrono::milliseconds>()> Now = [] {
+        return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
     };
 
     /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
@@ -108,14 +113,18 @@ public:
     /// `Backend::LastNumber`, `Backend::SetLastNumber`
     std::int32_t LastNumber() { return m_backend->LastNumber(m_session); }
     void SetLastNumber(std::int32_t number) { m_backend->SetLastNumber(m_session, number); }
-    /// `Backend::Identity`
-    std::string Identity();
+    /// `Backend::Place`
+    std::string Place();
     /// `Backend::Faults`
     std::vector<std::string> Faults();
     /// `Backend::BackUpTo`
     bool BackUpTo(const std::string& file);
     /// `Backend::TryReserveSeals`
     bool TryReserveSeals() { return m_backend->TryReserveSeals(m_session); }
+    /// `Backend::ReserveObject`
+    void ReserveObject(std::int32_t number) { m_backend->ReserveObject(m_session, number); }
+    /// `Backend::MayChangeSchema`
+    bool MayChangeSchema() { return m_backend->MayChangeSchema(m_session); }
     /// `Backend::ReserveSchema`
     void ReserveSchema() { m_backend->ReserveSchema(m_session); }
 
@@ -154,7 +163,7 @@ private:
     std::string m_serverUser;
     std::string m_witness;
     int m_witnesses = 0;
-    bool m_readOnly = false;
+    std::string m_whyReadOnly;
     int m_running = 0; ///< Pieces of work, one inside the other.
     int m_depth = 0;   ///< Open transactions, one inside the other.
     int m_connectionNumber = 0;

@@ -1,5 +1,6 @@
-#include "host/database/address.h"
 #include "host/database/backend.h"
+#include "host/database/execute.h"
+#include "host/database/postgresql_address.h"
 #include "host/database/store_failure.h"
 
 #include <soci/postgresql/soci-postgresql.h>
@@ -39,41 +40,6 @@ public:
     using soci::soci_error::soci_error;
 };
 
-/// How long a server that doesn't answer is waited for, unless the address says.
-constexpr const char* ConnectTimeoutSeconds = "5";
-
-/// The address as the "keyword='value'" pairs that SOCI asks for.
-std::string ConnectionText(const std::string& address)
-{
-    // What the parser complains of may be the password.
-    const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
-        PQconninfoParse(address.c_str(), nullptr), &PQconninfoFree);
-    if (!options)
-        throw Failure(ErrorNumber::InvalidArgument, "Store",
-                      "\"" + AddressWithoutPassword(address) +
-                          "\" is no address of a PostgreSQL database, which is "
-                          "postgresql://USER@SERVER/DATABASE with other characters than letters "
-                          "and digits as %XX");
-
-    std::string text;
-    for (const PQconninfoOption* option = options.get(); option->keyword; ++option)
-    {
-        const bool isTimeout = std::string_view(option->keyword) == "connect_timeout";
-        const char* value = option->val ? option->val : isTimeout ? ConnectTimeoutSeconds : nullptr;
-        if (!value)
-            continue;
-        text.append(option->keyword).append("='");
-        for (const char* character = value; *character; ++character)
-        {
-            if (*character == '\'' || *character == '\\')
-                text += '\\';
-            text += *character;
-        }
-        text += "' ";
-    }
-    return text;
-}
-
 class PostgresqlBackend : public Backend
 {
 public:
@@ -96,21 +62,27 @@ public:
         SetUp(session);
     }
 
-    bool IsReadOnly(soci::session& session) override
+    std::string WhyReadOnly(soci::session& session) override
     {
         // A person may be let in to read alone. A database without tables is yet to be made.
-        std::string readOnly;
-        session << "SELECT CASE WHEN current_setting('transaction_read_only') = 'on' OR NOT "
-                   "COALESCE(has_table_privilege(to_regclass('locus'), 'UPDATE'), TRUE) "
-                   "THEN 'yes' ELSE 'no' END",
-            soci::into(readOnly);
-        return readOnly == "yes";
+        int isReader = 0;
+        int isServerReadOnly = 0;
+        Execute(session,
+                "SELECT 1 - COALESCE(has_table_privilege(to_regclass('locus'), 'UPDATE'), "
+                "TRUE)::integer, (current_setting('transaction_read_only') = 'on')::integer",
+                soci::into(isReader), soci::into(isServerReadOnly));
+        if (isServerReadOnly != 0)
+            return "its server takes no changes, such as a standby. Name the one that does";
+        if (isReader != 0)
+            return "\"" + ServerUser(session) +
+                   "\" has the rights of a reader there. Ask its keeper for those of an editor";
+        return {};
     }
 
     std::string ServerUser(soci::session& session) override
     {
         std::string user;
-        session << "SELECT session_user", soci::into(user);
+        Execute(session, "SELECT session_user", soci::into(user));
         return user;
     }
 
@@ -130,28 +102,29 @@ public:
 
     bool IsReachable(soci::session&) override { return true; }
 
-    std::string Identity(soci::session& session) override
+    std::string Place(soci::session& session) override
     {
-        std::string identity;
-        session << "SELECT CAST(pg_postmaster_start_time() AS TEXT) || ' ' || oid FROM pg_database "
-                   "WHERE datname = current_database()",
-            soci::into(identity);
-        return "postgresql " + identity;
+        std::string place;
+        Execute(session,
+                "SELECT CAST(pg_postmaster_start_time() AS TEXT) || ' ' || oid FROM pg_database "
+                "WHERE datname = current_database()",
+                soci::into(place));
+        return "postgresql " + place;
     }
 
     void BeginSnapshot(soci::session& session) override
     {
-        session << "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
+        Execute(session, "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
     }
 
-    void Begin(soci::session& session) override { session << "BEGIN"; }
+    void Begin(soci::session& session) override { Execute(session, "BEGIN"); }
 
     void Commit(soci::session& session, const std::string& witness) override
     {
         const int serverProcess = PQbackendPID(m_handle);
         try
         {
-            session << "COMMIT";
+            Execute(session, "COMMIT");
         }
         catch (const soci::soci_error& error)
         {
@@ -165,16 +138,34 @@ public:
     void ReserveSchema(soci::session& session) override
     {
         constexpr int lockOfTheSchema = 0x7A3;
-        session << "SELECT pg_advisory_xact_lock(" << lockOfTheSchema << ")";
+        Execute(session, "SELECT pg_advisory_xact_lock(" + std::to_string(lockOfTheSchema) + ")");
+    }
+
+    bool MayChangeSchema(soci::session& session) override
+    {
+        int mayChange = 1;
+        Execute(session,
+                "SELECT pg_has_role(relowner, 'USAGE')::integer FROM pg_class "
+                "WHERE oid = to_regclass('schemaversion')",
+                soci::into(mayChange));
+        return mayChange != 0;
     }
 
     bool TryReserveSeals(soci::session& session) override
     {
         constexpr int lockOfTheSeals = 0x7A4;
         int reserved = 0;
-        session << "SELECT pg_try_advisory_xact_lock(" << lockOfTheSeals << ")::integer",
-            soci::into(reserved);
+        Execute(session,
+                "SELECT pg_try_advisory_xact_lock(" + std::to_string(lockOfTheSeals) + ")::integer",
+                soci::into(reserved));
         return reserved != 0;
+    }
+
+    void ReserveObject(soci::session& session, std::int32_t number) override
+    {
+        constexpr int locksOfObjects = 0x7A5;
+        Execute(session, "SELECT pg_advisory_xact_lock(" + std::to_string(locksOfObjects) + ", " +
+                             std::to_string(number) + ")");
     }
 
     std::string_view RowLock() const override { return " FOR UPDATE"; }
@@ -184,21 +175,21 @@ public:
     std::int32_t NextNumber(soci::session& session) override
     {
         std::int32_t number = 0;
-        session << "SELECT nextval('ObjectNumber')", soci::into(number);
+        Execute(session, "SELECT nextval('ObjectNumber')", soci::into(number));
         return number;
     }
 
     std::int32_t LastNumber(soci::session& session) override
     {
         std::int32_t number = 0;
-        session << "SELECT last_value FROM ObjectNumber", soci::into(number);
+        Execute(session, "SELECT last_value FROM ObjectNumber", soci::into(number));
         return number;
     }
 
     void SetLastNumber(soci::session& session, std::int32_t number) override
     {
-        session << "SELECT setval('ObjectNumber', " << number << ")";
-        session << "SELECT setval('history_number_seq', (SELECT MAX(Number) FROM History))";
+        Execute(session, "SELECT setval('ObjectNumber', " + std::to_string(number) + ")");
+        Execute(session, "SELECT setval('history_number_seq', (SELECT MAX(Number) FROM History))");
     }
 
     bool MayTryAgain(const soci::soci_error& error) const override
@@ -248,11 +239,13 @@ private:
                 std::this_thread::sleep_for(attempt * std::chrono::milliseconds(50));
                 Reconnect(session);
                 int count = 0;
-                session << "SELECT COUNT(*) FROM pg_stat_activity WHERE pid = " << serverProcess,
-                    soci::into(count);
+                Execute(session,
+                        "SELECT COUNT(*) FROM pg_stat_activity WHERE pid = " +
+                            std::to_string(serverProcess),
+                        soci::into(count));
                 if (count > 0)
                     continue;
-                session << witness, soci::into(count);
+                Execute(session, witness, soci::into(count));
                 return count > 0;
             }
             catch (const soci::soci_error&)
@@ -265,7 +258,7 @@ private:
 
     static void SetUp(soci::session& session)
     {
-        session << "SET lock_timeout = '" << LockTimeoutSeconds << "s'";
+        Execute(session, "SET lock_timeout = '" + std::to_string(LockTimeoutSeconds) + "s'");
     }
 
     std::string m_address;

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/transaction.h"
 
 #include <algorithm>
@@ -162,7 +163,16 @@ constexpr std::string_view Version3[] = {
     SELECT setval('ObjectNumber', (SELECT Number FROM LastNumber)))",
 };
 
-constexpr SchemaStep Steps[] = {Version1, Version2, Version3};
+// By what a store is known again, wherever it is.
+constexpr std::string_view Version4[] = {
+    R"(--sqlite
+    INSERT INTO Setting (Name, Value) VALUES ('identity', lower(hex(randomblob(16)))))",
+    R"(--postgresql
+    INSERT INTO Setting (Name, Value)
+        VALUES ('identity', replace(CAST(gen_random_uuid() AS TEXT), '-', '')))",
+};
+
+constexpr SchemaStep Steps[] = {Version1, Version2, Version3, Version4};
 
 bool IsFor(const Backend& backend, std::string_view statement)
 {
@@ -201,8 +211,23 @@ std::size_t StoredVersion(const Database& database, soci::session& session)
             "Nothing was opened: \"" + database.Name() +
                 "\" is a database of another program. Choose another place for the store");
     int version = 0;
-    session << "SELECT Version FROM SchemaVersion", soci::into(version);
+    Execute(session, "SELECT Version FROM SchemaVersion", soci::into(version));
     return static_cast<std::size_t>(version);
+}
+
+/// Raises `StoreError::ReadOnly` when the tables can't be brought from one version to another.
+void RequireMayChange(Database& database, std::size_t from, std::size_t to)
+{
+    if (!database.IsReadOnly() && database.MayChangeSchema())
+        return;
+    const bool isOnServer = !database.ServerUser().empty();
+    throw Failure(StoreError::ReadOnly, "Store",
+                  "Nothing was opened: the store \"" + database.Name() + "\" has " +
+                      (from == 0 ? "no tables yet" : "tables of version " + std::to_string(from)) +
+                      (isOnServer ? ". Its keeper has to open it first with this program"
+                                  : " and is read-only. Make it writable") +
+                      ", so that they can be " +
+                      (from == 0 ? "made" : "brought to version " + std::to_string(to)));
 }
 
 } // namespace
@@ -222,14 +247,7 @@ void MigrateSchema(Database& database, soci::session& session, std::span<const S
                           std::to_string(steps.size()) + "). Open it with the newer program");
     if (version == steps.size())
         return;
-    if (database.IsReadOnly())
-        throw Failure(
-            StoreError::ReadOnly, "Store",
-            "Nothing was opened: the store \"" + database.Name() + "\" has " +
-                (version == 0 ? "no tables yet" : "tables of version " + std::to_string(version)) +
-                " and is read-only. Make it writable, so that they can be " +
-                (version == 0 ? "made" : "brought to version " + std::to_string(steps.size())));
-
+    RequireMayChange(database, version, steps.size());
     Transaction transaction(database);
     database.ReserveSchema();
     // Another program may have done it while this one waited for its turn.
@@ -238,9 +256,9 @@ void MigrateSchema(Database& database, soci::session& session, std::span<const S
         for (const std::string_view statement : steps[step])
         {
             if (IsFor(database.Backend(), statement))
-                session << InDialectOf(database.Backend(), statement);
+                Execute(session, InDialectOf(database.Backend(), statement));
         }
-        session << "UPDATE SchemaVersion SET Version = " << step + 1;
+        Execute(session, "UPDATE SchemaVersion SET Version = " + std::to_string(step + 1));
     }
     complete(database);
     transaction.Commit();

@@ -1,11 +1,14 @@
 #include "host/database/backend.h"
+#include "host/database/execute.h"
 #include "host/database/sqlite_backup.h"
 #include "host/database/sqlite_row.h"
 #include "host/database/store_failure.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <utility>
 
 namespace Tamrivo
 {
@@ -32,13 +35,7 @@ void MakeDirectoryOf(const std::filesystem::path& file)
 class SqliteBackend : public Backend
 {
 public:
-    explicit SqliteBackend(const std::string& path) : m_file(std::filesystem::absolute(path))
-    {
-        // The connection text has no way to write one.
-        if (path.find('"') != std::string::npos)
-            throw Failure(ErrorNumber::InvalidArgument, "Store",
-                          "The path of a store can't contain a double quote: " + path);
-    }
+    explicit SqliteBackend(const std::string& path) : m_file(std::filesystem::absolute(path)) {}
 
     std::string_view Dialect() const override { return "sqlite"; }
     std::string_view SerialKey() const override { return "INTEGER PRIMARY KEY AUTOINCREMENT"; }
@@ -50,24 +47,31 @@ public:
             throw Failure(StoreError::Unreachable, "Store",
                           "The store \"" + m_file.string() +
                               "\" can't be opened: it is a directory. Name a file in it");
-        session.open(*soci::factory_sqlite3(), "db=\"" + m_file.string() + "\"");
+        Open(session);
         sqlite_api::sqlite3_busy_timeout(Handle(session), LockTimeoutSeconds * 1000);
         sqlite_api::sqlite3_extended_result_codes(Handle(session), 1);
         // A rollback journal keeps the store one file that can be copied, and readable on a
         // read-only disk, neither of which holds for a write-ahead log. "extra" also syncs the
         // directory that the journal is deleted from, without which a power cut just after a
         // commit could bring the journal back and undo it.
-        session << "PRAGMA synchronous = EXTRA";
+        Execute(session, "PRAGMA synchronous = EXTRA");
         // In KiB. What a large import changes would else be written out, and the journal synced,
         // again and again before its end.
-        session << "PRAGMA cache_size = -65536";
+        Execute(session, "PRAGMA cache_size = -65536");
         // What a savepoint may have to bring back is kept in memory too, not in a file of its own.
-        session << "PRAGMA temp_store = MEMORY";
+        Execute(session, "PRAGMA temp_store = MEMORY");
     }
 
-    bool IsReadOnly(soci::session& session) override
+    std::string WhyReadOnly(soci::session& session) override
     {
-        return sqlite_api::sqlite3_db_readonly(Handle(session), "main") == 1;
+        if (sqlite_api::sqlite3_db_readonly(Handle(session), "main") == 1)
+            return "its file can't be written. Make it writable, or work on a copy";
+        std::error_code ignored;
+        const auto file = std::filesystem::weakly_canonical(m_file, ignored);
+        if (access(file.parent_path().c_str(), W_OK) != 0)
+            return "its folder can't be written, in which each change is prepared. Make the "
+                   "folder writable, or work on a copy";
+        return {};
     }
 
     bool IsReachable(soci::session& session) override
@@ -78,7 +82,7 @@ public:
         return moved == 0;
     }
 
-    std::string Identity(soci::session&) override { return IdentityOfFile(m_file); }
+    std::string Place(soci::session&) override { return PlaceOfFile(m_file); }
 
     std::vector<std::string> Faults(soci::session& session) override
     {
@@ -93,7 +97,7 @@ public:
         return faults;
     }
 
-    void BeginSnapshot(soci::session& session) override { session << "BEGIN"; }
+    void BeginSnapshot(soci::session& session) override { Execute(session, "BEGIN"); }
 
     bool BackUpTo(soci::session& session, const std::string& file,
                   const std::function<void()>& progress) override
@@ -102,28 +106,28 @@ public:
         return true;
     }
 
-    void Begin(soci::session& session) override { session << "BEGIN IMMEDIATE"; }
+    void Begin(soci::session& session) override { Execute(session, "BEGIN IMMEDIATE"); }
 
-    void Commit(soci::session& session, const std::string&) override { session << "COMMIT"; }
+    void Commit(soci::session& session, const std::string&) override { Execute(session, "COMMIT"); }
 
     std::int32_t NextNumber(soci::session& session) override
     {
         std::int32_t number = 0;
-        session << "UPDATE LastNumber SET Number = Number + 1";
-        session << "SELECT Number FROM LastNumber", soci::into(number);
+        Execute(session, "UPDATE LastNumber SET Number = Number + 1");
+        Execute(session, "SELECT Number FROM LastNumber", soci::into(number));
         return number;
     }
 
     std::int32_t LastNumber(soci::session& session) override
     {
         std::int32_t number = 0;
-        session << "SELECT Number FROM LastNumber", soci::into(number);
+        Execute(session, "SELECT Number FROM LastNumber", soci::into(number));
         return number;
     }
 
     void SetLastNumber(soci::session& session, std::int32_t number) override
     {
-        session << "UPDATE LastNumber SET Number = " << number;
+        Execute(session, "UPDATE LastNumber SET Number = " + std::to_string(number));
     }
 
     std::int32_t ErrorNumberOf(const soci::soci_error& error) const override
@@ -155,12 +159,26 @@ public:
     }
 
 private:
+    /// SOCI reads the path out of a text in which not every path can be written; so it opens
+    /// nothing, and is given the file's connection.
+    void Open(soci::session& session)
+    {
+        session.open(*soci::factory_sqlite3(), ":memory:");
+        auto*& connection =
+            static_cast<soci::sqlite3_session_backend*>(session.get_backend())->conn_;
+        sqlite_api::sqlite3_close(std::exchange(connection, nullptr));
+        const int result = sqlite_api::sqlite3_open_v2(
+            m_file.c_str(), &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        if (result != SQLITE_OK)
+            throw soci::sqlite3_soci_error(sqlite_api::sqlite3_errmsg(connection), result);
+    }
+
     std::filesystem::path m_file;
 };
 
 } // namespace
 
-std::string IdentityOfFile(const std::string& path)
+std::string PlaceOfFile(const std::string& path)
 {
     struct stat file
     {};

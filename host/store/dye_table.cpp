@@ -1,6 +1,7 @@
 #include "host/store/dye_table.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/transaction.h"
 #include "host/store/history_content.h"
 #include "host/store/history_writer.h"
@@ -94,12 +95,13 @@ void WriteDyes(Database& database, const Dyes& dyes, bool recolor)
             throw Failure(ErrorNumber::InvalidArgument, "Store",
                           consequence + ": the dyes of these loci would get another colour: " +
                               tags + ". Recolour them expressly if that is meant (--recolour)");
-        session << "DELETE FROM Dye";
+        Execute(session, "DELETE FROM Dye");
         std::int32_t position = 0;
         for (const Dye& dye : dyes.All())
         {
-            session << "INSERT INTO Dye (Position, Color, Name) VALUES (:Position, :Color, :Name)",
-                soci::use(position), soci::use(dye.Color), soci::use(dye.Name);
+            Execute(session,
+                    "INSERT INTO Dye (Position, Color, Name) VALUES (:Position, :Color, :Name)",
+                    soci::use(position), soci::use(dye.Color), soci::use(dye.Name));
             ++position;
         }
         HistoryWriter(database).Record({.Kind = HistoryKind::Dyes,

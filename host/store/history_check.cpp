@@ -1,5 +1,6 @@
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/store/history.h"
 #include "host/store/seal.h"
 
@@ -116,10 +117,11 @@ Seal ReadSeal(Database& database, std::int32_t after)
 {
     return database.Run(NotChecked, [&](soci::session& session) {
         Seal seal;
-        session << "SELECT Number, WrittenAt, Records, Digest FROM Seal WHERE Number > :After "
-                   "ORDER BY Number LIMIT 1",
-            soci::use(after), soci::into(seal.Number), soci::into(seal.WrittenAt),
-            soci::into(seal.Records), soci::into(seal.Digest);
+        Execute(session,
+                "SELECT Number, WrittenAt, Records, Digest FROM Seal WHERE Number > :After "
+                "ORDER BY Number LIMIT 1",
+                soci::use(after), soci::into(seal.Number), soci::into(seal.WrittenAt),
+                soci::into(seal.Records), soci::into(seal.Digest));
         return seal;
     });
 }

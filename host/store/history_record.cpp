@@ -66,9 +66,4 @@ std::string IsoTime(HistoryTime moment)
     return text.data();
 }
 
-HistoryTime HistoryNow()
-{
-    return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
-
 } // namespace Tamrivo

@@ -98,7 +98,4 @@ std::string Sha256(std::string_view text);
 /// The moment as ISO 8601 in UTC, to the millisecond.
 std::string IsoTime(HistoryTime moment);
 
-/// The moment now.
-HistoryTime HistoryNow();
-
 } // namespace Tamrivo

@@ -2,6 +2,7 @@
 
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/loci/keys.h"
 #include "host/store/settings.h"
 
@@ -60,7 +61,7 @@ void HistoryWriter::Record(const Change& change)
                           "\" is not stored: this store asks for the reason of "
                           "each change. Give one (--reason TEXT, in the shell: reason TEXT)");
     record.Revision = change.Revision > 0 ? change.Revision : m_statements->LastRevision + 1;
-    record.WrittenAt = change.When.time_since_epoch().count();
+    record.WrittenAt = m_database.Now().time_since_epoch().count();
     record.Who = notes.Who;
     record.ServerUser = m_database.ServerUser();
     record.Program = notes.Program;
@@ -86,9 +87,10 @@ std::int32_t LastRevision(Database& database, std::string_view kind, std::int32_
     return database.Run("The history is not read", [&](soci::session& session) {
         const std::string kindText(kind);
         std::int32_t revision = 0;
-        session << "SELECT COALESCE(MAX(Revision), 0) FROM History WHERE Kind = :Kind AND "
-                   "ObjectNumber = :ObjectNumber",
-            soci::use(kindText), soci::use(objectNumber), soci::into(revision);
+        Execute(session,
+                "SELECT COALESCE(MAX(Revision), 0) FROM History WHERE Kind = :Kind AND "
+                "ObjectNumber = :ObjectNumber",
+                soci::use(kindText), soci::use(objectNumber), soci::into(revision));
         return revision;
     });
 }

@@ -21,7 +21,6 @@ struct Change
     std::string Name;
     std::string Content;
     std::int32_t Revision = 0; ///< 0: the one after the object's last.
-    HistoryTime When = HistoryNow();
 };
 
 /// Adds to the history, with statements that are prepared once a connection. Its members are called

@@ -1,13 +1,12 @@
 #include "host/store/integrity.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/snapshot.h"
 #include "host/loci/keys.h"
 #include "host/store/history.h"
 #include "host/store/state_check.h"
 #include "host/store/store.h"
-
-#include <soci/soci.h>
 
 #include <functional>
 #include <string_view>
@@ -95,7 +94,7 @@ private:
     {
         return m_database.Run("The store is not checked", [&](soci::session& session) {
             long long count = 0;
-            session << query, soci::into(count);
+            Execute(session, std::string(query), soci::into(count));
             return count;
         });
     }

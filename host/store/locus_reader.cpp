@@ -2,6 +2,7 @@
 
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/snapshot.h"
 #include "host/store/allele_row.h"
 #include "host/store/locus_row.h"
 
@@ -26,6 +27,9 @@ std::optional<ReadLocusState> LocusReader::Next()
         if (m_isAtEnd)
             return std::nullopt;
         m_database.Run("The loci are not read", [this](soci::session&) {
+            std::optional<Snapshot> snapshot;
+            if (!m_database.IsInTransaction())
+                snapshot.emplace(m_database);
             ReadPage();
             if (!m_page.empty())
                 ReadAllelesOfPage();

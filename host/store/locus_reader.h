@@ -21,7 +21,8 @@ struct ReadLocusState
 };
 
 /// Reads loci with their alleles in the order of their numbers, many with one query, in memory that
-/// doesn't grow with the store. Where others may write meanwhile, it is used inside a `Snapshot`.
+/// doesn't grow with the store. Each locus is whole; where all of them are to be of one moment, it
+/// is used inside a `Snapshot`.
 class LocusReader
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/loci/keys.h"
 #include "host/store/locus_row.h"
 
@@ -93,8 +94,8 @@ std::int32_t FindLocusNumber(Database& database, const std::string& tag)
     return database.Run("The locus \"" + tag + "\" is not looked up", [&](soci::session& session) {
         const std::string key = LookupKey(tag);
         std::int32_t number = 0;
-        session << "SELECT LocusID FROM Locus WHERE " << HasTagKey, soci::use(key),
-            soci::into(number);
+        Execute(session, std::string("SELECT LocusID FROM Locus WHERE ") + HasTagKey,
+                soci::use(key), soci::into(number));
         return number;
     });
 }
@@ -104,8 +105,8 @@ void RequireUnchanged(soci::session& session, const StoredLocus& locus,
 {
     const std::int32_t number = locus.LocusID();
     std::int32_t revision = 0;
-    session << "SELECT Revision FROM Locus WHERE LocusID = :LocusID", soci::use(number),
-        soci::into(revision);
+    Execute(session, "SELECT Revision FROM Locus WHERE LocusID = :LocusID", soci::use(number),
+            soci::into(revision));
     RequireRevision(revision, locus, consequence);
 }
 

@@ -109,10 +109,9 @@ void LocusWriter::Save(StoredLocus& locus)
         Prepared(session);
         Transaction transaction(m_database);
         LocusState state = StateOf(locus);
-        const HistoryTime now = HistoryNow();
         identity = locus.Identity();
         ++identity.Revision;
-        identity.DateLastModified = DateOf(now);
+        identity.DateLastModified = DateOf(m_database.Now());
         if (locus.LocusID() == 0)
         {
             identity.LocusID = m_database.NextNumber();
@@ -165,10 +164,12 @@ void LocusWriter::Restore(std::int32_t locusID, const LocusState& state)
     m_database.Run(NotStored(state.Tag), [&](soci::session& session) {
         Prepared(session);
         Transaction transaction(m_database);
+        // A deleted locus has no row that could be locked.
+        m_database.ReserveObject(locusID);
         const auto stored = Lock(locusID);
         const std::int32_t last = stored ? m_statements->Stored.Revision
                                          : LastRevision(m_database, HistoryKind::Locus, locusID);
-        const LocusIdentity identity{locusID, last + 1, DateOf(HistoryNow())};
+        const LocusIdentity identity{locusID, last + 1, DateOf(m_database.Now())};
         if (stored)
             Update(identity, state, *stored, HistoryOperation::Restored);
         else

@@ -1,6 +1,7 @@
 #include "host/store/parameter_store.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/loci/keys.h"
 #include "host/store/history_writer.h"
 #include "host/store/parameter_tags.h"
@@ -40,11 +41,12 @@ ParameterRow ReadRow(soci::session& session, const std::string& name, std::strin
 {
     const std::string key = LookupKey(name);
     ParameterRow row;
-    session << "SELECT ParameterID, Revision, Name, LocusTagListCount FROM AnalysisParameter "
-               "WHERE NameKey = :NameKey"
-            << rowLock,
-        soci::use(key), soci::into(row.ParameterID), soci::into(row.Revision), soci::into(row.Name),
-        soci::into(row.LocusTagListCount);
+    Execute(session,
+            "SELECT ParameterID, Revision, Name, LocusTagListCount FROM AnalysisParameter "
+            "WHERE NameKey = :NameKey" +
+                std::string(rowLock),
+            soci::use(key), soci::into(row.ParameterID), soci::into(row.Revision),
+            soci::into(row.Name), soci::into(row.LocusTagListCount));
     return row;
 }
 
@@ -69,10 +71,11 @@ std::int32_t InsertRow(Database& database, soci::session& session, const std::st
 {
     const std::string key = RequireKey(name);
     const std::int32_t number = database.NextNumber();
-    session << "INSERT INTO AnalysisParameter "
-               "(ParameterID, Revision, Name, NameKey, LocusTagListCount) "
-               "VALUES (:ParameterID, 1, :Name, :NameKey, :LocusTagListCount)",
-        soci::use(number), soci::use(name), soci::use(key), soci::use(listCount);
+    Execute(session,
+            "INSERT INTO AnalysisParameter "
+            "(ParameterID, Revision, Name, NameKey, LocusTagListCount) "
+            "VALUES (:ParameterID, 1, :Name, :NameKey, :LocusTagListCount)",
+            soci::use(number), soci::use(name), soci::use(key), soci::use(listCount));
     return number;
 }
 
@@ -228,9 +231,10 @@ void ParameterStore::Rename(const std::string& name, const std::string& newName)
     database.Run(NotDone(name, "renamed to \"" + newName + "\""), [&](soci::session& session) {
         Transaction transaction(database);
         const ParameterRow row = RequireRow(database, session, name);
-        session << "UPDATE AnalysisParameter SET Revision = Revision + 1, Name = :Name, "
-                   "NameKey = :NameKey WHERE ParameterID = :ParameterID",
-            soci::use(newName), soci::use(key), soci::use(row.ParameterID);
+        Execute(session,
+                "UPDATE AnalysisParameter SET Revision = Revision + 1, Name = :Name, "
+                "NameKey = :NameKey WHERE ParameterID = :ParameterID",
+                soci::use(newName), soci::use(key), soci::use(row.ParameterID));
         RecordState(database, row.ParameterID, HistoryOperation::Changed);
         transaction.Commit();
     });
@@ -256,8 +260,8 @@ void ParameterStore::Delete(const std::string& name)
         Transaction transaction(database);
         const ParameterRow row = RequireRow(database, session, name);
         RemoveTags(session, row.ParameterID);
-        session << "DELETE FROM AnalysisParameter WHERE ParameterID = :ParameterID",
-            soci::use(row.ParameterID);
+        Execute(session, "DELETE FROM AnalysisParameter WHERE ParameterID = :ParameterID",
+                soci::use(row.ParameterID));
         HistoryWriter(database).Record({.Kind = HistoryKind::Parameter,
                                         .ObjectNumber = row.ParameterID,
                                         .Operation = HistoryOperation::Deleted,

@@ -1,8 +1,7 @@
 #include "host/store/parameter_tags.h"
 
+#include "host/database/execute.h"
 #include "host/store/stored_parameter.h"
-
-#include <soci/soci.h>
 
 #include <unordered_set>
 
@@ -24,8 +23,8 @@ std::vector<std::int32_t> ReadTags(soci::session& session, std::int32_t paramete
 
 void RemoveTags(soci::session& session, std::int32_t parameterID)
 {
-    session << "DELETE FROM AnalysisParameterTag WHERE ParameterID = :ParameterID",
-        soci::use(parameterID);
+    Execute(session, "DELETE FROM AnalysisParameterTag WHERE ParameterID = :ParameterID",
+            soci::use(parameterID));
 }
 
 void InsertTags(soci::session& session, std::int32_t parameterID, const LocusTagEntries& entries)
@@ -49,9 +48,11 @@ void InsertTags(soci::session& session, std::int32_t parameterID, const LocusTag
 
 void CopyTags(soci::session& session, std::int32_t from, std::int32_t to)
 {
-    session << "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) SELECT " << to
-            << ", LocusTagID, Position FROM AnalysisParameterTag WHERE ParameterID = :ParameterID",
-        soci::use(from);
+    Execute(session,
+            "INSERT INTO AnalysisParameterTag (ParameterID, LocusTagID, Position) SELECT " +
+                std::to_string(to) +
+                ", LocusTagID, Position FROM AnalysisParameterTag WHERE ParameterID = :ParameterID",
+            soci::use(from));
 }
 
 } // namespace Tamrivo

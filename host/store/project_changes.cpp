@@ -3,6 +3,7 @@
 #include "contracts/locus.h"
 #include "core/text.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/loci/keys.h"
 #include "host/store/history_content.h"
 #include "host/store/history_writer.h"
@@ -60,8 +61,9 @@ void RenameProject(Store& store, const std::string& name, const std::string& new
         const auto project = Required(database, name);
         const std::int32_t number = project->ProjectID();
         database.Run("The project \"" + name + "\" is not renamed", [&](soci::session& session) {
-            session << "UPDATE Project SET Name = :Name, NameKey = :Key WHERE ProjectID = :ID",
-                soci::use(newName), soci::use(key), soci::use(number);
+            Execute(session,
+                    "UPDATE Project SET Name = :Name, NameKey = :Key WHERE ProjectID = :ID",
+                    soci::use(newName), soci::use(key), soci::use(number));
         });
         Record(database, *project, HistoryOperation::Changed, newName);
         for (const std::string& tag : TagsIn(database, number))
@@ -89,7 +91,7 @@ void DeleteProject(Store& store, const std::string& name)
                               " loci are in it. Move them to another one first (tamrivo set TAG "
                               "--project NAME)");
         database.Run("The project \"" + name + "\" is not deleted", [&](soci::session& session) {
-            session << "DELETE FROM Project WHERE ProjectID = :ID", soci::use(number);
+            Execute(session, "DELETE FROM Project WHERE ProjectID = :ID", soci::use(number));
         });
         Record(database, *project, HistoryOperation::Deleted, project->Name());
     });

@@ -1,6 +1,7 @@
 #include "host/store/projects.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/transaction.h"
 #include "host/loci/keys.h"
 #include "host/store/history_content.h"
@@ -30,8 +31,8 @@ std::shared_ptr<StoredProject> ReadProject(Database& database, const std::string
         const std::string key = LookupKey(name);
         std::int32_t number = 0;
         std::string storedName;
-        session << "SELECT ProjectID, Name FROM Project WHERE NameKey = :NameKey", soci::use(key),
-            soci::into(number), soci::into(storedName);
+        Execute(session, "SELECT ProjectID, Name FROM Project WHERE NameKey = :NameKey",
+                soci::use(key), soci::into(number), soci::into(storedName));
         return number > 0 ? std::make_shared<StoredProject>(number, storedName) : nullptr;
     });
 }
@@ -44,8 +45,8 @@ std::shared_ptr<StoredProject> AddProject(Database& database, const std::string&
     return database.Run("The project \"" + name + "\" is not stored", [&](soci::session& session) {
         Transaction transaction(database);
         const std::int32_t number = database.NextNumber();
-        session << "INSERT INTO Project (ProjectID, Name, NameKey) VALUES (:ID, :Name, :Key)",
-            soci::use(number), soci::use(name), soci::use(key);
+        Execute(session, "INSERT INTO Project (ProjectID, Name, NameKey) VALUES (:ID, :Name, :Key)",
+                soci::use(number), soci::use(name), soci::use(key));
         HistoryWriter(database).Record({.Kind = HistoryKind::Project,
                                         .ObjectNumber = number,
                                         .Operation = HistoryOperation::Made,

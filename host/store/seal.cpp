@@ -1,6 +1,7 @@
 #include "host/store/seal.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/transaction.h"
 #include "host/store/history_record.h"
 
@@ -25,8 +26,8 @@ struct LastSeal
 LastSeal ReadLast(soci::session& session)
 {
     LastSeal last;
-    session << "SELECT Number, Digest FROM Seal ORDER BY Number DESC LIMIT 1",
-        soci::into(last.Number), soci::into(last.Digest);
+    Execute(session, "SELECT Number, Digest FROM Seal ORDER BY Number DESC LIMIT 1",
+            soci::into(last.Number), soci::into(last.Digest));
     return last;
 }
 
@@ -52,7 +53,7 @@ std::string TakeRecords(soci::session& session)
         }
     }
     if (!numbers.empty())
-        session << "DELETE FROM Unsealed WHERE Number IN (" << numbers << ")";
+        Execute(session, "DELETE FROM Unsealed WHERE Number IN (" + numbers + ")");
     return lines;
 }
 
@@ -67,11 +68,12 @@ bool WriteSeal(Database& database)
             return false;
         const LastSeal last = ReadLast(session);
         const std::int32_t number = last.Number + 1;
-        const long long writtenAt = HistoryNow().time_since_epoch().count();
+        const long long writtenAt = database.Now().time_since_epoch().count();
         const std::string digest = SealDigest(last.Digest, writtenAt, records);
-        session << "INSERT INTO Seal (Number, WrittenAt, Records, Digest) "
-                   "VALUES (:Number, :WrittenAt, :Records, :Digest)",
-            soci::use(number), soci::use(writtenAt), soci::use(records), soci::use(digest);
+        Execute(session,
+                "INSERT INTO Seal (Number, WrittenAt, Records, Digest) "
+                "VALUES (:Number, :WrittenAt, :Records, :Digest)",
+                soci::use(number), soci::use(writtenAt), soci::use(records), soci::use(digest));
         transaction.Commit();
         return true;
     });

@@ -1,6 +1,7 @@
 #include "host/store/settings.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/transaction.h"
 #include "host/store/history_content.h"
 #include "host/store/history_writer.h"
@@ -26,11 +27,26 @@ std::string ReasonRuleContent(bool isRequired)
     return ContentOfValue("Value", ReasonRule(isRequired));
 }
 
+std::string ReadIdentity(Database& database)
+{
+    return database.Run("The store is not looked at", [&](soci::session& session) {
+        std::string identity;
+        Execute(session, "SELECT Value FROM Setting WHERE Name = 'identity'", soci::into(identity));
+        if (identity.empty())
+            throw Failure(StoreError::NotAStore, "Store",
+                          "The store \"" + database.Name() +
+                              "\" is damaged: it has lost what it is known by. Take it from a "
+                              "backup");
+        return identity;
+    });
+}
+
 bool IsReasonRequired(Database& database)
 {
     return database.Run("The settings are not read", [](soci::session& session) {
         int count = 0;
-        session << "SELECT COUNT(*) FROM Setting WHERE " << ReasonIsRequired, soci::into(count);
+        Execute(session, "SELECT COUNT(*) FROM Setting WHERE " + std::string(ReasonIsRequired),
+                soci::into(count));
         return count > 0;
     });
 }
@@ -49,9 +65,10 @@ void SetReasonRequired(Database& database, bool required)
                                         .Operation = HistoryOperation::Changed,
                                         .Name = name,
                                         .Content = ReasonRuleContent(required)});
-        session << "INSERT INTO Setting (Name, Value) VALUES (:Name, :Value) "
-                   "ON CONFLICT (Name) DO UPDATE SET Value = EXCLUDED.Value",
-            soci::use(name), soci::use(value);
+        Execute(session,
+                "INSERT INTO Setting (Name, Value) VALUES (:Name, :Value) "
+                "ON CONFLICT (Name) DO UPDATE SET Value = EXCLUDED.Value",
+                soci::use(name), soci::use(value));
         transaction.Commit();
     });
 }

@@ -8,6 +8,9 @@ namespace Tamrivo
 
 class Database;
 
+/// `Store::Identity`
+std::string ReadIdentity(Database& database);
+
 /// The condition on the table Setting that each change has to have a reason.
 inline constexpr std::string_view ReasonIsRequired = "Name = 'reason' AND Value = 'required'";
 

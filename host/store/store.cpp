@@ -38,6 +38,16 @@ const std::string& Store::Name() const
     return m_database->Name();
 }
 
+std::string Store::Identity()
+{
+    return ReadIdentity(*m_database);
+}
+
+void Store::RequireWritable() const
+{
+    m_database->RequireWritable("Nothing is stored");
+}
+
 bool Store::IsReadOnly() const
 {
     return m_database->IsReadOnly();
@@ -163,7 +173,19 @@ std::shared_ptr<Project> Store::ProjectNamed(const std::string& name)
 {
     if (auto project = FindProject(name))
         return project;
-    return AddProject(*m_database, name);
+    try
+    {
+        return AddProject(*m_database, name);
+    }
+    catch (const Failure& failure)
+    {
+        // Someone else may have made it just now.
+        auto project =
+            failure.Record().Number == StoreError::NameTaken ? FindProject(name) : nullptr;
+        if (!project)
+            throw;
+        return project;
+    }
 }
 
 } // namespace Tamrivo

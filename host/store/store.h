@@ -40,7 +40,14 @@ public:
 
     /// The address as people may see it, without a password.
     const std::string& Name() const;
+    /// By what the store is known again: 128 random bits as 32 hexadecimal digits, drawn when it
+    /// was made. They go with what it holds, so that a backup or a copy of it has the same ones,
+    /// and the same numbers and revisions of objects. Raises `StoreError::NotAStore` when they are
+    /// gone.
+    std::string Identity();
     bool IsReadOnly() const;
+    /// Raises `StoreError::ReadOnly`, with the reason and what to do, on a store that is read-only.
+    void RequireWritable() const;
 
     /// The shared object manager.
     ObjectManager& Manager() { return m_managerGlobal->Manager(); }

@@ -27,7 +27,7 @@ void RequirePlace(Store& from, const std::string& file, bool mayOverwrite)
         return;
     if (!fs::is_regular_file(file, error))
         RaiseNotWritten(file, "there is something that isn't a file. Name another one");
-    if (from.SharedDatabase().Identity() == IdentityOfFile(file))
+    if (from.SharedDatabase().Place() == PlaceOfFile(file))
         RaiseNotWritten(file, "it is the store itself. Name another file");
     if (!mayOverwrite)
         RaiseNotWritten(file, "it is there already. Name another file, or overwrite it (--force)");

@@ -1,14 +1,13 @@
 #include "host/store/store_copy.h"
 
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/database/snapshot.h"
 #include "host/database/transaction.h"
 #include "host/store/history_record.h"
 #include "host/store/json_text.h"
 #include "host/store/store.h"
 #include "host/store/store_tables.h"
-
-#include <soci/soci.h>
 
 #include <algorithm>
 
@@ -20,7 +19,7 @@ namespace
 
 void RequireOther(Store& from, Store& to)
 {
-    if (from.SharedDatabase().Identity() == to.SharedDatabase().Identity())
+    if (from.SharedDatabase().Place() == to.SharedDatabase().Place())
         throw Failure(ErrorNumber::InvalidArgument, "Store",
                       "Nothing was copied: \"" + to.Name() +
                           "\" is the store itself. Name another one to copy to");
@@ -29,10 +28,11 @@ void RequireOther(Store& from, Store& to)
 void RequireEmpty(soci::session& session, const std::string& name)
 {
     int objects = 0;
-    session << "SELECT (SELECT COUNT(*) FROM Locus) + (SELECT COUNT(*) FROM AnalysisParameter) + "
-               "(SELECT COUNT(*) FROM Project WHERE ProjectID > 1) + "
-               "(SELECT COUNT(*) FROM History WHERE Operation <> 'found')",
-        soci::into(objects);
+    Execute(session,
+            "SELECT (SELECT COUNT(*) FROM Locus) + (SELECT COUNT(*) FROM AnalysisParameter) + "
+            "(SELECT COUNT(*) FROM Project WHERE ProjectID > 1) + "
+            "(SELECT COUNT(*) FROM History WHERE Operation <> 'found')",
+            soci::into(objects));
     if (objects > 0)
         throw Failure(ErrorNumber::InvalidArgument, "Store",
                       "Nothing was copied: the store \"" + name +
@@ -43,7 +43,7 @@ void CopyTable(Database& source, Database& target, soci::session& writing,
                const TableOfStore& table)
 {
     // The history that was just copied has noted itself.
-    writing << "DELETE FROM " << table.Name;
+    Execute(writing, "DELETE FROM " + table.Name);
     RowOfStore row(table);
     RowWriter writer(target, writing, row);
     ForEachRow(source, row, [&] { writer.Write(); });
@@ -80,8 +80,9 @@ void CopyStore(Store& from, Store& to)
         Transaction transaction(target);
         RequireEmpty(writing, to.Name());
         const auto tables = TablesOfStore();
-        std::for_each(tables.rbegin(), tables.rend(),
-                      [&](const TableOfStore& table) { writing << "DELETE FROM " << table.Name; });
+        std::for_each(tables.rbegin(), tables.rend(), [&](const TableOfStore& table) {
+            Execute(writing, "DELETE FROM " + table.Name);
+        });
         for (const TableOfStore& table : tables)
             CopyTable(source, target, writing, table);
         target.SetLastNumber(source.LastNumber());

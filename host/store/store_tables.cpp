@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/store/allele_row.h"
 #include "host/store/history_record.h"
 #include "host/store/json_text.h"
@@ -54,13 +55,13 @@ class Cursor
 public:
     Cursor(soci::session& session, const std::string& select) : m_session(session)
     {
-        m_session << "DECLARE Rows NO SCROLL CURSOR FOR " << select;
+        Execute(m_session, "DECLARE Rows NO SCROLL CURSOR FOR " + select);
     }
     ~Cursor()
     {
         try
         {
-            m_session << "CLOSE Rows";
+            Execute(m_session, "CLOSE Rows");
         }
         catch (const soci::soci_error&)
         {

@@ -46,6 +46,7 @@ protected:
     static void ExpectWhole(Store& copy, Store& original)
     {
         EXPECT_EQ(FirstDifference(copy, original), "");
+        EXPECT_EQ(copy.Identity(), original.Identity());
         EXPECT_EQ(History(copy.SharedDatabase()).Verify().Number, 0);
         copy.SetReason("a test");
         copy.RestoreLocus("gone", "1", "");

@@ -154,7 +154,7 @@ TEST_F(HistoryTest, AnyStateComesBackUnderItsNumber)
     locus->FragEnd = 5;
     store.Manager().Save(*locus, true);
     EXPECT_EQ(store.LocusAt("A", "4")->FragEnd, 640);
-    EXPECT_EQ(store.LocusAt("A", IsoTime(HistoryNow()))->FragEnd, 5);
+    EXPECT_EQ(store.LocusAt("A", IsoTime(store.SharedDatabase().Now()))->FragEnd, 5);
 
     store.DeleteLocus("A");
     Save(store, "A");
@@ -167,6 +167,34 @@ TEST_F(HistoryTest, AnyStateComesBackUnderItsNumber)
     for (const char* at : {"", "x", "2001-13-01", "1234567890123"})
         EXPECT_EQ(FailureOf([&] { store.LocusAt("B", at); }).Number, ErrorNumber::InvalidArgument)
             << at;
+}
+
+TEST_F(HistoryTest, AClockThatJumpsBackLeavesTheOrderAlone)
+{
+    Store store(Address());
+    std::string time;
+    store.SharedDatabase().Now = [&] { return MomentOf("2026-11-23T" + time, OfDay::Beginning); };
+    const auto locus = NewLocus(store, "A");
+    for (const char* saved : {"10:00", "12:00", "11:00"})
+    {
+        time = saved;
+        ++locus->FragEnd;
+        store.Manager().Save(*locus, true);
+    }
+    const int last = locus->FragEnd;
+    EXPECT_EQ(store.FindLocus("A")->FragEnd, last);
+    EXPECT_THAT(Lines(store),
+                ElementsAre("made Locus A 1", "changed Locus A 2", "changed Locus A 3"));
+    struct Case
+    {
+        const char* At;
+        int FragEnd;
+    };
+    for (const auto& [at, end] :
+         {Case{"2026-11-23T10:30", last - 2}, Case{"2026-11-23T11:30", last},
+          Case{"2026-11-23T12:30", last}, Case{"2", last - 1}})
+        EXPECT_EQ(store.LocusAt("A", at)->FragEnd, end) << at;
+    EXPECT_EQ(History(store.SharedDatabase()).Verify().Number, 0);
 }
 
 TEST_F(HistoryTest, TamperingShows)
@@ -263,6 +291,8 @@ TEST_F(HistoryTest, WhatIsThereWhenAStoreComesForwardIsTheFirstRecord)
     EXPECT_THAT(found, ElementsAre("found A", "found Run", "found Dyes", "found Default"));
     EXPECT_THAT(Names(store.LocusAt("A", "1")->Alleles()), ElementsAre("1"));
     EXPECT_EQ(Save(store, "B")->LocusID(), 51);
+    EXPECT_EQ(store.Identity().size(), 32U);
+    EXPECT_NE(store.Identity(), Store(Address()).Identity());
 }
 
 } // namespace

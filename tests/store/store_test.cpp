@@ -35,7 +35,7 @@ TEST_F(StoreTest, EveryValueComesBackFromAFileOpenedAnew)
     LocusFields fields;
     Date saved;
     {
-        Store store(Path("new/directory/a b=c.sqlite"));
+        Store store(Path("new/directory/a \"b\"=c.sqlite"));
         auto locus = NewLocus(store, "D3S1358 ", {""});
         FillEveryField(*locus);
         fields = *locus;
@@ -47,7 +47,7 @@ TEST_F(StoreTest, EveryValueComesBackFromAFileOpenedAnew)
         EXPECT_TRUE(saved);
     }
 
-    Store store("sqlite://" + Path("new/directory/a b=c.sqlite"));
+    Store store("sqlite://" + Path("new/directory/a \"b\"=c.sqlite"));
     const auto locus = As<Locus>(CurrentLoci(store.Manager(), "")->Item("d3s1358"));
     EXPECT_EQ(locus->LocusTag(), "D3S1358 ");
     EXPECT_TRUE(static_cast<LocusFields&>(*locus) == fields);
@@ -184,6 +184,38 @@ TEST_F(StoreTest, ATransactionHappensWholeOrNotAtAll)
     }
     transaction.Commit();
     EXPECT_THAT(Loci(store), ElementsAre("A", "B"));
+}
+
+TEST_F(StoreTest, WhatIsTakenBackCanBeDoneAgainWithTheSameObjects)
+{
+    Store store(Address());
+    const auto changed = Save(store, "A", {"1"});
+    const auto made = NewLocus(store, "B", {"1"});
+    bool fails = true;
+    const auto work = [&] {
+        ++changed->FragEnd;
+        for (const auto& locus : {changed, made})
+            store.Manager().Save(*locus, true);
+        if (fails)
+            throw Failure(1, "Test", "Ended");
+    };
+    EXPECT_EQ(FailureOf([&] { store.Together(work); }).Number, 1);
+    EXPECT_EQ(made->LocusID(), 0);
+    fails = false;
+    {
+        auto outer = store.Begin();
+        {
+            auto inner = store.Begin();
+            work();
+        }
+        EXPECT_EQ(made->LocusID(), 0) << "an inner one that is taken back";
+        store.Together(work);
+        outer.Commit();
+    }
+    ++changed->FragEnd;
+    store.Manager().Save(*changed, true);
+    EXPECT_EQ(store.FindLocus("A")->FragEnd, changed->FragEnd);
+    EXPECT_EQ(store.FindLocus("B")->LocusID(), made->LocusID());
 }
 
 TEST_F(StoreTest, ProjectsAreFoundByNameOrMade)

@@ -78,6 +78,7 @@ void OptionView::keyPressEvent(QKeyEvent* event)
 ButtonView::ButtonView(CommandButton& button, QWidget& parent, const Actions& actions)
     : QPushButton(ToQString(button.Caption()), &parent), m_button(button)
 {
+    // Else the first button of a form would be what Return presses in its fields.
     setAutoDefault(false);
     ApplyFont(*this, button.Font());
     setToolTip(ToQString(button.ToolTipText()));
@@ -93,6 +94,15 @@ ButtonView::ButtonView(CommandButton& button, QWidget& parent, const Actions& ac
 void ButtonView::Refresh()
 {
     ApplyReach(*this, m_button);
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event)
+{
+    // Without this the window would take it for the press of its own default button.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 QSize ButtonView::LeastSize() const

@@ -54,6 +54,7 @@ private:
     const Actions& m_actions;
 };
 
+/// A button, which Space and Return press.
 class ButtonView : public QPushButton, public ControlView
 {
 public:
@@ -65,6 +66,9 @@ public:
 
     /// Asks before each click; only an answer of true lets it through.
     void AskFirst(std::function<bool()> question) { m_question = std::move(question); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     CommandButton& m_button;

@@ -38,7 +38,9 @@ TEST_F(WizardTest, TheWholeRoadOfOneEdit)
     const auto outcome = Edit("D3S1358", [](WizardDialog& editor) {
         Replace(editor, "txtFragEnd", "140");
         Replace(editor, "txtRepeat", "x8");
-        QTest::mouseClick(&Named(editor, "cmdGenAlleleList"), Qt::LeftButton);
+        Focus(Named(editor, "cmdGenAlleleList"));
+        QTest::keyClick(&Named(editor, "cmdGenAlleleList"), Qt::Key_Return);
+        EXPECT_TRUE(editor.isVisible()) << "Return presses what has the focus";
         Named<QTabWidget>(editor, "SSTab1").setCurrentIndex(1);
         QTest::mouseClick(&Named(editor, "chkSearchForStutter"), Qt::LeftButton, Qt::NoModifier,
                           QPoint(8, 8));

@@ -18,11 +18,25 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <map>
 
 namespace Tamrivo
 {
+
+namespace
+{
+
+/// What the loci have in common, as the beginning of a file's name.
+QString StemFor(const ExportScope& scope)
+{
+    static const QRegularExpression notInNames(R"([\\/:*?"<>|\x00-\x1f])");
+    QString stem = ToQString(scope.Panel.empty() ? scope.Parameter : scope.Panel);
+    return stem.isEmpty() ? "loci" : stem.replace(notInNames, "-");
+}
+
+} // namespace
 
 ExportDialog::ExportDialog(Store& store, const Actions& actions, QWidget* parent,
                            const ShownLoci& shown)
@@ -116,6 +130,11 @@ void ExportDialog::OfferLoci(const ShownLoci& shown)
     }
 }
 
+const ExportScope& ExportDialog::Scope() const
+{
+    return m_scopes.at(static_cast<std::size_t>(m_scope->currentIndex()));
+}
+
 ExportChoice ExportDialog::Choice() const
 {
     ExportChoice choice;
@@ -140,8 +159,7 @@ void ExportDialog::Plan()
     LongWork work(m_store, "Reading the loci...", this);
     try
     {
-        const auto loci =
-            LociInScope(m_store, m_scopes.at(static_cast<std::size_t>(m_scope->currentIndex())));
+        const auto loci = LociInScope(m_store, Scope());
         m_plan = PlanExport(loci, choice, m_store.Dyes(),
                             [&](std::size_t done, std::size_t total) { work.Show(done, total); });
     }
@@ -163,10 +181,12 @@ void ExportDialog::Export()
     const bool isPair = m_plan.Choice.Format == PanelFormat::PanelsBins;
     const QString suffix = ToQString(std::string(format.Suffix));
     const QString filter = QString("Files (*%1);;All files (*)").arg(suffix);
+    const QString stem = StemFor(Scope());
     QString path = QFileDialog::getSaveFileName(this, isPair ? "Export Panels" : "Export Loci",
-                                                (isKit    ? "loci_LadderInfo"
-                                                 : isPair ? "loci_panels"
-                                                          : "loci") +
+                                                stem +
+                                                    (isKit    ? "_LadderInfo"
+                                                     : isPair ? "_panels"
+                                                              : "") +
                                                     suffix,
                                                 filter);
     if (path.isEmpty())
@@ -176,7 +196,7 @@ void ExportDialog::Export()
     QString bins;
     if (isPair)
     {
-        bins = QFileDialog::getSaveFileName(this, "Export Bins", "loci_bins" + suffix, filter);
+        bins = QFileDialog::getSaveFileName(this, "Export Bins", stem + "_bins" + suffix, filter);
         if (bins.isEmpty())
             return;
     }

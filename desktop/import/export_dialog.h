@@ -46,6 +46,7 @@ private:
     void OfferLoci(const ShownLoci& shown);
     void Offer(const QString& title, ExportScope scope);
     /// What is chosen and typed.
+    const ExportScope& Scope() const;
     ExportChoice Choice() const;
     /// Plans the export, and shows what is lost or what stands in its way.
     void Plan();

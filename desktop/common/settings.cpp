@@ -76,6 +76,16 @@ void RememberSearches(const QStringList& searches)
     QSettings().setValue("searches", searches);
 }
 
+bool IsTipRead(const QString& tip)
+{
+    return QSettings().value("tips/" + tip).toBool();
+}
+
+void RememberTip(const QString& tip)
+{
+    QSettings().setValue("tips/" + tip, true);
+}
+
 int TextSteps()
 {
     return QSettings().value("text").toInt();

@@ -29,6 +29,10 @@ void RememberParameter(const QString& store, const QString& parameter);
 QStringList KeptSearches();
 void RememberSearches(const QStringList& searches);
 
+/// Whether a tip, by its name, was read before.
+bool IsTipRead(const QString& tip);
+void RememberTip(const QString& tip);
+
 /// Steps by which the text is larger than the desktop's own.
 int TextSteps();
 void RememberTextSteps(int steps);

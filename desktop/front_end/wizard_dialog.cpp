@@ -11,6 +11,7 @@
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/front_end/problem_list.h"
 #include "desktop/front_end/questions.h"
+#include "desktop/help/first_use_tip.h"
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
 #include "host/framework/wizard_session.h"
@@ -43,7 +44,7 @@ struct WizardText
     std::string_view Wizard;
     const char* Title;         ///< What the page is about.
     const char* Invalid;       ///< When the page marks no field.
-    bool AsksToCancel = false; ///< When something was changed.
+    bool AsksToCancel = false; ///< When something was changed, which the title marks.
 };
 
 constexpr WizardText wizardTexts[] = {
@@ -92,16 +93,17 @@ WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidge
     const auto showSteps = [this] {
         m_undo->setEnabled(m_history.CanUndo());
         m_redo->setEnabled(m_history.CanRedo());
+        setWindowModified(IsChanged());
     };
     connect(&m_history, &PageHistory::Changed, this, showSteps);
     connect(qApp, &QApplication::focusChanged, &m_history, &PageHistory::EndStep);
-    showSteps();
     m_validated = m_wizard.Validated.Connect([this] {
         ShowProblems();
         ShowTitle();
     });
     ShowProblems();
     ShowTitle();
+    showSteps();
 }
 
 void WizardDialog::ShowTitle()
@@ -110,7 +112,7 @@ void WizardDialog::ShowTitle()
     if (const auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page()))
     {
         const QString tag = ToQString(editor->txtLocusTag.Text()).trimmed();
-        title = (tag.isEmpty() ? "New locus" : tag) + " – " + title;
+        title = (tag.isEmpty() ? "New locus" : tag) + "[*] – " + title;
     }
     setWindowTitle(title);
 }
@@ -146,6 +148,12 @@ void WizardDialog::LayOut()
     auto* layout = new QVBoxLayout(this);
     if (!m_wizard.Notice.empty())
         layout->addWidget(NewNotice(m_wizard.Notice));
+    if (dynamic_cast<LocusEditorForm*>(&m_wizard.Page()) != nullptr)
+        layout->addWidget(new FirstUseTip(
+            "editor",
+            "F6 goes from the fields to the alleles and back, Ctrl+Z takes back any step, and what "
+            "keeps the page from being finished stands beside its buttons.",
+            this));
     layout->addWidget(scroll, 1);
     layout->addLayout(MakeBottomRow());
     const QSize natural = m_page->sizeHint() + (sizeHint() - scroll->sizeHint());
@@ -259,21 +267,21 @@ void WizardDialog::NoteSavedAs()
         if (locus->LocusID() <= 0)
             return;
         m_stored = ContentOf(m_wizard.Page());
+        setWindowModified(false);
         emit SavedAs(ToQString(locus->LocusTag()));
     });
 }
 
-bool WizardDialog::MayCancel()
+bool WizardDialog::IsChanged() const
 {
-    return !TextOf(m_wizard.Name()).AsksToCancel || ContentOf(m_wizard.Page()) == m_stored ||
-           MayDiscardChanges(this);
+    return TextOf(m_wizard.Name()).AsksToCancel && ContentOf(m_wizard.Page()) != m_stored;
 }
 
 void WizardDialog::reject()
 {
     const QPointer<QWidget> focus = focusWidget();
     m_page->LeaveFocus(*m_cancel);
-    if (!MayCancel())
+    if (IsChanged() && !MayDiscardChanges(this))
     {
         if (focus)
             focus->setFocus(Qt::OtherFocusReason);

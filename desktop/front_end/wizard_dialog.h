@@ -53,7 +53,8 @@ private:
     QAction* NewUndoAction(const char* text, const char* icon, QKeySequence::StandardKey keys,
                            Control* (PageHistory::*step)());
     void SetUpAlleles();
-    bool MayCancel();
+    /// Whether something would be lost that was entered.
+    bool IsChanged() const;
     void ShowProblems();
     void GoTo(const PageProblem& problem);
 

@@ -28,7 +28,12 @@ constexpr HelpTopic topics[] = {
     {"STRLocusTagSelector", "Choose the loci of an analysis parameter"},
     {"parameterBar", "Choose the loci of an analysis parameter"},
     {"main", "The library"},
+    {"commandList", "The library"},
+    {"findings", "Check the definitions"},
     {"reports", "Look and report"},
+    {"history", "History"},
+    {"projects", "Copies"},
+    {"backup", "Copies"},
     {"failure", "When something goes wrong"},
 };
 

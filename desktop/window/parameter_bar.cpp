@@ -1,9 +1,12 @@
 #include "desktop/window/parameter_bar.h"
 
+#include "desktop/help/first_use_tip.h"
+
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace Tamrivo
 {
@@ -20,10 +23,9 @@ ParameterBar::ParameterBar(const QList<QAction*>& commands, QWidget* parent)
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     // A narrow window cuts the hint, not the buttons.
     m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_name);
-    layout->addWidget(m_hint, 1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_name);
+    row->addWidget(m_hint, 1);
     for (QAction* command : commands)
     {
         auto* button = new QToolButton(this);
@@ -31,8 +33,16 @@ ParameterBar::ParameterBar(const QList<QAction*>& commands, QWidget* parent)
         button->setDefaultAction(command);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setFocusPolicy(Qt::TabFocus);
-        layout->addWidget(button);
+        row->addWidget(button);
     }
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(new FirstUseTip(
+        "parameter",
+        "Ticks before the loci select them, and Save stores the selection. Select Loci has both "
+        "lists side by side. In the lanes Ctrl with the wheel zooms and a double click edits.",
+        this));
 }
 
 void ParameterBar::Show(const QString& parameter, bool isChanged, bool isReadOnly)

@@ -38,6 +38,7 @@ constexpr KindText kinds[] = {
     {LocusGroup::Kind::All, "", "Library", "x-office-spreadsheet"},
     {LocusGroup::Kind::Recent, "", "Recent", "document-revert"},
     {LocusGroup::Kind::Problems, "", "Problems", "dialog-warning"},
+    {LocusGroup::Kind::Deleted, "", "Deleted", "edit-delete"},
     {LocusGroup::Kind::Panel, "Panels", "", ""},
     {LocusGroup::Kind::Dye, "Dyes", "", ""},
     {LocusGroup::Kind::Project, "Projects", "", ""},
@@ -67,6 +68,7 @@ QString TipOf(const LocusGroup& group, const QString& text)
     {
     case LocusGroup::Kind::Recent: return QString("Changed in the last %1 days").arg(RecentDays);
     case LocusGroup::Kind::Problems: return "A check finds something in them";
+    case LocusGroup::Kind::Deleted: return "Click to see what was deleted, and bring some back";
     default: return text;
     }
 }
@@ -95,6 +97,12 @@ GroupTree::GroupTree(QWidget* parent) : QTreeWidget(parent)
     connect(this, &QTreeWidget::itemSelectionChanged, this, &GroupTree::TakeChosen);
     // The chosen group can be gone back to when a search or the selector has replaced it.
     connect(this, &QTreeWidget::itemClicked, this, &GroupTree::TakeChosen);
+    const auto askForDeleted = [this](const QTreeWidgetItem* item) {
+        if (!IsHeading(*item) && GroupOf(*item).What == LocusGroup::Kind::Deleted)
+            emit DeletedAsked();
+    };
+    connect(this, &QTreeWidget::itemClicked, this, askForDeleted);
+    connect(this, &QTreeWidget::itemActivated, this, askForDeleted);
 }
 
 void GroupTree::TakeChosen()
@@ -102,7 +110,11 @@ void GroupTree::TakeChosen()
     const auto chosen = selectedItems();
     if (m_isShowing || chosen.isEmpty())
         return;
-    m_chosen = GroupOf(*chosen.front());
+    const LocusGroup group = GroupOf(*chosen.front());
+    // The table goes on to show the group before.
+    if (group.What == LocusGroup::Kind::Deleted)
+        return;
+    m_chosen = group;
     m_chosenChanged.start();
 }
 
@@ -133,7 +145,7 @@ void GroupTree::Show(const std::vector<CountedGroup>& groups, const Library& lib
                                            : new QTreeWidgetItem(HeadingFor(group.What));
         item->setText(nameColumn, *text.Heading == '\0' ? QString(text.Title) : group.Name);
         item->setToolTip(nameColumn, TipOf(group, item->text(nameColumn)));
-        item->setText(countColumn, QString::number(loci));
+        item->setText(countColumn, loci ? QString::number(*loci) : QString());
         item->setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(nameColumn, kindRole, static_cast<int>(group.What));
         item->setData(nameColumn, nameRole, group.Name);

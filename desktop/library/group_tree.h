@@ -38,6 +38,8 @@ public:
 signals:
     /// Shortly after the person has chosen a group.
     void GroupChosen(const LocusGroup& group);
+    /// The person wants to see the loci that were deleted.
+    void DeletedAsked();
     void LociDropped(const std::string& parameter, const std::vector<std::string>& tags);
 
 protected:

@@ -2,6 +2,8 @@
 
 #include "desktop/library/library_columns.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
 #include <QItemSelection>
@@ -148,6 +150,24 @@ void LibraryTable::ChooseRows(const std::vector<int>& rows)
     const QModelIndex first = model()->index(rows.front(), 0);
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     scrollTo(first);
+}
+
+void LibraryTable::CopyChosen() const
+{
+    QString text;
+    const auto addLine = [&](auto&& textOf) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column)
+        {
+            if (!isColumnHidden(column))
+                cells += textOf(column).toString();
+        }
+        text += cells.join('\t') + '\n';
+    };
+    addLine([&](int column) { return model()->headerData(column, Qt::Horizontal); });
+    for (const int row : ChosenRows())
+        addLine([&](int column) { return model()->index(row, column).data(); });
+    QApplication::clipboard()->setText(text);
 }
 
 void LibraryTable::keyPressEvent(QKeyEvent* event)

@@ -23,6 +23,8 @@ public:
     std::vector<int> ChosenRows() const;
     /// Chooses these rows instead, and brings the first one into view.
     void ChooseRows(const std::vector<int>& rows);
+    /// Copies the chosen rows below a line of titles, tab-separated as spreadsheets take it.
+    void CopyChosen() const;
 
 signals:
     /// The person wants to edit, or delete, the chosen loci.

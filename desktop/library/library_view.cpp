@@ -5,17 +5,16 @@
 #include "desktop/common/text.h"
 #include "desktop/findings/finding_watch.h"
 #include "desktop/findings/findings_view.h"
+#include "desktop/help/first_use_tip.h"
 #include "desktop/lanes/locus_lanes.h"
-#include "desktop/library/library_columns.h"
 #include "desktop/library/library_model.h"
 #include "desktop/library/library_table.h"
 #include "desktop/library/search_line.h"
 #include "host/library/search.h"
 #include "host/loci/keys.h"
+#include "host/store/history.h"
 #include "host/store/store.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -32,6 +31,9 @@ namespace
 {
 
 constexpr const char* splitterKey = "library/splitter";
+
+/// More changes than a person reads; the window with the history has all of them.
+constexpr std::size_t MostChanges = 200;
 
 } // namespace
 
@@ -56,10 +58,15 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     m_splitter->restoreState(QSettings().value(splitterKey).toByteArray());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new FirstUseTip(
+        "library",
+        "Ctrl and Shift choose several loci, and the commands are about all of them. Ctrl+F "
+        "searches, Ctrl+Shift+P finds any command, and F1 tells about the place where you are.",
+        this));
     layout->addWidget(m_search);
     layout->addWidget(m_splitter, 1);
 
-    m_preview->addTab(m_findings, "&Findings");
+    m_preview->addTab(m_findings, "Findin&gs");
     connect(m_watch, &FindingWatch::Changed, this,
             [this] { m_actions.Run([this] { TakeFindings(); }); });
     connect(m_findings, &FindingsView::Chosen, this,
@@ -89,9 +96,9 @@ LibraryView::~LibraryView()
 void LibraryView::SetStore(Store* store)
 {
     m_store = store;
-    m_watch->Stop();
     m_model->SetLibrary(nullptr);
     m_library.reset();
+    m_watch->Stop();
     m_preview->Show({});
 }
 
@@ -217,28 +224,6 @@ void LibraryView::ChooseNumbers(const std::unordered_set<std::int32_t>& numbers)
     m_table->ChooseRows(rows);
 }
 
-void LibraryView::CopyChosen() const
-{
-    QString text;
-    const auto columns = LibraryColumns();
-    std::vector<int> shown;
-    for (int column = 0; column < static_cast<int>(columns.size()); ++column)
-    {
-        if (!m_table->isColumnHidden(column))
-            shown.push_back(column);
-    }
-    const auto addLine = [&](auto&& textOf) {
-        QStringList cells;
-        for (const int column : shown)
-            cells += textOf(column);
-        text += cells.join('\t') + '\n';
-    };
-    addLine([&](int column) { return QString(columns[static_cast<std::size_t>(column)].Title); });
-    for (const int row : m_table->ChosenRows())
-        addLine([&](int column) { return m_model->index(row, column).data().toString(); });
-    QApplication::clipboard()->setText(text);
-}
-
 QString LibraryView::SearchText() const
 {
     return m_search->Text();
@@ -262,8 +247,16 @@ void LibraryView::ShowPreview()
     const auto rows = m_table->ChosenRows();
     content.Count = rows.size();
     content.LabDyes = m_library->LabDyes();
-    content.Load = [this](std::size_t chosen) {
-        return m_store->FindLocus(ChosenTags().at(chosen));
+    constexpr std::size_t mostLoaded = 2;
+    auto loaded = rows;
+    loaded.resize(std::min(loaded.size(), mostLoaded));
+    const auto tags = m_model->TagsAt(loaded);
+    content.Load = [this, tags](std::size_t chosen) { return m_store->FindLocus(tags.at(chosen)); };
+    content.Changes = [this, tags] {
+        HistoryFilter ofLocus;
+        ofLocus.Kind = HistoryKind::Locus;
+        ofLocus.Name = tags.front();
+        return History(m_store->SharedDatabase()).Newest(ofLocus, MostChanges);
     };
     content.Lanes = [this] {
         std::vector<LaneLocus> lanes;
@@ -284,7 +277,7 @@ void LibraryView::ShowPreview()
         return lanes;
     };
     // Where several are chosen, the lanes are theirs alone.
-    m_preview->Picture().SetChosen(content.Count == 1 ? ChosenTags() : std::vector<std::string>());
+    m_preview->Picture().SetChosen(content.Count == 1 ? tags : std::vector<std::string>());
     m_preview->Show(std::move(content));
 }
 

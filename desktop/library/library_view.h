@@ -49,7 +49,6 @@ public:
     /// Chooses those of the loci that are on show.
     void ChooseTags(const std::vector<std::string>& tags);
     void ChooseNumbers(const std::unordered_set<std::int32_t>& numbers);
-    void CopyChosen() const;
 
     QString SearchText() const;
     void SetSearch(const QString& search);

@@ -59,7 +59,8 @@ std::vector<CountedGroup> GroupsOf(Library& library, const QStringList& searches
     std::vector<CountedGroup> groups = {
         {{Kind::All, {}}, loci.size()},
         {{Kind::Recent, {}}, static_cast<std::size_t>(std::ranges::count_if(loci, IsRecent()))},
-        {{Kind::Problems, {}}, Search(library, withProblems).Loci.size()}};
+        {{Kind::Problems, {}}, Search(library, withProblems).Loci.size()},
+        {{Kind::Deleted, {}}, std::nullopt}};
     AddNames(groups, Kind::Panel, library.Panels());
     std::vector<std::size_t> ofDye(library.LabDyes().All().size());
     for (const LibraryLocus& locus : loci)

@@ -19,6 +19,7 @@ struct LocusGroup
         All,
         Recent,   ///< Changed within the last days.
         Problems, ///< In which a check finds something.
+        Deleted,  ///< No longer among the loci; they have a window of their own.
         Panel,
         Dye,
         Project,
@@ -38,7 +39,7 @@ inline constexpr int RecentDays = 7;
 struct CountedGroup
 {
     LocusGroup Group;
-    std::size_t Loci;
+    std::optional<std::size_t> Loci; ///< None for what isn't counted.
 };
 
 /// The groups that the library has, in the order in which they are shown; those of each kind by

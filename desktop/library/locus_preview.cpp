@@ -4,6 +4,7 @@
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/text.h"
+#include "desktop/history/history_list.h"
 #include "desktop/lanes/locus_lanes.h"
 #include "desktop/library/comparison.h"
 #include "host/loci/counts.h"
@@ -39,6 +40,7 @@ LocusPreview::LocusPreview(const Actions& actions, QWidget* parent)
       m_alleles(new AllelePicture(this)),
       m_lanes(new LocusLanes(actions, this)),
       m_details(NewReadingTable("details", {"Field", "Value"}, this)),
+      m_changes(new HistoryList(this)),
       m_comparison(new Comparison(this)),
       m_comparePages(new QStackedWidget(this))
 {
@@ -57,7 +59,9 @@ LocusPreview::LocusPreview(const Actions& actions, QWidget* parent)
     m_comparePages->addWidget(m_comparison);
     addTab(alleles, "&Alleles");
     addTab(m_lanes, "La&nes");
-    addTab(m_details, "&Details");
+    // Letters that no menu has.
+    addTab(m_details, "Detail&s");
+    addTab(m_changes, "Histor&y");
     addTab(m_comparePages, "&Compare");
     connect(this, &QTabWidget::currentChanged, this, [this] { ShowTab(); });
 }
@@ -79,6 +83,7 @@ void LocusPreview::ShowTab()
             return m_lanes->SetLoci(m_content.Lanes ? m_content.Lanes() : std::vector<LaneLocus>(),
                                     m_content.LabDyes);
         case Details: return ShowDetails();
+        case Changes: return ShowChanges();
         case Compare: return ShowComparison();
         default: return;
         }
@@ -121,6 +126,11 @@ void LocusPreview::ShowDetails()
         m_details->setItem(row, 1, new QTableWidgetItem(ToQString(entry.Text)));
     }
     m_details->resizeColumnToContents(0);
+}
+
+void LocusPreview::ShowChanges()
+{
+    m_changes->Show(m_content.Count > 0 ? m_content.Changes() : std::vector<HistoryRecord>());
 }
 
 void LocusPreview::ShowComparison()

@@ -2,6 +2,7 @@
 
 #include "contracts/locus.h"
 #include "host/loci/dyes.h"
+#include "host/store/history_record.h"
 
 #include <QTabWidget>
 
@@ -20,6 +21,7 @@ struct LaneLocus;
 class Actions;
 class AllelePicture;
 class Comparison;
+class HistoryList;
 class LocusLanes;
 
 /// What there is to see of the chosen loci, a tab each. Only the tab on show is filled.
@@ -31,6 +33,7 @@ public:
         Alleles,
         Lanes,
         Details,
+        Changes,
         Compare,
         Findings, ///< Added by what knows them.
     };
@@ -42,7 +45,8 @@ public:
     {
         std::size_t Count = 0; ///< Chosen loci.
         std::function<std::shared_ptr<Locus>(std::size_t chosen)> Load;
-        std::function<std::vector<LaneLocus>()> Lanes; ///< Of all chosen, or of all on show.
+        std::function<std::vector<LaneLocus>()> Lanes;       ///< Of all chosen, or of all on show.
+        std::function<std::vector<HistoryRecord>()> Changes; ///< Of the first, the newest first.
         Tamrivo::Dyes LabDyes;
     };
     void Show(Content content);
@@ -53,6 +57,7 @@ private:
     void ShowTab();
     void ShowAlleles();
     void ShowDetails();
+    void ShowChanges();
     void ShowComparison();
 
     const Actions& m_actions;
@@ -61,6 +66,7 @@ private:
     AllelePicture* m_alleles;
     LocusLanes* m_lanes;
     QTableWidget* m_details;
+    HistoryList* m_changes;
     Comparison* m_comparison;
     QStackedWidget* m_comparePages;
 };

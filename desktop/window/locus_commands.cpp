@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
+#include "desktop/library/library_table.h"
 #include "desktop/library/library_view.h"
 #include "desktop/window/ask_name.h"
 #include "desktop/window/workbench.h"
@@ -158,9 +159,14 @@ void LocusCommands::Compare()
     m_workbench.Loci().Preview().setCurrentIndex(LocusPreview::Compare);
 }
 
+void LocusCommands::Check()
+{
+    m_workbench.Loci().Preview().setCurrentIndex(LocusPreview::Findings);
+}
+
 void LocusCommands::Copy()
 {
-    m_workbench.Loci().CopyChosen();
+    m_workbench.Loci().LociTable().CopyChosen();
     m_workbench.Tell("Copied " + WordsFor(m_workbench.ChosenLoci()) + ".");
 }
 

@@ -23,6 +23,7 @@ public:
     void SetProject();
     void Delete();
     void Compare();
+    void Check();
     void Copy();
 
 private:

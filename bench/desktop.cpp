@@ -1,9 +1,13 @@
 #include "bench/figures.h"
+#include "bench/memory.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
+#include "desktop/findings/finding_watch.h"
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/hosted_views.h"
+#include "desktop/library/library_table.h"
+#include "desktop/library/library_view.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/workbench.h"
 #include "host/framework/host_application.h"
@@ -12,6 +16,7 @@
 #include "selector/str_locus_tag_selector.h"
 
 #include <QApplication>
+#include <QScrollBar>
 
 namespace Tamrivo::Bench
 {
@@ -59,6 +64,25 @@ private:
     std::shared_ptr<StoredAnalysisParameter> m_parameter = m_host.Parameters().Find("Painted");
 };
 
+/// A window on the store of many loci, with nothing going on behind it.
+class OpenedWindow
+{
+public:
+    OpenedWindow()
+    {
+        m_window.show();
+        m_window.Bench().OpenStore(StoreOfLoci(ManyLoci).Path());
+        Loci().Watch().Stop();
+        Windows::Paint();
+    }
+
+    LibraryView& Loci() const { return m_window.Bench().Loci(); }
+
+private:
+    Windows m_windows;
+    MainWindow m_window{m_windows.FrontEnd()};
+};
+
 } // namespace
 
 double LibraryInView()
@@ -79,6 +103,47 @@ double LibraryInView()
             auto library = std::make_unique<Library>(*store);
             return std::pair(std::move(store), std::move(library));
         });
+}
+
+double MemoryOfWindow()
+{
+    Windows windows;
+    const std::string address = StoreOfLoci(ManyLoci).Path();
+    MainWindow window(windows.FrontEnd());
+    window.show();
+    Windows::Paint();
+    const std::size_t empty = HeapBytes();
+    std::size_t ofLibrary = 0;
+    {
+        Store store(address);
+        const Library library(store);
+        ofLibrary = HeapBytes() - empty;
+    }
+    const std::size_t before = HeapBytes();
+    window.Bench().OpenStore(address);
+    Windows::Paint();
+    return static_cast<double>(HeapBytes() - before) / static_cast<double>(ofLibrary);
+}
+
+double ChoosingInWindow()
+{
+    const OpenedWindow window;
+    window.Loci().Preview().setCurrentIndex(LocusPreview::Lanes);
+    int row = 0;
+    return 1000 * FastestOf(30, [&] {
+               window.Loci().LociTable().ChooseRows({row += 1000});
+               Windows::Paint();
+           });
+}
+
+double ScrollingInWindow()
+{
+    const OpenedWindow window;
+    QScrollBar& bar = *window.Loci().LociTable().verticalScrollBar();
+    return 1000 * FastestOf(30, [&] {
+               bar.setValue(bar.value() + bar.maximum() / 31);
+               Windows::Paint();
+           });
 }
 
 double FirstPaint()

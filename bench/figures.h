@@ -62,6 +62,9 @@ double GenerationClick();
 double GenerationByRows();
 
 double LibraryInView();
+double MemoryOfWindow();
+double ChoosingInWindow();
+double ScrollingInWindow();
 double FirstPaint();
 double WindowSort();
 double WindowMove();
@@ -113,6 +116,11 @@ inline constexpr Figure Figures[] = {
      GenerationByRows},
     {"window", "The window with its table of 100,000 loci in view / reading them", 1.3, "",
      LibraryInView},
+    {"window_memory", "Memory of the window with 100,000 loci / of store and library", 2, "",
+     MemoryOfWindow},
+    {"window_choose", "Choosing one of 100,000 loci, all their lanes in view", 16, "ms",
+     ChoosingInWindow},
+    {"window_scroll", "Scrolling the table of 100,000 loci", 16, "ms", ScrollingInWindow},
     {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},
     {"window_sort", "Sorting 100,000 rows in the window / without one", 1.3, "", WindowSort},
     {"window_move", "Moving one row of 100,000 in the window", 16, "ms", WindowMove},

@@ -1,13 +1,12 @@
 #include "bench/bare_sqlite.h"
 #include "bench/figures.h"
+#include "bench/memory.h"
 #include "bench/sample_store.h"
 #include "bench/timing.h"
 #include "contracts/allele.h"
 #include "contracts/object_manager.h"
 #include "host/loci/allele_generation.h"
 #include "host/store/locus_row.h"
-
-#include <malloc.h>
 
 namespace Tamrivo::Bench
 {
@@ -94,12 +93,6 @@ double LookupSeconds(int count)
         for (const std::string& tag : tags)
             sink = reinterpret_cast<long long>(loci->Item(tag).get());
     });
-}
-
-std::size_t HeapBytes()
-{
-    const struct mallinfo2 heap = mallinfo2();
-    return heap.uordblks + heap.hblkhd;
 }
 
 } // namespace

@@ -16,7 +16,7 @@ Needs GivenBy(const Workbench& bench)
     // What is highlighted on the selector's page is asked for when a command begins.
     const bool isSelector = bench.IsSelectorShown();
     const std::size_t chosen = bench.Loci().ChosenCount();
-    const ParameterView* parameter = bench.Parameter();
+    const ParameterView* parameter = bench.Parameter().View();
     Needs given = Need::Store;
     given.setFlag(Need::Writing, mayWrite);
     given.setFlag(Need::Table, !isSelector);

@@ -99,7 +99,7 @@ MainWindow::~MainWindow()
 
 void MainWindow::ShowTitle()
 {
-    const ParameterView* parameter = m_bench->Parameter();
+    const ParameterView* parameter = m_bench->Parameter().View();
     QString title;
     if (parameter != nullptr)
         title += ToQString(parameter->Name()) + "[*] – ";

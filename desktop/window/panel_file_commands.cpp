@@ -35,7 +35,7 @@ void PanelFileCommands::ImportFiles(const QStringList& paths)
 
 void PanelFileCommands::Export()
 {
-    const ParameterView* parameter = m_workbench.Parameter();
+    const ParameterView* parameter = m_workbench.Parameter().View();
     m_workbench.Tell(ExportLoci(m_workbench.Host().Store(), m_workbench.UserActions(),
                                 &m_workbench.Window(),
                                 {.Chosen = m_workbench.Loci().ChosenTags(),

@@ -31,7 +31,7 @@ void ParameterCommands::AskName(const QString& title, const QString& label,
 
 void ParameterCommands::New()
 {
-    if (!m_workbench.MayLeaveParameter())
+    if (!m_workbench.Parameter().MayLeave())
         return;
     const auto tags = m_workbench.Loci().ChosenTags();
     const QString label = tags.empty() ? QString(nameLabel)
@@ -40,8 +40,8 @@ void ParameterCommands::New()
     AskName("New Analysis Parameter", label, {}, [&](const std::string& name) {
         m_workbench.Host().Parameters().Create(name, TagLists::OneEmpty);
         m_workbench.ShowNewParameter(name);
-        m_workbench.Parameter()->Select(tags, true);
-        m_workbench.Parameter()->Save();
+        m_workbench.Parameter().View()->Select(tags, true);
+        m_workbench.Parameter().View()->Save();
         m_workbench.Reload("Made " + ToQString(name) + " with " +
                            ToQString(CountOfLoci(tags.size())) + ".");
     });
@@ -49,9 +49,9 @@ void ParameterCommands::New()
 
 void ParameterCommands::Rename()
 {
-    if (!m_workbench.MayLeaveParameter())
+    if (!m_workbench.Parameter().MayLeave())
         return;
-    const std::string before = m_workbench.Parameter()->Name();
+    const std::string before = m_workbench.Parameter().View()->Name();
     AskName("Rename Analysis Parameter", nameLabel, before, [&](const std::string& name) {
         m_workbench.Host().Parameters().Rename(before, name);
         m_workbench.ShowNewParameter(name);
@@ -60,9 +60,9 @@ void ParameterCommands::Rename()
 
 void ParameterCommands::Duplicate()
 {
-    if (!m_workbench.MayLeaveParameter())
+    if (!m_workbench.Parameter().MayLeave())
         return;
-    const std::string original = m_workbench.Parameter()->Name();
+    const std::string original = m_workbench.Parameter().View()->Name();
     AskName("Duplicate Analysis Parameter", nameLabel, original + " copy",
             [&](const std::string& name) {
                 m_workbench.Host().Parameters().Duplicate(original, name);
@@ -72,7 +72,7 @@ void ParameterCommands::Duplicate()
 
 void ParameterCommands::Delete()
 {
-    const QString name = ToQString(m_workbench.Parameter()->Name());
+    const QString name = ToQString(m_workbench.Parameter().View()->Name());
     QMessageBox box(QMessageBox::Warning, "Delete Analysis Parameter",
                     "Delete the analysis parameter \"" + name + "\"?",
                     QMessageBox::Yes | QMessageBox::No, &m_workbench.Window());
@@ -82,7 +82,7 @@ void ParameterCommands::Delete()
     if (box.exec() != QMessageBox::Yes)
         return;
     m_workbench.Host().Parameters().Delete(FromQString(name));
-    m_workbench.CloseParameter();
+    m_workbench.Parameter().Close();
     m_workbench.Groups().Choose({});
     m_workbench.Reload("Deleted " + name + ".");
 }
@@ -97,34 +97,34 @@ void ParameterCommands::TurnToSelector()
 
 void ParameterCommands::Save()
 {
-    m_workbench.Parameter()->Save();
+    m_workbench.Parameter().View()->Save();
     m_workbench.Loci().Read();
     m_workbench.ShowGroups();
-    m_workbench.Tell("Saved " + ToQString(m_workbench.Parameter()->Name()) + ".");
+    m_workbench.Tell("Saved " + ToQString(m_workbench.Parameter().View()->Name()) + ".");
 }
 
 void ParameterCommands::Revert()
 {
-    m_workbench.Parameter()->Revert();
+    m_workbench.Parameter().View()->Revert();
 }
 
 void ParameterCommands::Close()
 {
-    if (!m_workbench.MayLeaveParameter())
+    if (!m_workbench.Parameter().MayLeave())
         return;
-    m_workbench.CloseParameter();
+    m_workbench.Parameter().Close();
     RememberParameter(ToQString(m_workbench.Host().Store().Name()), {});
     m_workbench.Reload({});
 }
 
 void ParameterCommands::AddChosenLoci()
 {
-    m_workbench.Parameter()->Select(m_workbench.Loci().ChosenTags(), true);
+    m_workbench.Parameter().View()->Select(m_workbench.Loci().ChosenTags(), true);
 }
 
 void ParameterCommands::TakeChosenLoci()
 {
-    m_workbench.Parameter()->Select(m_workbench.Loci().ChosenTags(), false);
+    m_workbench.Parameter().View()->Select(m_workbench.Loci().ChosenTags(), false);
 }
 
 } // namespace Tamrivo

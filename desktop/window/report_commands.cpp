@@ -28,7 +28,7 @@ void ReportCommands::ShowAll()
 
 void ReportCommands::ShowParameter()
 {
-    const ParameterView& parameter = *m_workbench.Parameter();
+    const ParameterView& parameter = *m_workbench.Parameter().View();
     Window().ShowParameter(parameter.Name(), parameter.SelectedTags());
 }
 

@@ -46,7 +46,7 @@ StatusLine::StatusLine(const Workbench& workbench, QWidget* parent)
 
 void StatusLine::FindOverlaps()
 {
-    const ParameterView* parameter = m_workbench.Parameter();
+    const ParameterView* parameter = m_workbench.Parameter().View();
     m_overlaps.clear();
     if (parameter != nullptr)
         m_overlaps = "  " + ToQString(parameter->Name()) + ": " +

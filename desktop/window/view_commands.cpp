@@ -48,7 +48,7 @@ void ViewCommands::NormalText()
 void ViewCommands::SavePicture()
 {
     if (m_workbench.IsSelectorShown())
-        return m_workbench.Parameter()->Picture().SavePictureAs();
+        return m_workbench.Parameter().View()->Picture().SavePictureAs();
     LocusPreview& preview = m_workbench.Loci().Preview();
     preview.setCurrentIndex(LocusPreview::Lanes);
     preview.Picture().SavePictureAs();

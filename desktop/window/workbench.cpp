@@ -1,7 +1,6 @@
 #include "desktop/window/workbench.h"
 
 #include "controls/user.h"
-#include "core/text.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
@@ -15,6 +14,7 @@
 #include "desktop/library/library_table.h"
 #include "desktop/library/library_view.h"
 #include "desktop/window/commands.h"
+#include "desktop/window/history_commands.h"
 #include "desktop/window/locus_commands.h"
 #include "desktop/window/parameter_commands.h"
 #include "desktop/window/parameter_view.h"
@@ -25,7 +25,6 @@
 #include <QMainWindow>
 #include <QTimer>
 
-#include <unordered_set>
 #include <utility>
 
 namespace Tamrivo
@@ -37,7 +36,8 @@ Workbench::Workbench(DesktopFrontEnd& frontEnd, QMainWindow& window)
       m_editors(frontEnd.UserActions()),
       m_groups(new GroupTree(this)),
       m_library(new LibraryView(frontEnd.UserActions(), this)),
-      m_pages(new WorkbenchPages(*m_library, this))
+      m_pages(new WorkbenchPages(*m_library, this)),
+      m_parameter(*this, *m_pages)
 {
     ConnectParts();
 }
@@ -46,7 +46,7 @@ Workbench::~Workbench()
 {
     // The pages go while what they show is there.
     disconnect(m_library, nullptr, this, nullptr);
-    CloseParameter();
+    m_parameter.Close();
 }
 
 void Workbench::Offer(const Commands& commands)
@@ -61,6 +61,8 @@ void Workbench::Offer(const Commands& commands)
     table.addActions(commands.For(CommandPlace::LocusMenu));
     table.setContextMenuPolicy(Qt::ActionsContextMenu);
     commands[Do<&ParameterCommands::TurnToSelector>].setCheckable(true);
+    connect(m_groups, &GroupTree::DeletedAsked, &commands[Do<&HistoryCommands::ShowDeleted>],
+            &QAction::trigger);
     QAction& edit = commands[Do<&LocusCommands::Edit>];
     connect(&table, &LibraryTable::EditAsked, &edit, &QAction::trigger);
     connect(&table, &LibraryTable::DeleteAsked, &commands[Do<&LocusCommands::Delete>],
@@ -83,21 +85,25 @@ void Workbench::ConnectParts()
             [this](const LocusGroup& group) { UserActions().Run([&] { ChooseGroup(group); }); });
     connect(m_groups, &GroupTree::LociDropped, this,
             [this](const std::string& parameter, const std::vector<std::string>& tags) {
-                UserActions().Run([&] { DropOn(parameter, tags); });
+                UserActions().Run([&] { m_parameter.AddTo(parameter, tags); });
             });
     connect(m_library, &LibraryView::Chosen, this, &Workbench::Changed);
     connect(m_library, &LibraryView::Ticked, this, [this](const std::string& tag, bool isTicked) {
-        UserActions().Run([&] { m_parameter->Select({tag}, isTicked); });
+        UserActions().Run([&] { m_parameter.View()->Select({tag}, isTicked); });
     });
     connect(&m_library->Watch(), &FindingWatch::Changed, this, [this] {
         // The number of loci with problems.
         if (m_library->Loci() != nullptr)
-            m_groups->Show(GroupsOf(*m_library->Loci(), KeptSearches()), *m_library->Loci());
+            UserActions().Run([this] { ShowGroups(); });
     });
     connect(&m_library->FoundProblems(), &FindingsView::Chosen, this,
             [this](const Finding& finding) { UserActions().Run([&] { LeadTo(finding); }); });
     connect(&m_editors, &EditorWindows::Stored, this,
             [this](const QString& tag) { Reload("Stored " + tag + ".", {FromQString(tag)}); });
+    connect(&m_parameter, &OpenParameter::Changed, this, [this] {
+        emit SelectionChanged();
+        emit Changed();
+    });
     m_library->Preview().Picture().onClicked = [this](const std::string& tag) {
         m_library->ChooseTags({tag});
     };
@@ -120,7 +126,7 @@ QWidget& Workbench::Window() const
 
 bool Workbench::OpenStore(const std::string& address)
 {
-    if (!MayLeaveParameter())
+    if (!m_parameter.MayLeave())
         return false;
     std::unique_ptr<StoreSession> opened;
     const bool isOpen =
@@ -131,7 +137,7 @@ bool Workbench::OpenStore(const std::string& address)
         m_frontEnd.SetHost(HasStore() ? &Host() : nullptr);
         return false;
     }
-    CloseParameter();
+    m_parameter.Close();
     emit StoreClosing();
     m_library->SetStore(nullptr);
     // The former session gives the front end back before the new one takes it.
@@ -143,22 +149,18 @@ bool Workbench::OpenStore(const std::string& address)
     if (Host().Store().Name() == address)
         RememberStore(ToQString(address));
     Reload({});
-    UserActions().Run([this] {
-        const std::string last = FromQString(LastParameter(ToQString(Host().Store().Name())));
-        if (!last.empty() && Host().Parameters().Find(last))
-            ShowParameter(last);
-    });
+    m_parameter.OpenLast();
     return true;
 }
 
 bool Workbench::MayClose()
 {
-    return MayLeaveParameter() && m_editors.CloseAll();
+    return m_parameter.MayLeave() && m_editors.CloseAll();
 }
 
 std::vector<std::string> Workbench::ChosenLoci() const
 {
-    auto tags = IsSelectorShown() ? m_parameter->HighlightedTags() : m_library->ChosenTags();
+    auto tags = IsSelectorShown() ? m_parameter.View()->HighlightedTags() : m_library->ChosenTags();
     if (tags.empty())
         throw User::Refusal("No locus is chosen");
     return tags;
@@ -176,8 +178,7 @@ void Workbench::Reload(const QString& news, const std::vector<std::string>& choo
 {
     UserActions().Run([&] {
         m_library->Read();
-        if (m_parameter != nullptr)
-            m_parameter->Reload();
+        m_parameter.Reload();
         ShowGroups();
         if (!choose.empty())
             m_library->ChooseTags(choose);
@@ -189,8 +190,7 @@ void Workbench::Reload(const QString& news, const std::vector<std::string>& choo
 void Workbench::ShowGroups()
 {
     m_groups->Show(GroupsOf(*m_library->Loci(), KeptSearches()), *m_library->Loci());
-    if (m_parameter != nullptr)
-        ShowSelection();
+    m_parameter.ShowSelection();
     const LocusGroup& chosen = m_groups->Chosen();
     // The loci of a parameter may be others by now.
     if (chosen != m_library->Group() || chosen.What == LocusGroup::Kind::Parameter)
@@ -200,7 +200,7 @@ void Workbench::ShowGroups()
 void Workbench::ChooseGroup(const LocusGroup& group)
 {
     const bool isParameter = group.What == LocusGroup::Kind::Parameter;
-    if (isParameter && !OpenParameter(FromQString(group.Name)))
+    if (isParameter && !m_parameter.Open(FromQString(group.Name)))
         return m_groups->Choose({});
     m_pages->TurnToTable();
     m_library->ShowGroup(group);
@@ -230,91 +230,29 @@ void Workbench::TurnToTable()
 
 void Workbench::TurnToSelector()
 {
-    m_pages->TurnTo(*m_parameter);
+    m_pages->TurnTo(*m_parameter.View());
     emit Changed();
 }
 
 bool Workbench::IsSelectorShown() const
 {
-    return m_parameter != nullptr && m_pages->IsShown(*m_parameter);
-}
-
-bool Workbench::OpenParameter(const std::string& name)
-{
-    const auto isOpen = [&] {
-        return m_parameter != nullptr && EqualNoCase(m_parameter->Name(), name);
-    };
-    if (!isOpen() && MayLeaveParameter())
-        ShowParameter(name);
-    return isOpen();
-}
-
-void Workbench::ShowParameter(const std::string& name)
-{
-    ParameterView* view = nullptr;
-    const bool isOpen =
-        UserActions().Run([&] { view = new ParameterView(Host(), UserActions(), name, m_pages); });
-    if (!isOpen)
-        return;
-    CloseParameter();
-    m_parameter = view;
-    connect(view, &ParameterView::Changed, this, &Workbench::ShowSelection);
-    m_pages->Add(*view);
-    RememberParameter(ToQString(Host().Store().Name()), ToQString(name));
-    ShowSelection();
+    return m_parameter.View() != nullptr && m_pages->IsShown(*m_parameter.View());
 }
 
 void Workbench::ShowNewParameter(const std::string& name)
 {
-    CloseParameter();
-    ShowParameter(name);
+    m_parameter.Close();
+    m_parameter.Replace(name);
     Reload({});
     const LocusGroup group{LocusGroup::Kind::Parameter, ToQString(name)};
     m_groups->Choose(group);
     ChooseGroup(group);
 }
 
-void Workbench::CloseParameter()
-{
-    if (m_parameter == nullptr)
-        return;
-    if (IsSelectorShown())
-        m_pages->TurnToTable();
-    delete std::exchange(m_parameter, nullptr);
-    m_groups->MarkOpen({}, false, 0);
-    m_library->SetSelected(std::nullopt);
-    emit SelectionChanged();
-    emit Changed();
-}
-
-bool Workbench::MayLeaveParameter()
-{
-    return m_parameter == nullptr || m_parameter->MayLeave();
-}
-
-void Workbench::ShowSelection()
-{
-    std::unordered_set<std::int32_t> selected;
-    for (const auto& locus : m_parameter->SelectedLoci())
-        selected.insert(locus->LocusID());
-    m_groups->MarkOpen(ToQString(m_parameter->Name()), m_parameter->IsChanged(), selected.size());
-    m_library->SetSelected(std::move(selected));
-    emit SelectionChanged();
-    emit Changed();
-}
-
-void Workbench::DropOn(const std::string& parameter, const std::vector<std::string>& tags)
-{
-    if (!OpenParameter(parameter))
-        return;
-    m_parameter->Select(tags, true);
-    Tell("Added to " + ToQString(parameter) + ". Save the parameter to keep it.");
-}
-
 void Workbench::ShowPage()
 {
     m_groups->setEnabled(HasStore());
-    m_pages->Update(HasStore(), m_parameter, HasStore() && Host().Store().IsReadOnly());
+    m_pages->Update(HasStore(), m_parameter.View(), HasStore() && Host().Store().IsReadOnly());
 }
 
 } // namespace Tamrivo

@@ -2,6 +2,7 @@
 
 #include "desktop/window/command.h"
 #include "desktop/window/editor_windows.h"
+#include "desktop/window/open_parameter.h"
 
 #include <QSplitter>
 
@@ -19,7 +20,6 @@ struct LocusGroup;
 class DesktopFrontEnd;
 class GroupTree;
 class LibraryView;
-class ParameterView;
 class StoreSession;
 class WorkbenchPages;
 
@@ -70,15 +70,10 @@ public:
     void TurnToSelector();
     bool IsSelectorShown() const;
 
-    /// The open parameter's view; null when none is open.
-    ParameterView* Parameter() const { return m_parameter; }
-    /// Opens a parameter after asking about unsaved changes. Gives whether it is open.
-    bool OpenParameter(const std::string& name);
-    /// Opens one that was just made or renamed, and turns to its loci.
+    OpenParameter& Parameter() { return m_parameter; }
+    const OpenParameter& Parameter() const { return m_parameter; }
+    /// Opens a parameter that was just made or renamed, and turns to its loci.
     void ShowNewParameter(const std::string& name);
-    void CloseParameter();
-    /// Whether the open parameter may be left: nothing unsaved, or the person has decided.
-    bool MayLeaveParameter();
 
     void Tell(const QString& news) { emit Told(news); }
 
@@ -96,9 +91,6 @@ private:
     void ChooseGroup(const LocusGroup& group);
     /// Opens the editor at what a finding is about.
     void LeadTo(const Finding& finding);
-    void DropOn(const std::string& parameter, const std::vector<std::string>& tags);
-    void ShowParameter(const std::string& name);
-    void ShowSelection();
     void ShowPage();
 
     DesktopFrontEnd& m_frontEnd;
@@ -107,7 +99,7 @@ private:
     GroupTree* m_groups;
     LibraryView* m_library;
     WorkbenchPages* m_pages;
-    ParameterView* m_parameter = nullptr;
+    OpenParameter m_parameter;
 };
 
 } // namespace Tamrivo

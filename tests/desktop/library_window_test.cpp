@@ -1,9 +1,12 @@
 #include "desktop/common/settings.h"
 #include "desktop/lanes/lane_picture.h"
+#include "host/library/changes.h"
+#include "host/panels/panel_format.h"
 #include "main_window_fixture.h"
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -68,7 +71,7 @@ TEST_F(MainWindowTest, SeveralAreDeletedWithOneQuestion)
     Answer("Yes", "D3S1358, FGA");
     PressInTable(Qt::Key_Delete);
     EXPECT_EQ(Shown(), QStringList({"TH01"}));
-    EXPECT_TRUE(m_window->Bench().Parameter()->SelectedTags().empty());
+    EXPECT_TRUE(m_window->Bench().Parameter().View()->SelectedTags().empty());
     EXPECT_EQ(m_window->statusBar()->currentMessage(), "Deleted 2 loci.");
 }
 
@@ -86,19 +89,23 @@ TEST_F(MainWindowTest, TwoAreCompared)
     EXPECT_TRUE(fields.findItems("Dye", Qt::MatchExactly).isEmpty()) << "both are blue";
 }
 
-TEST_F(MainWindowTest, APanelIsExportedInFiveActions)
+TEST_F(MainWindowTest, TwentyFourOfFortySixAreExportedToAKitTableInFiveActions)
 {
-    const QString path = m_directory.filePath("h24.tsv");
+    Store& store = m_window->Bench().Host().Store();
+    store.Together([&] {
+        for (int copy = 1; copy <= 43; ++copy)
+            DuplicateLocus(store, copy <= 22 ? "FGA" : "TH01", "M" + std::to_string(copy));
+    });
+    m_window->Bench().Reload({});
+    EXPECT_EQ(Shown().size(), 46);
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(m_directory.path());
     OnModal([&](QDialog& dialog) {
-        for (auto* box : dialog.findChildren<QComboBox*>())
-        {
-            if (box->findText("Panel H24") >= 0)
-                box->setCurrentText("Panel H24");
-        }
-        ++m_actions;
+        Named<QComboBox>(dialog, "exportScope").setCurrentText("Panel H24");
+        Named<QComboBox>(dialog, "exportFormat")
+            .setCurrentIndex(static_cast<int>(PanelFormat::KitTable));
+        m_actions += 2;
         OnModal([&](QDialog& files) {
-            Named<QLineEdit>(files, "fileNameEdit").setText(path);
-            ++m_actions;
             QTest::keyClick(&Named(files, "fileNameEdit"), Qt::Key_Return);
             ++m_actions;
         });
@@ -106,12 +113,16 @@ TEST_F(MainWindowTest, APanelIsExportedInFiveActions)
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     ClickTool(Do<&PanelFileCommands::Export>);
+    QDir::setCurrent(before);
     EXPECT_LE(m_actions, 5);
-    QFile file(path);
+    QFile file(m_directory.filePath("H24.txt"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray table = file.readAll();
-    EXPECT_TRUE(table.contains("D3S1358") && table.contains("FGA"));
-    EXPECT_FALSE(table.contains("TH01"));
+    QSet<QByteArray> markers;
+    const auto column = file.readLine().split('\t').indexOf("Marker");
+    while (!file.atEnd())
+        markers += file.readLine().split('\t').value(column);
+    EXPECT_EQ(markers.size(), 24);
+    EXPECT_TRUE(markers.contains("D3S1358") && !markers.contains("TH01"));
 }
 
 TEST_F(MainWindowTest, ANewLocusWithTwelveAllelesTakesTwelveActions)
@@ -188,7 +199,8 @@ TEST_F(MainWindowTest, EditorsStandBesideTheWindowOneALocus)
     for (WizardDialog* editor : Editors())
     {
         const QString tag = Named<QLineEdit>(*editor, "txtLocusTag").text();
-        EXPECT_TRUE(editor->windowTitle().startsWith(tag));
+        EXPECT_TRUE(editor->windowTitle().startsWith(tag + "[*]"));
+        EXPECT_FALSE(editor->isWindowModified());
         EditEnd(*editor, tag == "FGA" ? "300" : "180", "310");
         Settle();
         EXPECT_EQ(m_window->statusBar()->currentMessage(), "Stored " + tag + ".");
@@ -201,6 +213,11 @@ TEST_F(MainWindowTest, EditorsStandBesideTheWindowOneALocus)
     Focus(end);
     end.selectAll();
     Type(end, "320");
+    Settle();
+    EXPECT_TRUE(Editor().isWindowModified());
+    Named<QAction>(Editor(), "undo").trigger();
+    EXPECT_FALSE(Editor().isWindowModified());
+    Named<QAction>(Editor(), "redo").trigger();
     Answer("Go On Editing");
     EXPECT_FALSE(m_window->close());
     EXPECT_EQ(Editors().size(), 1U);

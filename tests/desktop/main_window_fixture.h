@@ -167,7 +167,8 @@ protected:
 
     std::string Open() const
     {
-        return m_window->Bench().Parameter() ? m_window->Bench().Parameter()->Name() : "";
+        return m_window->Bench().Parameter().View() ? m_window->Bench().Parameter().View()->Name()
+                                                    : "";
     }
 
     static void AnswerName(const QString& name)

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
 
@@ -40,7 +41,7 @@ TEST_F(MainWindowTest, TicksAndTheSelectorActOnOneSelection)
                     .text()
                     .contains("Casework: 1 overlap: D3S1358 and TH01, 120 to 136 nt (blue)"));
     ClickTick("TH01");
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 2U);
+    EXPECT_EQ(m_window->Bench().Parameter().View()->SelectedTags().size(), 2U);
 
     // Loci dropped on another parameter open it; what was changed is asked about.
     QMimeData tags;
@@ -55,7 +56,7 @@ TEST_F(MainWindowTest, TicksAndTheSelectorActOnOneSelection)
     QApplication::sendEvent(groups.viewport(), &drop);
     Settle();
     EXPECT_EQ(Open(), "Research");
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 2U);
+    EXPECT_EQ(m_window->Bench().Parameter().View()->SelectedTags().size(), 2U);
     Trigger(Do<&ParameterCommands::Revert>);
     EXPECT_FALSE(IsTicked("FGA"));
     ClickGroup("Casework");
@@ -73,6 +74,9 @@ TEST_F(MainWindowTest, MenusTakeLettersThatTheSelectorHasNot)
     for (const auto* button : m_window->findChildren<QPushButton*>())
         letters += button->isVisible() ? letterOf(button->text()) : QChar();
     EXPECT_TRUE(letters.contains('e')) << "Edit Locus";
+    const auto& preview = Named<QTabWidget>(*m_window, "preview");
+    for (int tab = 0; tab < preview.count(); ++tab)
+        letters += letterOf(preview.tabText(tab));
     for (const QAction* menu : m_window->menuBar()->actions())
         EXPECT_FALSE(letters.contains(letterOf(menu->text()))) << menu->text().toStdString();
 }
@@ -97,9 +101,9 @@ TEST_F(MainWindowTest, ChangesAreShownAskedAboutAndKept)
 
     OpenWindow();
     EXPECT_EQ(Open(), "Research") << "the last parameter is remembered";
-    EXPECT_TRUE(m_window->Bench().Parameter()->SelectedTags().empty());
+    EXPECT_TRUE(m_window->Bench().Parameter().View()->SelectedTags().empty());
     ClickGroup("Casework");
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U)
+    EXPECT_EQ(m_window->Bench().Parameter().View()->SelectedTags().size(), 3U)
         << "all there after a restart";
     EXPECT_EQ(RecentStores().value(0).toStdString(), Address());
 }
@@ -112,7 +116,7 @@ TEST_F(MainWindowTest, RevertGoesBackToWhatIsStored)
     QTest::qWait(20);
     EXPECT_TRUE(m_window->isWindowModified());
     ClickBar(Do<&ParameterCommands::Revert>);
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U);
+    EXPECT_EQ(m_window->Bench().Parameter().View()->SelectedTags().size(), 3U);
     EXPECT_FALSE(m_window->isWindowModified());
 }
 
@@ -128,7 +132,7 @@ TEST_F(MainWindowTest, ParametersAreMadeRenamedCopiedAndDeleted)
     AnswerName("Exam");
     Trigger(Do<&ParameterCommands::Duplicate>);
     EXPECT_EQ(Open(), "Exam");
-    EXPECT_EQ(m_window->Bench().Parameter()->SelectedTags().size(), 3U);
+    EXPECT_EQ(m_window->Bench().Parameter().View()->SelectedTags().size(), 3U);
     Answer("Yes", "Exam");
     Trigger(Do<&ParameterCommands::Delete>);
     EXPECT_EQ(Open(), "");

@@ -26,7 +26,8 @@ TEST(Help, TheGuideHasWhatEachWindowIsToldUnder)
 {
     for (const char* name :
          {"LocusEditor", "SaveLocusTagAs", "import", "exportLoci", "storeProperties", "search",
-          "STRLocusTagSelector", "parameterBar", "main", "reports", "failure"})
+          "STRLocusTagSelector", "parameterBar", "main", "commandList", "findings", "reports",
+          "history", "projects", "backup", "failure"})
     {
         QWidget window;
         window.setObjectName(name);

@@ -1,4 +1,5 @@
 #include "desktop/common/settings.h"
+#include "desktop/help/guide_window.h"
 #include "desktop/lanes/lane_picture.h"
 #include "host/library/changes.h"
 #include "host/panels/panel_format.h"
@@ -13,6 +14,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTextBlock>
 
 #include <fstream>
 
@@ -262,6 +264,43 @@ TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
     Trigger(Do<&ViewCommands::UseDesktopTheme>);
     EXPECT_FALSE(m_window->Commands()[Do<&ViewCommands::UseDarkTheme>].isChecked());
     EXPECT_TRUE(Shown().contains("FGA-2"));
+}
+
+TEST_F(MainWindowTest, F1OpensTheGuideAtWhatHasTheFocus)
+{
+    for (const auto& [name, heading] :
+         {std::pair{"loci", "The library"}, std::pair{"search", "Search"},
+          std::pair{"groups", "The library"}, std::pair{"preview", "The library"}})
+    {
+        Focus(Named(*m_window, name));
+        QTest::keyClick(&Named(*m_window, name), Qt::Key_F1);
+        Settle();
+        const auto& guide = *m_window->findChild<GuideWindow*>();
+        EXPECT_EQ(guide.cursorForPosition({40, 8}).block().text(), heading) << name;
+        QApplication::setActiveWindow(m_window.get());
+    }
+}
+
+TEST_F(MainWindowTest, ATipIsShownUntilItWasRead)
+{
+    const auto shown = [&] {
+        QSet<QString> tips;
+        for (const auto* tip : m_window->findChildren<QWidget*>("tip"))
+        {
+            if (tip->isVisible())
+                tips += tip->findChild<QLabel*>()->text();
+        }
+        return tips;
+    };
+    const QSet<QString> before = shown();
+    ASSERT_EQ(before.size(), 2) << "of the library and the parameter";
+    auto& read = Named<QToolButton>(Named(*m_window, "parameterBar"), "tipRead");
+    QTest::mouseClick(&read, Qt::LeftButton);
+    const QSet<QString> after = shown();
+    EXPECT_EQ(after.size(), 1);
+    m_window->close();
+    OpenWindow();
+    EXPECT_EQ(shown(), after);
 }
 
 TEST_F(MainWindowTest, AFileThatIsNoStoreIsRefusedInWordsAndTheOpenOneStays)

@@ -72,24 +72,15 @@ LocusLanes::LocusLanes(const Actions& actions, QWidget* parent)
     layout->addWidget(m_picture, 1);
     layout->addWidget(m_summary);
     layout->addWidget(m_list);
-    ShowOverlaps({}, {}, {});
+    SetLoci({});
 }
 
 void LocusLanes::SetLoci(std::vector<LaneLocus> loci, Dyes dyes)
 {
+    LocusOverlaps overlaps = FindOverlaps(loci, mostListed);
+    ShowOverlaps(overlaps, loci, dyes);
     m_canLoad = true;
-    const LaneDrawing& shown = m_picture->Drawing();
-    if (loci == shown.Loci() && dyes == shown.LabDyes())
-    {
-        // Their alleles may be others.
-        m_picture->ForgetDetails();
-    }
-    else
-    {
-        LocusOverlaps overlaps = FindOverlaps(loci, mostListed);
-        ShowOverlaps(overlaps, loci, dyes);
-        m_picture->Show({std::move(loci), std::move(overlaps), std::move(dyes)});
-    }
+    m_picture->Show({std::move(loci), std::move(overlaps), std::move(dyes)});
     MarkChosen();
 }
 

@@ -160,6 +160,7 @@ void LibraryView::Filter()
     std::vector<std::uint32_t> shown;
     std::ranges::set_intersection(ofGroup, found.Loci, std::back_inserter(shown));
     m_model->Show(std::move(shown));
+    ++m_lanesNumber;
     ShowFindings();
     ChooseNumbers(chosen);
     m_chosenChanged.start();
@@ -258,6 +259,11 @@ void LibraryView::ShowPreview()
         ofLocus.Name = tags.front();
         return History(m_store->SharedDatabase()).Newest(ofLocus, MostChanges);
     };
+    const bool lanesAreOfChosen = rows.size() > 1;
+    if (lanesAreOfChosen || m_lanesAreOfChosen)
+        ++m_lanesNumber;
+    m_lanesAreOfChosen = lanesAreOfChosen;
+    content.LanesNumber = m_lanesNumber;
     content.Lanes = [this] {
         std::vector<LaneLocus> lanes;
         const auto add = [&](const LibraryLocus& locus) {

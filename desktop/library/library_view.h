@@ -78,6 +78,8 @@ private:
     LocusGroup m_group;
     std::optional<std::unordered_set<std::int32_t>> m_selected;
     QTimer m_chosenChanged;
+    int m_lanesNumber = 0; ///< `LocusPreview::Content::LanesNumber`
+    bool m_lanesAreOfChosen = false;
 
     SearchLine* m_search;
     QSplitter* m_splitter;

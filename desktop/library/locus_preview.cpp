@@ -79,9 +79,7 @@ void LocusPreview::ShowTab()
         switch (currentIndex())
         {
         case Alleles: return ShowAlleles();
-        case Lanes:
-            return m_lanes->SetLoci(m_content.Lanes ? m_content.Lanes() : std::vector<LaneLocus>(),
-                                    m_content.LabDyes);
+        case Lanes: return ShowLanes();
         case Details: return ShowDetails();
         case Changes: return ShowChanges();
         case Compare: return ShowComparison();
@@ -108,6 +106,15 @@ void LocusPreview::ShowAlleles()
         ToQString(m_content.LabDyes.TitleOf(locus->DyeIndex) + ", " + CountOfAlleles(rows.size())));
     m_alleles->Show(rows, LengthRange{static_cast<double>(locus->FragStart),
                                       static_cast<double>(locus->FragEnd)});
+}
+
+void LocusPreview::ShowLanes()
+{
+    if (m_lanesShown == m_content.LanesNumber)
+        return;
+    m_lanesShown = m_content.LanesNumber;
+    m_lanes->SetLoci(m_content.Lanes ? m_content.Lanes() : std::vector<LaneLocus>(),
+                     m_content.LabDyes);
 }
 
 void LocusPreview::ShowDetails()

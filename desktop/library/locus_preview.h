@@ -45,7 +45,8 @@ public:
     {
         std::size_t Count = 0; ///< Chosen loci.
         std::function<std::shared_ptr<Locus>(std::size_t chosen)> Load;
-        std::function<std::vector<LaneLocus>()> Lanes;       ///< Of all chosen, or of all on show.
+        std::function<std::vector<LaneLocus>()> Lanes; ///< Of all chosen, or of all on show.
+        int LanesNumber = 0; ///< The same for the same lanes, which are asked for once.
         std::function<std::vector<HistoryRecord>()> Changes; ///< Of the first, the newest first.
         Tamrivo::Dyes LabDyes;
     };
@@ -56,6 +57,7 @@ public:
 private:
     void ShowTab();
     void ShowAlleles();
+    void ShowLanes();
     void ShowDetails();
     void ShowChanges();
     void ShowComparison();
@@ -65,6 +67,7 @@ private:
     QLabel* m_heading;
     AllelePicture* m_alleles;
     LocusLanes* m_lanes;
+    int m_lanesShown = 0; ///< Their number.
     QTableWidget* m_details;
     HistoryList* m_changes;
     Comparison* m_comparison;

@@ -20,8 +20,9 @@ inline void ReadAll(std::span<const PanelFile> files, PanelFormat format)
     for (const PanelMarker& marker : reading.Markers)
     {
         LocusFields fields;
-        ApplyMarker(marker, {}, true, fields);
-        UpdateAlleles(marker.Alleles, marker);
+        const std::vector<AlleleFields> alleles = AllelesOf(marker);
+        ApplyMarker(marker, alleles, {}, true, fields);
+        UpdateAlleles(alleles, alleles, marker);
     }
 }
 

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 
 namespace Tamrivo
 {
@@ -75,12 +76,16 @@ bool ReportComplaints(Context& context, const ImportOptions& options, const Pane
 /// Prints what can't come in.
 void ReportObstacles(Context& context, const ImportOptions& options, const ImportPlan& plan)
 {
+    std::set<std::string> told;
     for (const PlannedLocus& locus : plan.Loci)
     {
         if (locus.IsLacking)
             continue;
-        for (const std::string& obstacle : locus.Obstacles)
-            context.Err << Located(options, locus.Place()) << ": " << obstacle << ".\n";
+        for (const std::string& reason : locus.Reasons())
+        {
+            if (told.insert(reason).second)
+                context.Err << Located(options, reason) << ".\n";
+        }
     }
 }
 

@@ -40,12 +40,13 @@ QStringList ReasonsAgainst(const std::vector<PanelComplaint>& complaints, const 
     qsizetype further = 0;
     for (const PlannedLocus& locus : plan.Loci)
     {
-        for (const std::string& obstacle : locus.Obstacles)
+        for (const std::string& text : locus.Reasons())
         {
-            if (reasons.size() < mostReasons)
-                reasons.append(ToQString(locus.Place() + ": " + obstacle + "."));
-            else
+            const QString reason = ToQString(text + ".");
+            if (reasons.size() >= mostReasons)
                 ++further;
+            else if (!reasons.contains(reason))
+                reasons.append(reason);
         }
     }
     if (further > 0)

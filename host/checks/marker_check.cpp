@@ -21,6 +21,7 @@ struct Definitions
 {
     std::vector<PanelMarker> Markers;
     std::vector<LocusFields> Fields;
+    std::vector<std::vector<AlleleFields>> Alleles;
     std::map<std::string, std::int32_t> DyeOfColor;
     std::map<std::string, std::size_t> Named; ///< Markers of a name.
 };
@@ -38,7 +39,7 @@ CheckedLocus CheckedLocusOf(const Definitions& definitions, std::size_t at)
 {
     const PanelMarker& marker = definitions.Markers[at];
     std::vector<const AlleleFields*> alleles;
-    for (const AlleleFields& allele : marker.Alleles)
+    for (const AlleleFields& allele : definitions.Alleles[at])
         alleles.push_back(&allele);
     CheckedLocus checked(TagOf(definitions, marker), definitions.Fields[at], std::move(alleles));
     checked.Dye = Trim(marker.Color);
@@ -57,10 +58,12 @@ CheckSource CheckSourceOf(std::vector<PanelMarker> markers)
     std::map<std::string, CheckSource::Group> panels;
     for (std::size_t at = 0; at < definitions->Markers.size(); ++at)
     {
-        const PanelMarker& marker = definitions->Markers[at];
+        PanelMarker& marker = definitions->Markers[at];
         LocusFields fields;
-        ApplyMarker(marker, Dyes(), true, fields);
-        ApplyAlleles(marker, fields);
+        definitions->Alleles.push_back(AllelesOf(marker));
+        marker.Alleles = {};
+        ApplyMarker(marker, definitions->Alleles.back(), Dyes(), true, fields);
+        ApplyAlleles(definitions->Alleles.back(), marker.Offset, fields);
         fields.DyeIndex = definitions->DyeOfColor
                               .emplace(FoldCase(Trim(marker.Color)), static_cast<std::int32_t>(at))
                               .first->second;

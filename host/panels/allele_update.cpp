@@ -36,13 +36,15 @@ constexpr NumberOfAllele numbersOfAllele[] = {{"Size", &AlleleFields::AlleleReal
 class Updater
 {
 public:
-    Updater(const std::vector<AlleleFields>& stored, const PanelMarker& marker) : m_marker(marker)
+    Updater(const std::vector<AlleleFields>& stored, const std::vector<AlleleFields>& stated,
+            const PanelMarker& marker)
+        : m_marker(marker)
     {
-        for (const AlleleFields& allele : marker.Alleles)
+        for (const AlleleFields& allele : stated)
             m_stated[KeyOf(allele.AlleleText1)].push_back(&allele);
         for (const AlleleFields& allele : stored)
             UpdateStored(allele);
-        AddNew();
+        AddNew(stated);
     }
 
     AlleleUpdate Take() { return std::move(m_update); }
@@ -93,10 +95,10 @@ private:
         allele.*member = stated.*member;
     }
 
-    void AddNew()
+    void AddNew(const std::vector<AlleleFields>& stated)
     {
         bool isAny = false;
-        for (const AlleleFields& allele : m_marker.Alleles)
+        for (const AlleleFields& allele : stated)
         {
             auto& left = m_stated[KeyOf(allele.AlleleText1)];
             if (std::ranges::find(left, &allele) == left.end())
@@ -116,9 +118,10 @@ private:
 
 } // namespace
 
-AlleleUpdate UpdateAlleles(const std::vector<AlleleFields>& stored, const PanelMarker& marker)
+AlleleUpdate UpdateAlleles(const std::vector<AlleleFields>& stored,
+                           const std::vector<AlleleFields>& stated, const PanelMarker& marker)
 {
-    return Updater(stored, marker).Take();
+    return Updater(stored, stated, marker).Take();
 }
 
 } // namespace Tamrivo

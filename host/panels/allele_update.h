@@ -24,10 +24,11 @@ struct AlleleUpdate
     std::vector<Difference> Differences;
 };
 
-/// Brings stored alleles to what the marker says. Alleles are the same when their names are, "9.3"
-/// and "9.30" too, or, for a kit file, when the stored name would stand there as the marker's. What
-/// the file can't carry stays as it is stored: of an allele that a kit file knows its size, bin and
-/// name, and alleles that aren't in the ladder.
-AlleleUpdate UpdateAlleles(const std::vector<AlleleFields>& stored, const PanelMarker& marker);
+/// Brings stored alleles to the stated ones of the marker, those of `AllelesOf`. Alleles are the
+/// same when their names are, "9.3" and "9.30" too, or, for a kit file, when the stored name would
+/// stand there as the marker's. What the file can't carry stays as it is stored: of an allele that
+/// a kit file knows its size, bin and name, and alleles that aren't in the ladder.
+AlleleUpdate UpdateAlleles(const std::vector<AlleleFields>& stored,
+                           const std::vector<AlleleFields>& stated, const PanelMarker& marker);
 
 } // namespace Tamrivo

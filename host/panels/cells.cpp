@@ -19,6 +19,32 @@ struct EscapedCharacter
 constexpr EscapedCharacter escapedCharacters[] = {
     {'\t', 't'}, {'\n', 'n'}, {'\r', 'r'}, {'\\', '\\'}};
 
+/// A number of few digits, as most are. Its digits and the power of ten are exact, so that their
+/// quotient is the nearest number. None for any other text.
+std::optional<double> ShortNumber(std::string_view cell)
+{
+    constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+    if (cell.size() > std::size(powers) || cell.empty() || cell == ".")
+        return std::nullopt;
+    std::int64_t digits = 0;
+    std::size_t decimals = 0;
+    bool isBehindPoint = false;
+    for (const char character : cell)
+    {
+        if (character >= '0' && character <= '9')
+        {
+            digits = 10 * digits + (character - '0');
+            decimals += isBehindPoint ? 1 : 0;
+        }
+        else if (character == '.' && !isBehindPoint)
+            isBehindPoint = true;
+        else
+            return std::nullopt;
+    }
+    return static_cast<double>(digits) / powers[decimals];
+}
+
 } // namespace
 
 void SplitCells(std::string_view line, std::vector<std::string_view>& cells)
@@ -92,6 +118,8 @@ std::optional<double> CellNumber(std::string_view cell)
         cell.remove_prefix(1);
     while (cell.ends_with(' '))
         cell.remove_suffix(1);
+    if (const auto number = ShortNumber(cell))
+        return number;
     double value = 0;
     const auto [end, error] = std::from_chars(cell.data(), cell.data() + cell.size(), value);
     if (error != std::errc() || end != cell.data() + cell.size() || !std::isfinite(value))

@@ -37,11 +37,11 @@ using F = LocusFields;
 
 bool HasOtherNaming(const ExportedMarker& marker)
 {
-    PanelMarker stated;
+    std::vector<AlleleFields> alleles;
     for (const AlleleFields* allele : marker.Alleles)
-        stated.Alleles.push_back(*allele);
+        alleles.push_back(*allele);
     LocusFields derived;
-    ApplyAlleles(stated, derived);
+    ApplyAlleles(alleles, {}, derived);
     const Locus& locus = *marker.Source;
     return derived.AlleleNamingConventionTypeID != locus.AlleleNamingConventionTypeID ||
            derived.StartAtNumeric != locus.StartAtNumeric ||

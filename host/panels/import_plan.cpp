@@ -103,11 +103,10 @@ private:
                 {RemarkKind::Renamed, place + " is stored under the tag \"" + planned.Tag + "\""});
         if (marker.IsNominal && planned.Fate == ImportFate::New)
             remarks.push_back({RemarkKind::Nominal, place});
-        for (const AlleleFields& allele : marker.Alleles)
+        for (const PanelAllele& allele : marker.Alleles)
         {
-            if (allele.AlleleReal1 < allele.AlleleReal2 || allele.AlleleReal1 > allele.AlleleReal3)
-                remarks.push_back(
-                    {RemarkKind::SizeOutsideBin, place + ", allele " + allele.AlleleText1});
+            if (allele.Size < allele.BinStart || allele.Size > allele.BinEnd)
+                remarks.push_back({RemarkKind::SizeOutsideBin, place + ", allele " + allele.Name});
         }
     }
 
@@ -117,7 +116,7 @@ private:
         planned.File = marker.File;
         planned.Line = marker.Line;
         planned.Marker = marker.Marker;
-        planned.Alleles = marker.Alleles;
+        planned.Alleles = AllelesOf(marker);
         planned.Fields.PrimerSet = marker.Panel;
         planned.Stored = m_tags.Find(marker, planned.Tag);
         if (!CheckFlaws(marker, planned))
@@ -131,7 +130,7 @@ private:
             fields = *planned.Stored;
         else
             fields.LocusName = marker.Marker;
-        ApplyMarker(marker, m_dyes, !planned.Stored, fields);
+        ApplyMarker(marker, planned.Alleles, m_dyes, !planned.Stored, fields);
         fields.ProjectName = ProjectOf(fields);
         if (planned.Stored)
             Compare(marker, planned);
@@ -154,6 +153,11 @@ private:
             for (PanelComplaint flaw : marker.Flaws)
             {
                 // What the planned locus says itself needs no second time.
+                if (flaw.IsShared)
+                {
+                    planned.Gap = flaw.Text();
+                    continue;
+                }
                 if (flaw.File == planned.File)
                     flaw.File.clear();
                 if (flaw.File.empty() && flaw.Column.empty() && flaw.Line == planned.Line)
@@ -198,11 +202,10 @@ private:
         const auto isPast = [](double size) { return size < -largest || size > largest; };
         if (!marker.FieldCells.empty())
             return;
-        for (const AlleleFields& allele : marker.Alleles)
+        for (const PanelAllele& allele : marker.Alleles)
         {
-            if (isPast(allele.AlleleReal1) || isPast(allele.AlleleReal2) ||
-                isPast(allele.AlleleReal3))
-                return planned.Obstacles.push_back("The allele " + QuotedCell(allele.AlleleText1) +
+            if (isPast(allele.Size) || isPast(allele.BinStart) || isPast(allele.BinEnd))
+                return planned.Obstacles.push_back("The allele " + QuotedCell(allele.Name) +
                                                    " has a size or a bin past 10000 nt");
         }
     }
@@ -229,7 +232,7 @@ private:
     {
         Locus& stored = *planned.Stored;
         const std::vector<AlleleFields> before = AllelesOf(stored);
-        AlleleUpdate update = UpdateAlleles(before, marker);
+        AlleleUpdate update = UpdateAlleles(before, planned.Alleles, marker);
         if (!update.Differences.empty() && marker.FieldCells.empty() && !marker.IsNominal &&
             FollowsAlleles(stored, before))
             FollowAlleles(planned.Fields, update.Alleles);
@@ -265,6 +268,16 @@ std::string PlannedLocus::Place() const
 {
     return (File.empty() ? "line " : File + ", line ") + std::to_string(Line) + ": " + Marker +
            (Fields.PrimerSet.empty() ? "" : " of " + Fields.PrimerSet);
+}
+
+std::vector<std::string> PlannedLocus::Reasons() const
+{
+    std::vector<std::string> reasons;
+    for (const std::string& obstacle : Obstacles)
+        reasons.push_back(Place() + ": " + obstacle);
+    if (!Gap.empty())
+        reasons.push_back(Gap);
+    return reasons;
 }
 
 std::size_t ImportPlan::Count(ImportFate fate) const

@@ -55,6 +55,9 @@ struct PlannedLocus
     std::string Tag;
     /// Why the marker is left out, a sentence each.
     std::vector<std::string> Obstacles;
+    /// What a file lacks that this marker and others need, with the place; empty: nothing. It
+    /// leaves the marker out as well.
+    std::string Gap;
     /// Left out because its file says too little, which keeps nothing else from coming in.
     bool IsLacking = false;
     /// Left out for want of a dye that the store could have.
@@ -69,6 +72,9 @@ struct PlannedLocus
     bool IsRenamed() const { return Tag != Marker; }
     /// "line 7: D3S1358 of Panel-17".
     std::string Place() const;
+    /// Why the marker is left out, each with its place; a gap reads the same for all that it
+    /// leaves out.
+    std::vector<std::string> Reasons() const;
 };
 
 /// What an import would do, to be shown or carried out.

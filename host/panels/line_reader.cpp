@@ -2,6 +2,8 @@
 
 #include "core/error.h"
 
+#include <algorithm>
+
 namespace Tamrivo
 {
 
@@ -11,13 +13,14 @@ namespace
 constexpr std::size_t blockSize = 65536;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// One loop without branches.
+/// One loop without branches, for many bytes at once.
 bool IsPlainText(std::string_view bytes)
 {
-    bool isPlain = true;
+    // Below 0x7F are those from 1 to 0x7F.
+    unsigned char most = 0;
     for (const char byte : bytes)
-        isPlain &= static_cast<signed char>(byte) > 0;
-    return isPlain;
+        most = std::max(most, static_cast<unsigned char>(byte - 1));
+    return most < 0x7F;
 }
 
 } // namespace

@@ -88,7 +88,26 @@ void ApplyNaming(const std::vector<AlleleFields>& alleles, const AlleleFields& s
 
 } // namespace
 
-void ApplyMarker(const PanelMarker& marker, const Dyes& dyes, bool isNew, LocusFields& fields)
+std::vector<AlleleFields> AllelesOf(const PanelMarker& marker)
+{
+    std::vector<AlleleFields> alleles;
+    alleles.reserve(marker.Alleles.size());
+    for (const PanelAllele& stated : marker.Alleles)
+    {
+        AlleleFields& allele = alleles.emplace_back();
+        allele.AlleleReal1 = stated.Size;
+        allele.AlleleReal2 = stated.BinStart;
+        allele.AlleleReal3 = stated.BinEnd;
+        allele.AlleleReal4 = stated.Repeats;
+        allele.AlleleText1 = stated.Name;
+        allele.AlleleInt1 = stated.Origin;
+        allele.AlleleInt2 = stated.IsVirtual ? 1 : 0;
+    }
+    return alleles;
+}
+
+void ApplyMarker(const PanelMarker& marker, const std::vector<AlleleFields>& alleles,
+                 const Dyes& dyes, bool isNew, LocusFields& fields)
 {
     fields.DyeIndex = dyes.OfColor(marker.Color).value_or(fields.DyeIndex);
     if (isNew || !marker.IsNominal)
@@ -99,20 +118,21 @@ void ApplyMarker(const PanelMarker& marker, const Dyes& dyes, bool isNew, LocusF
     fields.RepeatLength = marker.RepeatLength;
     fields.PrimerSet = marker.Panel;
     if (isNew)
-        ApplyAlleles(marker, fields);
+        ApplyAlleles(alleles, marker.Offset, fields);
     for (const auto& [field, cell] : marker.FieldCells)
         SetField(fields, *field, cell);
 }
 
-void ApplyAlleles(const PanelMarker& marker, LocusFields& fields)
+void ApplyAlleles(const std::vector<AlleleFields>& alleles, const std::optional<double>& offset,
+                  LocusFields& fields)
 {
-    const AlleleFields* shortest = ShortestOf(marker.Alleles);
+    const AlleleFields* shortest = ShortestOf(alleles);
     if (shortest == nullptr)
         return;
-    const auto [size, repeats] = ShortestIn(fields, *shortest, marker.Offset);
+    const auto [size, repeats] = ShortestIn(fields, *shortest, offset);
     fields.ShortestAlleleSize = size;
     fields.RepeatsInShortestAllele = repeats;
-    ApplyNaming(marker.Alleles, *shortest, fields);
+    ApplyNaming(alleles, *shortest, fields);
 }
 
 bool FollowsAlleles(const LocusFields& fields, const std::vector<AlleleFields>& alleles)

@@ -63,17 +63,13 @@ private:
     void Add(PanelReading reading, const std::string& file)
     {
         for (PanelMarker& marker : reading.Markers)
-        {
             marker.File = file.empty() ? marker.File : file;
-            m_reading.Markers.push_back(std::move(marker));
-        }
         for (PanelComplaint& complaint : reading.Complaints)
-        {
             complaint.File = file.empty() ? complaint.File : file;
-            m_reading.Complaints.push_back(std::move(complaint));
-        }
-        std::ranges::move(reading.Remarks, std::back_inserter(m_reading.Remarks));
-        std::ranges::move(reading.BinSets, std::back_inserter(m_reading.BinSets));
+        MoveBehind(std::move(reading.Markers), m_reading.Markers);
+        MoveBehind(std::move(reading.Complaints), m_reading.Complaints);
+        MoveBehind(std::move(reading.Remarks), m_reading.Remarks);
+        MoveBehind(std::move(reading.BinSets), m_reading.BinSets);
     }
 
     const ReadChoice& m_choice;

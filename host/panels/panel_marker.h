@@ -3,7 +3,9 @@
 #include "contracts/allele.h"
 #include "contracts/locus_fields.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -23,6 +25,8 @@ struct PanelComplaint
     /// The place's first character in the line, from 1, for XML, where `Column` is an element; 0
     /// for tables.
     std::size_t Character = 0;
+    /// What a whole file lacks: the same for several markers, and told once for all of them.
+    bool IsShared = false;
 
     /// "kit.txt, line 7, column Size: ...", for XML "kit.xml, line 7, column 12, element BP: ...".
     std::string Text() const;
@@ -46,13 +50,25 @@ struct PanelRemark
     std::string Text; ///< With the place, without a full stop.
 };
 
+/// An allele as a file states it.
+struct PanelAllele
+{
+    std::string Name;
+    double Size = 0;     ///< nt
+    double BinStart = 0; ///< nt
+    double BinEnd = 0;   ///< nt
+    double Repeats = 0;
+    std::int32_t Origin = AlleleOrigin::Imported;
+    bool IsVirtual = false; ///< Not in the ladder.
+};
+
 /// What the source of a marker says about its alleles besides name, size and bin. An update changes
 /// nothing else.
 struct StatedOfAlleles
 {
     bool Virtual = true;
-    bool Repeats = false; ///< `AlleleFields::AlleleReal4`
-    bool Origin = false;  ///< `AlleleFields::AlleleInt1`
+    bool Repeats = false;
+    bool Origin = false;
 };
 
 /// A marker with its alleles, as a file of any format states it.
@@ -72,7 +88,7 @@ struct PanelMarker
     std::optional<double> Offset;
     /// Further fields of the locus and the texts of their cells, each of them readable.
     std::vector<std::pair<const LocusField*, std::string>> FieldCells;
-    std::vector<AlleleFields> Alleles;
+    std::vector<PanelAllele> Alleles;
     StatedOfAlleles Stated;
     /// Sizes are whole nt that follow from repeats, and bins, virtual alleles and the range are no
     /// part of the format.
@@ -98,6 +114,16 @@ struct PanelReading
 };
 
 inline constexpr std::size_t MaxPanelComplaints = 20;
+
+/// Moves items behind those that are there; a whole vector at once where there are none.
+template <class T>
+void MoveBehind(std::vector<T>&& from, std::vector<T>& to)
+{
+    if (to.empty())
+        to = std::move(from);
+    else
+        std::ranges::move(from, std::back_inserter(to));
+}
 
 /// The text in quotes, or "nothing"; control characters as "?", a long one cut.
 std::string QuotedCell(std::string_view text);

@@ -139,9 +139,8 @@ TEST_F(Export, OfAKitFileFollowsTheRepeats)
     for (const PanelMarker& marker : reading.Markers)
     {
         sizes += marker.Marker + "/" + std::to_string(marker.RepeatLength);
-        for (const AlleleFields& allele : marker.Alleles)
-            sizes +=
-                " " + allele.AlleleText1 + ":" + std::to_string(std::lround(allele.AlleleReal1));
+        for (const PanelAllele& allele : marker.Alleles)
+            sizes += " " + allele.Name + ":" + std::to_string(std::lround(allele.Size));
         sizes += "; ";
     }
     EXPECT_EQ(sizes, "D3S1358/4 8:95 9.3:102 10:103; TH01/4 4:105 5:109 6:113; AMEL/6 1:82 2:88; ");

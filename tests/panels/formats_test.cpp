@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <set>
 
 namespace Tamrivo
 {
@@ -14,6 +15,7 @@ namespace Tamrivo
 namespace
 {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -87,8 +89,8 @@ TEST(Formats, AKitTableMayHaveQuotesAndMissingValues)
     const PanelMarker& th01 = reading.Markers[1];
     EXPECT_EQ(th01.Panel, "Kit \"A\"");
     EXPECT_THAT(th01.Flaws, IsEmpty());
-    EXPECT_EQ(th01.Alleles[0].AlleleText1, "9.3");
-    EXPECT_EQ(th01.Alleles[0].AlleleInt2, 1);
+    EXPECT_EQ(th01.Alleles[0].Name, "9.3");
+    EXPECT_TRUE(th01.Alleles[0].IsVirtual);
     EXPECT_FALSE(reading.Markers[0].Offset);
     EXPECT_THAT(reading.Markers[2].Flaws, SizeIs(6));
     EXPECT_TRUE(std::ranges::all_of(reading.Markers[2].Flaws, &PanelComplaint::IsLack));
@@ -111,16 +113,25 @@ TEST(Formats, PanelsAndBinsArePutTogether)
         EXPECT_EQ(d3.Panel, "P1");
         EXPECT_EQ(d3.RangeEnd, 150.5);
         ASSERT_THAT(d3.Alleles, SizeIs(2));
-        EXPECT_EQ(d3.Alleles[0].AlleleReal2, 92.97);
-        EXPECT_EQ(d3.Alleles[0].AlleleReal3, 94.07);
-        EXPECT_EQ(d3.Alleles[0].AlleleInt2, 1);
-        EXPECT_EQ(d3.Alleles[1].AlleleInt2, 0);
+        EXPECT_EQ(d3.Alleles[0].BinStart, 92.97);
+        EXPECT_EQ(d3.Alleles[0].BinEnd, 94.07);
+        EXPECT_TRUE(d3.Alleles[0].IsVirtual);
+        EXPECT_FALSE(d3.Alleles[1].IsVirtual);
         ASSERT_THAT(reading.Remarks, SizeIs(1));
         EXPECT_THAT(reading.Remarks[0].Text, HasSubstr("D3S1358, allele 10"));
     }
     const std::vector<std::string> two = {panels, Bins("One", "P1"), Bins("Two", "P1")};
     EXPECT_THAT(Read(two, {.BinSet = "two"}).Complaints, IsEmpty());
     EXPECT_THAT(Read(two, {.BinSet = "two"}).BinSets, ElementsAre("One", "Two"));
+    // A panel with a single set of bins needs no choice.
+    std::string panelsP2 = panels;
+    panelsP2.replace(panelsP2.find("P1"), 2, "P2");
+    const PanelReading both =
+        Read({two[0], two[1], two[2], panelsP2, Bins("Three", "P2")}, {.BinSet = "Two"});
+    EXPECT_THAT(both.Complaints, IsEmpty());
+    EXPECT_TRUE(std::ranges::all_of(both.Markers, [](const auto& marker) {
+        return marker.Flaws.empty() && marker.Alleles.size() == 2;
+    }));
 
     struct Case
     {
@@ -141,12 +152,46 @@ TEST(Formats, PanelsAndBinsArePutTogether)
         ASSERT_THAT(reading.Complaints, testing::Not(IsEmpty())) << problem;
         EXPECT_THAT(reading.Complaints[0].Text(), HasSubstr(problem));
     }
-    const PanelReading cut = Read({panels, Bins("S", "P1").substr(0, 131)});
-    ASSERT_THAT(cut.Markers, SizeIs(2));
-    EXPECT_THAT(cut.Markers[0].Flaws, testing::Not(IsEmpty()));
-    const PanelReading less = Read({panels.substr(0, panels.find("AMEL")), Bins("S", "P1")});
-    ASSERT_THAT(less.Markers, SizeIs(2));
-    EXPECT_THAT(less.Markers[1].Flaws[0].Text(), HasSubstr("no marker of this name"));
+}
+
+TEST(Formats, ACutOffPairIsToldInOneSentence)
+{
+    const std::string bins = Bins("S", "P1");
+    const std::string whole = panels + "TH01\tred\t90\t150\t-\t4\tnone\t8\n";
+    struct Case
+    {
+        std::string Panels;
+        std::string Bins;
+        const char* Text;
+    };
+    for (const auto& [first, second, text] : {
+             Case{panels, bins.substr(0, bins.find("9\t97") + 4),
+                  "file2, line 6: The file ends in"},
+             {panels.substr(0, panels.find("70")), bins, "file1, line 6: The file ends in"},
+             {whole, bins.substr(0, bins.find("Marker Name\tAMEL")),
+              "file2, line 6: The file ends here without bins of \"AMEL\", \"TH01\";"},
+             {whole, bins.substr(0, bins.find("\nX")),
+              "file2, line 7: The file ends here without bins of \"AMEL\", \"TH01\";"},
+             {panels.substr(0, panels.find("AMEL")), bins,
+              "file1, line 5: The file ends here without the markers \"AMEL\" of the bins;"},
+             {panels + panels.substr(panels.find("D3S1358")), bins,
+              "file1, line 9: The panel has a marker of this name further up"},
+             {panels, bins + "\nMarker Name\tD3S1358\n8\t93\t1\t1\n",
+              "file2, line 10: The marker \"D3S1358\" has other bins here"},
+         })
+    {
+        const PanelReading reading = Read({first, second});
+        std::set<std::string> texts;
+        for (const PanelComplaint& complaint : reading.Complaints)
+            texts.insert(complaint.Text());
+        for (const PanelMarker& marker : reading.Markers)
+        {
+            for (const PanelComplaint& flaw : marker.Flaws)
+                texts.insert(flaw.Text());
+        }
+        EXPECT_THAT(texts, Contains(StartsWith(text)));
+        EXPECT_THAT(texts, SizeIs(testing::Le(2)));
+    }
 }
 
 TEST(Formats, AKitFileGivesNominalLoci)
@@ -162,8 +207,8 @@ TEST(Formats, AKitFileGivesNominalLoci)
     EXPECT_EQ(d3.RepeatLength, 4);
     EXPECT_EQ(d3.RangeStart, 89.5);
     EXPECT_EQ(d3.RangeEnd, 107.5);
-    EXPECT_EQ(d3.Alleles[1].AlleleReal2, 100.6);
-    EXPECT_EQ(d3.Alleles[1].AlleleReal4, 9.3);
+    EXPECT_EQ(d3.Alleles[1].BinStart, 100.6);
+    EXPECT_EQ(d3.Alleles[1].Repeats, 9.3);
     EXPECT_TRUE(d3.IsNominal);
 }
 

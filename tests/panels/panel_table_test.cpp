@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace Tamrivo
 {
 
@@ -40,13 +42,22 @@ TEST(PanelTable, IsReadWhateverTheOrderAndTheFurtherColumns)
     EXPECT_EQ(marker.RangeEnd, 148.2);
     EXPECT_FALSE(marker.Offset);
     ASSERT_THAT(marker.Alleles, SizeIs(2));
-    EXPECT_EQ(marker.Alleles[1].AlleleText1, "15.2");
-    EXPECT_EQ(marker.Alleles[1].AlleleReal1, 124.93);
-    EXPECT_EQ(marker.Alleles[1].AlleleReal2, 124.43);
-    EXPECT_EQ(marker.Alleles[1].AlleleReal3, 125.43);
-    EXPECT_EQ(marker.Alleles[1].AlleleReal4, 15.2);
-    EXPECT_EQ(reading.Markers[1].Alleles[0].AlleleReal4, 0);
-    EXPECT_EQ(marker.Alleles[1].AlleleInt1, AlleleOrigin::Imported);
+    EXPECT_EQ(marker.Alleles[1].Name, "15.2");
+    EXPECT_EQ(marker.Alleles[1].Size, 124.93);
+    EXPECT_EQ(marker.Alleles[1].BinStart, 124.43);
+    EXPECT_EQ(marker.Alleles[1].BinEnd, 125.43);
+    EXPECT_EQ(marker.Alleles[1].Repeats, 15.2);
+    EXPECT_EQ(reading.Markers[1].Alleles[0].Repeats, 0);
+    EXPECT_EQ(marker.Alleles[1].Origin, AlleleOrigin::Imported);
+}
+
+TEST(PanelTable, ReadsTheNearestNumber)
+{
+    for (const char* text : {"0", "7", "94.05", "0.1", ".5", "5.", "0.57", "1234567890.12345",
+                             "999999999999999", "99.999999999999999", "-2.5", "1e3"})
+        EXPECT_EQ(CellNumber(text), std::strtod(text, nullptr)) << text;
+    for (const char* text : {"", ".", "1.2.3", "4,5", "NA", "1e999", "0x1"})
+        EXPECT_FALSE(CellNumber(text)) << text;
 }
 
 TEST(PanelTable, NamesThePlaceOfWhatCantBeRead)

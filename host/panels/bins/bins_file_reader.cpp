@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr std::size_t usualAlleles = 32;
-constexpr std::size_t fewestCells = 4;
+constexpr std::size_t lastCell = 3; ///< That a bin needs.
 
 /// A limit of a bin from the allele's size and the distance to it, without the noise of binary
 /// fractions: 93.47 - 0.5 is 92.97.
@@ -35,8 +35,11 @@ public:
     {
         while (m_read.Complaints.size() < MaxPanelComplaints && m_lines.Next())
             ReadLine();
+        m_read.LastLine = m_lines.Number();
         if (!m_lines.Problem().empty())
             Complain({}, std::string(m_lines.Problem()));
+        else if (m_shortLine == m_read.LastLine && m_shortLine > 0)
+            Complain({}, EndsInLine);
         else if (m_read.Markers.empty() && m_read.Complaints.empty())
             Complain({}, "The bins file has no bins; it may have been cut off");
         return std::move(m_read);
@@ -86,31 +89,33 @@ private:
             return Complain({}, "A bin stands in front of the line \"Marker Name\"; expected the "
                                 "name of its marker first");
         MarkerBins& marker = m_read.Markers.back();
-        AlleleFields& allele = marker.Alleles.emplace_back();
-        allele.AlleleText1 = BinsCell(m_lines.Cell(0));
-        if (!IsPrintableText(allele.AlleleText1))
+        PanelAllele& allele = marker.Alleles.emplace_back();
+        allele.Name = BinsCell(m_lines.Cell(0));
+        if (!IsPrintableText(allele.Name))
             marker.Flaws.push_back({m_read.File, m_lines.Number(), "1",
-                                    QuotedCell(allele.AlleleText1) + " has a control character"});
-        if (m_lines.Cells().size() < fewestCells)
-            return marker.Flaws.push_back(
-                {m_read.File,
-                 m_lines.Number(),
-                 {},
-                 "The line of the allele " + QuotedCell(allele.AlleleText1) +
-                     " ends before its size and its limits; the file may have been cut off here"});
-        allele.AlleleReal1 = Number(marker, 1, "a size");
-        allele.AlleleReal2 =
-            Limit(allele.AlleleReal1, -Number(marker, 2, "the distance to the bin's left limit"));
-        allele.AlleleReal3 =
-            Limit(allele.AlleleReal1, Number(marker, 3, "the distance to the bin's right limit"));
-        allele.AlleleReal4 = CellNumber(allele.AlleleText1).value_or(0);
-        allele.AlleleInt1 = AlleleOrigin::Imported;
+                                    QuotedCell(allele.Name) + " has a control character"});
+        if (BinsCell(m_lines.Cell(lastCell)).empty())
+        {
+            m_shortLine = m_lines.Number();
+            return marker.Flaws.push_back({m_read.File,
+                                           m_shortLine,
+                                           {},
+                                           "The line of the allele " + QuotedCell(allele.Name) +
+                                               " ends before its size and its limits"});
+        }
+        allele.Size = Number(marker, 1, "a size");
+        allele.BinStart =
+            Limit(allele.Size, -Number(marker, 2, "the distance to the bin's left limit"));
+        allele.BinEnd =
+            Limit(allele.Size, Number(marker, 3, "the distance to the bin's right limit"));
+        allele.Repeats = CellNumber(allele.Name).value_or(0);
         // Another word there is the colour of the bin.
-        allele.AlleleInt2 = EqualNoCase(BinsCell(m_lines.Cell(4)), "virtual") ? 1 : 0;
+        allele.IsVirtual = EqualNoCase(BinsCell(m_lines.Cell(4)), "virtual");
     }
 
     TableLines m_lines;
     std::string m_panel;
+    std::size_t m_shortLine = 0; ///< The last line that ends too early; 0: none.
     BinsFile m_read;
 };
 

@@ -47,6 +47,18 @@ std::string_view BinsCell(std::string_view cell)
     return cell;
 }
 
+std::string_view TakeName(std::string_view& list)
+{
+    std::string_view name;
+    while (name.empty() && !list.empty())
+    {
+        const std::size_t comma = std::min(list.find(','), list.size());
+        name = BinsCell(list.substr(0, comma));
+        list.remove_prefix(std::min(comma + 1, list.size()));
+    }
+    return name;
+}
+
 BinsLine KindOf(std::string_view firstCell)
 {
     const std::string_view cell = BinsCell(firstCell);

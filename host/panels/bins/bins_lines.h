@@ -34,4 +34,12 @@ bool IsBins(std::string_view head);
 /// The cell without blanks and double quotes around it.
 std::string_view BinsCell(std::string_view cell);
 
+/// Takes the first name off a list with commas between names; one may stand at its end. Nothing
+/// once the list is empty.
+std::string_view TakeName(std::string_view& list);
+
+/// The complaint about a file whose last line ends too early.
+inline constexpr const char* EndsInLine =
+    "The file ends in the middle of this line: it has been cut off. Get the whole file";
+
 } // namespace Tamrivo

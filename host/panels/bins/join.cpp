@@ -1,12 +1,13 @@
 #include "core/text.h"
 #include "host/loci/keys.h"
+#include "host/panels/bins/ladder.h"
 #include "host/panels/bins/panels_bins.h"
-#include "host/panels/cells.h"
 #include "host/panels/import_plan.h"
 
 #include <algorithm>
 #include <map>
 #include <set>
+#include <unordered_map>
 
 namespace Tamrivo
 {
@@ -14,10 +15,39 @@ namespace Tamrivo
 namespace
 {
 
-std::string KeyOfAllele(const std::string& name)
+/// "FGA, TH01"; "none" for no names.
+template <class Items, class Name = std::identity>
+std::string Listed(const Items& items, Name name = {})
 {
-    const auto number = CellNumber(name);
-    return number ? NumberCell(*number) : LookupKey(name);
+    std::string list;
+    for (const auto& item : items)
+        list += (list.empty() ? "" : ", ") + std::invoke(name, item);
+    return list.empty() ? "none" : list;
+}
+
+/// "FGA, TH01 and 3 more"
+std::string SomeOf(const std::vector<const std::string*>& names)
+{
+    constexpr std::size_t most = 5;
+    std::string list;
+    for (const std::string* name : std::span(names).first(std::min(names.size(), most)))
+        list += (list.empty() ? "" : ", ") + QuotedCell(*name);
+    return names.size() > most ? list + " and " + std::to_string(names.size() - most) + " more"
+                               : list;
+}
+
+/// What a file lacks that others need.
+PanelComplaint Gap(const std::string& file, std::size_t line, std::string problem)
+{
+    return {file, line, {}, std::move(problem), false, 0, true};
+}
+
+/// Whether the marker's panel is another than that of the one before; those of a panel stand
+/// together.
+template <class Marker>
+bool BeginsPanel(const Marker& marker, const std::vector<Marker>& markers)
+{
+    return &marker == &markers.front() || marker.Panel != (&marker - 1)->Panel;
 }
 
 class Joiner
@@ -36,35 +66,49 @@ public:
         for (PanelsFile& file : m_panelsFiles)
         {
             std::ranges::move(file.Complaints, std::back_inserter(m_reading.Complaints));
-            for (const PanelsMarker& marker : file.Markers)
-                m_panelNames.try_emplace(LookupKey(marker.Marker.Panel), marker.Marker.Panel);
+            for (const PanelMarker& marker : file.Markers)
+            {
+                if (!BeginsPanel(marker, file.Markers))
+                    continue;
+                const std::string key = LookupKey(marker.Panel);
+                m_panelsRead.try_emplace(key, PanelOfFile{marker.Panel, &file});
+            }
         }
         for (BinsFile& file : m_binsFiles)
             AddBins(file);
-        if (!m_binSet.empty() && !m_isBinSetKnown)
-            Complain("",
-                     "There is no set of bins \"" + m_binSet + "\", but these: " + BinSetNames());
+        const bool isKnown = std::ranges::any_of(m_reading.BinSets, [this](const auto& name) {
+            return EqualNoCase(m_binSet, Trim(name));
+        });
+        if (!m_binSet.empty() && !isKnown)
+            Complain("", "There is no set of bins \"" + m_binSet +
+                             "\", but these: " + Listed(m_reading.BinSets));
         if (m_reading.Complaints.empty())
             CheckPairs();
         if (m_reading.Complaints.empty())
         {
             for (PanelsFile& file : m_panelsFiles)
-            {
-                for (PanelsMarker& marker : file.Markers)
-                    AddMarker(marker);
-            }
+                AddMarkers(file);
+            TellOfMissingBins();
             AddBinsWithoutMarker();
         }
         return std::move(m_reading);
     }
 
 private:
+    struct PanelOfFile
+    {
+        std::string Name;
+        const PanelsFile* File;
+    };
+
     struct BinsOfPanel
     {
         std::string Name;
         std::set<std::string> BinSets;
-        std::map<std::string, MarkerBins*> Markers; ///< By key.
-        std::string File;
+        bool IsChosen = false; ///< The set of the choice is among them.
+        std::unordered_map<std::string, MarkerBins*> Markers; ///< By key; null once taken.
+        const BinsFile* File = nullptr;
+        std::vector<std::size_t> Lacking; ///< Markers of the reading that aren't among them.
     };
 
     void Complain(const std::string& file, std::string problem)
@@ -77,40 +121,41 @@ private:
         std::ranges::move(file.Complaints, std::back_inserter(m_reading.Complaints));
         if (std::ranges::find(m_reading.BinSets, file.BinSet) == m_reading.BinSets.end())
             m_reading.BinSets.push_back(file.BinSet);
-        const bool isWanted = m_binSet.empty() || EqualNoCase(m_binSet, Trim(file.BinSet));
-        m_isBinSetKnown = m_isBinSetKnown || isWanted;
+        BinsOfPanel* bins = nullptr;
         for (MarkerBins& marker : file.Markers)
         {
-            m_binsPanelNames.try_emplace(LookupKey(marker.Panel), marker.Panel);
-            if (!isWanted)
-                continue;
-            BinsOfPanel& bins = m_bins[LookupKey(marker.Panel)];
-            bins.Name = marker.Panel;
-            bins.File = file.File;
-            bins.BinSets.insert(file.BinSet);
-            if (bins.BinSets.size() == 1 &&
-                !bins.Markers.emplace(LookupKey(marker.Marker), &marker).second)
-                marker.Flaws.push_back({file.File,
-                                        marker.Line,
-                                        {},
-                                        "The marker " + marker.Marker + " has bins further up"});
+            if (BeginsPanel(marker, file.Markers))
+                bins = BinsToFill(file, marker.Panel);
+            if (bins != nullptr)
+                AddBinsOf(marker, *bins, file.File);
         }
     }
 
-    std::string BinSetNames() const
+    /// Where the panel's bins go: those of the chosen set, or of the only one. Null for others.
+    BinsOfPanel* BinsToFill(const BinsFile& file, const std::string& panel)
     {
-        std::string names;
-        for (const std::string& name : m_reading.BinSets)
-            names += (names.empty() ? "" : ", ") + name;
-        return names;
+        BinsOfPanel& bins = m_bins[LookupKey(panel)];
+        bins.Name = panel;
+        bins.BinSets.insert(file.BinSet);
+        const bool isChosen = EqualNoCase(m_binSet, Trim(file.BinSet));
+        if (isChosen && !bins.IsChosen)
+            bins.Markers.clear();
+        bins.IsChosen = bins.IsChosen || isChosen;
+        if (!isChosen && (bins.IsChosen || bins.BinSets.size() > 1))
+            return nullptr;
+        bins.File = &file;
+        return &bins;
     }
 
-    static std::string Listed(const std::map<std::string, std::string>& names)
+    static void AddBinsOf(MarkerBins& marker, BinsOfPanel& bins, const std::string& file)
     {
-        std::string list;
-        for (const auto& [key, name] : names)
-            list += (list.empty() ? "" : ", ") + name;
-        return list.empty() ? "none" : list;
+        const auto [first, isNew] = bins.Markers.emplace(LookupKey(marker.Marker), &marker);
+        if (!isNew)
+            first->second->Flaws.push_back(
+                {file,
+                 marker.Line,
+                 {},
+                 "The marker " + QuotedCell(marker.Marker) + " has other bins here"});
     }
 
     bool IsWanted(const std::string& panel) const
@@ -129,80 +174,65 @@ private:
             return Complain(m_panelsFiles.front().File,
                             "This is a panels file; give the bins file that belongs to it as well");
         bool isAny = false;
-        for (const auto& [key, name] : m_panelNames)
+        for (const auto& [key, panel] : m_panelsRead)
         {
             const auto bins = m_bins.find(key);
-            isAny = isAny || m_binsPanelNames.contains(key);
-            if (bins != m_bins.end() && bins->second.BinSets.size() > 1 && IsWanted(name))
-            {
-                std::string sets;
-                for (const std::string& set : bins->second.BinSets)
-                    sets += (sets.empty() ? "" : ", ") + set;
-                Complain("", "The panel " + name + " has several sets of bins: " + sets +
+            if (bins == m_bins.end())
+                continue;
+            isAny = true;
+            if (bins->second.BinSets.size() > 1 && !bins->second.IsChosen && IsWanted(panel.Name))
+                Complain("", "The panel " + panel.Name +
+                                 " has several sets of bins: " + Listed(bins->second.BinSets) +
                                  ". Choose one by its name (--bins NAME)");
-            }
         }
+        const auto nameOf = [](const auto& panel) { return panel.second.Name; };
         if (!isAny)
-            Complain("", "The files don't belong together: the panels are " + Listed(m_panelNames) +
-                             ", and the bins are of " + Listed(m_binsPanelNames));
+            Complain("", "The files don't belong together: the panels are " +
+                             Listed(m_panelsRead, nameOf) + ", and the bins are of " +
+                             Listed(m_bins, nameOf));
     }
 
-    void AddMarker(PanelsMarker& read)
+    void AddMarkers(PanelsFile& file)
     {
-        PanelMarker& marker = m_reading.Markers.emplace_back(std::move(read.Marker));
+        const std::size_t first = m_reading.Markers.size();
+        MoveBehind(std::move(file.Markers), m_reading.Markers);
+        for (std::size_t at = first; at < m_reading.Markers.size(); ++at)
+            JoinMarker(at, file.Ladders[at - first]);
+    }
+
+    void JoinMarker(std::size_t at, std::string_view ladder)
+    {
+        PanelMarker& marker = m_reading.Markers[at];
         const auto bins = m_bins.find(LookupKey(marker.Panel));
-        MarkerBins* found = nullptr;
-        if (bins != m_bins.end())
-        {
-            const auto place = bins->second.Markers.find(LookupKey(marker.Marker));
-            found = place == bins->second.Markers.end() ? nullptr : place->second;
-        }
-        if (found == nullptr)
-        {
-            marker.Flaws.push_back(
-                {marker.File, marker.Line, {}, "The bins file has no bins of this marker"});
-            return;
-        }
-        m_used.insert(found);
-        marker.Alleles = std::move(found->Alleles);
-        std::ranges::move(found->Flaws, std::back_inserter(marker.Flaws));
-        RemarkOnLadder(marker, read.Ladder);
+        if (bins == m_bins.end())
+            return marker.Flaws.push_back(
+                Gap(marker.File, 0, "The files have no bins of the panel " + marker.Panel));
+        const auto found = bins->second.Markers.find(LookupKey(marker.Marker));
+        if (found == bins->second.Markers.end())
+            return bins->second.Lacking.push_back(at);
+        MarkerBins* const read = std::exchange(found->second, nullptr);
+        if (read == nullptr)
+            return marker.Flaws.push_back(
+                {marker.File, marker.Line, {}, "The panel has a marker of this name further up"});
+        if (read->Alleles.empty())
+            return bins->second.Lacking.push_back(at);
+        marker.Alleles = std::move(read->Alleles);
+        MoveBehind(std::move(read->Flaws), marker.Flaws);
+        RemarkOnLadder(marker, ladder, m_reading.Remarks);
     }
 
-    /// Whether the ladder is the alleles that aren't virtual, name by name, as a rule.
-    static bool IsLadderOf(const PanelMarker& marker, const std::vector<std::string>& ladder)
+    void TellOfMissingBins()
     {
-        auto name = ladder.begin();
-        for (const AlleleFields& allele : marker.Alleles)
+        for (const auto& [key, bins] : m_bins)
         {
-            if (allele.AlleleInt2 == 0 && (name == ladder.end() || *name++ != allele.AlleleText1))
-                return false;
-        }
-        return name == ladder.end();
-    }
-
-    void RemarkOnLadder(const PanelMarker& marker, const std::vector<std::string>& ladder)
-    {
-        if (IsLadderOf(marker, ladder))
-            return;
-        const std::string place = marker.File + ", line " + std::to_string(marker.Line) + ": " +
-                                  marker.Marker + ", allele ";
-        std::set<std::string> names;
-        for (const AlleleFields& allele : marker.Alleles)
-            names.insert(KeyOfAllele(allele.AlleleText1));
-        std::set<std::string> ladderNames;
-        for (const std::string& name : ladder)
-        {
-            ladderNames.insert(KeyOfAllele(name));
-            if (!names.contains(KeyOfAllele(name)))
-                m_reading.Remarks.push_back({RemarkKind::LadderWithoutBin, place + name});
-        }
-        for (const AlleleFields& allele : marker.Alleles)
-        {
-            if (allele.AlleleInt2 == 0 && !ladder.empty() &&
-                !ladderNames.contains(KeyOfAllele(allele.AlleleText1)))
-                m_reading.Remarks.push_back(
-                    {RemarkKind::BinOutsideLadder, place + allele.AlleleText1});
+            std::vector<const std::string*> names;
+            for (const std::size_t at : bins.Lacking)
+                names.push_back(&m_reading.Markers[at].Marker);
+            const PanelComplaint flaw = Gap(bins.File->File, bins.File->LastLine,
+                                            "The file ends here without bins of " + SomeOf(names) +
+                                                "; it may have been cut off. Get the whole file");
+            for (const std::size_t at : bins.Lacking)
+                m_reading.Markers[at].Flaws.push_back(flaw);
         }
     }
 
@@ -211,22 +241,31 @@ private:
     {
         for (const auto& [key, bins] : m_bins)
         {
-            if (!m_panelNames.contains(key))
+            const auto panel = m_panelsRead.find(key);
+            if (panel == m_panelsRead.end())
                 continue;
+            std::vector<const MarkerBins*> left;
             for (const auto& [name, read] : bins.Markers)
             {
-                if (m_used.contains(read))
-                    continue;
+                if (read != nullptr)
+                    left.push_back(read);
+            }
+            std::ranges::sort(left, {}, &MarkerBins::Line);
+            std::vector<const std::string*> names;
+            for (const MarkerBins* read : left)
+                names.push_back(&read->Marker);
+            const PanelComplaint flaw =
+                Gap(panel->second.File->File, panel->second.File->LastLine,
+                    "The file ends here without the markers " + SomeOf(names) +
+                        " of the bins; it may have been cut off. Get the whole file");
+            for (const MarkerBins* read : left)
+            {
                 PanelMarker& marker = m_reading.Markers.emplace_back();
-                marker.File = bins.File;
+                marker.File = bins.File->File;
                 marker.Line = read->Line;
                 marker.Panel = bins.Name;
                 marker.Marker = read->Marker;
-                marker.Flaws.push_back({bins.File,
-                                        read->Line,
-                                        {},
-                                        "The panels file has no marker of this name; it may have "
-                                        "been cut off"});
+                marker.Flaws.push_back(flaw);
             }
         }
     }
@@ -235,11 +274,8 @@ private:
     std::span<BinsFile> m_binsFiles;
     std::string m_binSet;
     const std::vector<std::string>& m_panels;
-    bool m_isBinSetKnown = false;
-    std::map<std::string, std::string> m_panelNames;     ///< By key.
-    std::map<std::string, std::string> m_binsPanelNames; ///< By key.
-    std::map<std::string, BinsOfPanel> m_bins;           ///< By the panel's key.
-    std::set<const MarkerBins*> m_used;
+    std::map<std::string, PanelOfFile> m_panelsRead; ///< By key.
+    std::map<std::string, BinsOfPanel> m_bins;       ///< By the panel's key.
     PanelReading m_reading;
 };
 

@@ -14,21 +14,6 @@ namespace
 constexpr std::size_t cellsBeforeLadder = 7;
 constexpr std::size_t cellsOfMarker = 6;
 
-/// Names between commas; one may stand at the end.
-std::vector<std::string> SplitNames(std::string_view list)
-{
-    std::vector<std::string> names;
-    for (std::size_t start = 0; start <= list.size();)
-    {
-        const std::size_t comma = std::min(list.find(',', start), list.size());
-        const std::string_view name = BinsCell(list.substr(start, comma - start));
-        if (!name.empty())
-            names.emplace_back(name);
-        start = comma + 1;
-    }
-    return names;
-}
-
 class PanelsFileReader
 {
 public:
@@ -47,8 +32,11 @@ public:
             else if (kind == BinsLine::Content && !BinsCell(m_lines.Cell(0)).empty())
                 ReadMarker();
         }
+        m_read.LastLine = m_lines.Number();
         if (!m_lines.Problem().empty())
             Complain(std::string(m_lines.Problem()));
+        else if (m_shortLine == m_read.LastLine && m_shortLine > 0)
+            Complain(EndsInLine);
         else if (m_read.Markers.empty() && m_read.Complaints.empty())
             Complain("The panels file has no markers; it may have been cut off");
         return std::move(m_read);
@@ -81,8 +69,8 @@ private:
         if (m_panel.empty())
             return Complain("A marker stands in front of the line \"Panel\"; expected the name of "
                             "its panel first");
-        PanelsMarker& read = m_read.Markers.emplace_back();
-        PanelMarker& marker = read.Marker;
+        PanelMarker& marker = m_read.Markers.emplace_back();
+        std::string& ladder = m_read.Ladders.emplace_back();
         marker.File = m_read.File;
         marker.Line = m_lines.Number();
         marker.Panel = m_panel;
@@ -90,12 +78,13 @@ private:
         if (!IsPrintableText(marker.Marker) || !IsPrintableText(marker.Panel))
             AddFlaw(marker, 0, "names without control characters");
         if (cells.size() < cellsOfMarker)
-            return marker.Flaws.push_back(
-                {m_read.File,
-                 m_lines.Number(),
-                 {},
-                 "The line ends before the length of the repeat unit; the file may have been cut "
-                 "off here"});
+        {
+            m_shortLine = m_lines.Number();
+            return marker.Flaws.push_back({m_read.File,
+                                           m_shortLine,
+                                           {},
+                                           "The line ends before the length of the repeat unit"});
+        }
         marker.Color = BinsCell(m_lines.Cell(1));
         if (marker.Color.empty())
             AddFlaw(marker, 1, "the colour of a dye");
@@ -112,11 +101,12 @@ private:
             return !BinsCell(cell).empty();
         });
         if (static_cast<std::size_t>(cells.rend() - last) > cellsBeforeLadder)
-            read.Ladder = SplitNames(*last);
+            ladder = *last;
     }
 
     TableLines m_lines;
     std::string m_panel;
+    std::size_t m_shortLine = 0; ///< The last line that ends too early; 0: none.
     PanelsFile m_read;
 };
 

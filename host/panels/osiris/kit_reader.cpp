@@ -215,15 +215,14 @@ private:
 
     void ReadAllele(PanelMarker& marker, const pugi::xml_node& node)
     {
-        AlleleFields& allele = marker.Alleles.emplace_back();
-        allele.AlleleText1 = ValueOf(node, "Name");
-        if (allele.AlleleText1.empty() || !IsPrintableText(allele.AlleleText1))
+        PanelAllele& allele = marker.Alleles.emplace_back();
+        allele.Name = ValueOf(node, "Name");
+        if (allele.Name.empty() || !IsPrintableText(allele.Name))
             AddFlaw(marker, node, "Name", "the name of an allele");
-        allele.AlleleReal1 = Number(marker, node, "BP", "a size in nt");
-        allele.AlleleReal2 = allele.AlleleReal1 - m_interval;
-        allele.AlleleReal3 = allele.AlleleReal1 + m_interval;
-        allele.AlleleReal4 = CellNumber(allele.AlleleText1).value_or(0);
-        allele.AlleleInt1 = AlleleOrigin::Imported;
+        allele.Size = Number(marker, node, "BP", "a size in nt");
+        allele.BinStart = allele.Size - m_interval;
+        allele.BinEnd = allele.Size + m_interval;
+        allele.Repeats = CellNumber(allele.Name).value_or(0);
     }
 
     void ReadRange(PanelMarker& marker, const pugi::xml_node& locus)

@@ -227,22 +227,22 @@ private:
                                 [&](PanelColumn column) { return m_row.IsMissing(column); }))
             return;
 
-        AlleleFields& allele = marker.Alleles.emplace_back();
-        allele.AlleleText1 = m_row.AlleleName(marker);
-        if (TrimmedCell(allele.AlleleText1).empty())
+        PanelAllele& allele = marker.Alleles.emplace_back();
+        allele.Name = m_row.AlleleName(marker);
+        if (TrimmedCell(allele.Name).empty())
             m_row.Expect(marker, PanelColumn::Allele, "the name of an allele");
 
-        allele.AlleleReal1 = m_row.Number(marker, PanelColumn::Size, "a size");
-        allele.AlleleReal2 = m_row.Number(marker, PanelColumn::SizeMin, "the start of a bin");
-        allele.AlleleReal3 = m_row.Number(marker, PanelColumn::SizeMax, "the end of a bin");
-        allele.AlleleInt2 = m_row.OneOf(marker, PanelColumn::Virtual, 0, 1,
-                                        "1 for an allele outside the ladder, or 0");
-        allele.AlleleInt1 = m_row.OneOf(marker, PanelColumn::AlleleInt1, AlleleOrigin::Imported, 2,
-                                        "0 for generated, 1 for edited or 2 for imported");
-        allele.AlleleReal4 = CellNumber(allele.AlleleText1).value_or(0);
-        if (!m_row.IsMissing(PanelColumn::AlleleReal4))
-            allele.AlleleReal4 =
-                m_row.Number(marker, PanelColumn::AlleleReal4, "the number of repeats");
+        allele.Size = m_row.Number(marker, PanelColumn::Size, "a size");
+        allele.BinStart = m_row.Number(marker, PanelColumn::SizeMin, "the start of a bin");
+        allele.BinEnd = m_row.Number(marker, PanelColumn::SizeMax, "the end of a bin");
+        allele.IsVirtual = m_row.OneOf(marker, PanelColumn::Virtual, 0, 1,
+                                       "1 for an allele outside the ladder, or 0") == 1;
+        allele.Origin = m_row.OneOf(marker, PanelColumn::AlleleInt1, AlleleOrigin::Imported, 2,
+                                    "0 for generated, 1 for edited or 2 for imported");
+        allele.Repeats =
+            m_row.IsMissing(PanelColumn::AlleleReal4)
+                ? CellNumber(allele.Name).value_or(0)
+                : m_row.Number(marker, PanelColumn::AlleleReal4, "the number of repeats");
     }
 
     const std::vector<std::string>& m_panels;

@@ -3,7 +3,6 @@
 #include "core/error.h"
 #include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
-#include "host/checks/store_check.h"
 
 #include <QElapsedTimer>
 
@@ -20,7 +19,7 @@ FindingWatch::FindingWatch(QObject* parent) : QObject(parent)
 
 void FindingWatch::Check(Store& store)
 {
-    m_run.reset();
+    GiveUp();
     m_store = &store;
     m_failure.clear();
     m_timer.start();
@@ -29,12 +28,18 @@ void FindingWatch::Check(Store& store)
 
 void FindingWatch::Stop()
 {
-    m_timer.stop();
-    m_run.reset();
-    m_store = nullptr;
+    GiveUp();
     m_failure.clear();
     m_found.clear();
     emit Changed();
+}
+
+void FindingWatch::GiveUp()
+{
+    m_timer.stop();
+    m_reading.reset();
+    m_run.reset();
+    m_store = nullptr;
 }
 
 int FindingWatch::Percent() const
@@ -52,32 +57,39 @@ void FindingWatch::GoOn()
         return;
     try
     {
-        if (!m_run)
-            m_run = std::make_unique<CheckRun>(CheckSourceOf(*m_store), AllCheckRules());
         QElapsedTimer time;
         time.start();
         while (time.elapsed() < slice)
         {
-            if (!m_run->Step())
+            if (!Step())
                 return Finish();
         }
     }
     catch (const Failure& failure)
     {
-        m_timer.stop();
-        m_run.reset();
-        m_store = nullptr;
+        GiveUp();
         m_failure = ToQString(failure.Record().Description);
     }
     emit Advanced();
 }
 
+bool FindingWatch::Step()
+{
+    if (m_run)
+        return m_run->Step();
+    if (!m_reading)
+        m_reading = std::make_unique<CheckReading>(*m_store);
+    if (m_reading->Step())
+        return true;
+    m_run = std::make_unique<CheckRun>(m_reading->Source(), AllCheckRules());
+    m_reading.reset();
+    return m_run->Total() > 0;
+}
+
 void FindingWatch::Finish()
 {
-    m_timer.stop();
-    m_store = nullptr;
     m_found = m_run->Found();
-    m_run.reset();
+    GiveUp();
     emit Changed();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/checks/check_run.h"
+#include "host/checks/store_check.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,8 +11,6 @@
 
 namespace Tamrivo
 {
-
-class Store;
 
 /// A check of all loci of a store that goes on between events, a few milliseconds at a time. While
 /// it goes on, what the one before has found stays.
@@ -42,9 +41,13 @@ signals:
 
 private:
     void GoOn();
+    /// Reads or checks some more; false: all is checked.
+    bool Step();
     void Finish();
+    void GiveUp();
 
-    Store* m_store = nullptr; ///< Being checked.
+    Store* m_store = nullptr;                ///< Being checked.
+    std::unique_ptr<CheckReading> m_reading; ///< Goes before the run.
     std::unique_ptr<CheckRun> m_run;
     std::vector<Finding> m_found;
     QString m_failure;

@@ -7,8 +7,10 @@
 #include "host/store/locus_table.h"
 #include "host/store/parameter_store.h"
 #include "host/store/store.h"
+#include "host/store/tag_order.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <unordered_map>
@@ -21,54 +23,92 @@ namespace Tamrivo
 namespace
 {
 
-using Loci = std::vector<std::shared_ptr<Locus>>;
+using Loci = std::vector<std::shared_ptr<StoredLocus>>;
 
 [[noreturn]] void RaiseNotFound(const std::string& what)
 {
     throw Failure(StoreError::NotFound, "Check", what);
 }
 
-class SourceBuilder
+} // namespace
+
+class CheckReading::Builder
 {
 public:
-    explicit SourceBuilder(Store& store)
-        : m_store(store),
-          m_parameters(store),
-          m_storedIDs(ReadTagIDs(store.SharedDatabase())),
-          m_dyes(store.Dyes())
+    Builder(Store& store, CheckScope scope)
+        : m_store(store), m_scope(std::move(scope)), m_parameters(store), m_dyes(store.Dyes())
+    {}
+
+    bool Step()
     {
-        const auto current = CurrentLoci(store.Manager(), "Name");
-        for (const auto& member : current->Members())
-        {
-            auto locus = As<Locus>(member);
-            m_placeOfID.emplace(locus->LocusTagID(), m_loci.size());
-            m_placeOfTag.emplace(LookupKey(locus->LocusTag()), m_loci.size());
-            const std::string panel = Trim(locus->PrimerSet);
-            if (!panel.empty())
-            {
-                auto& group = m_panels[FoldCase(panel)];
-                group.Name = "panel " + panel;
-                group.Loci.push_back(m_loci.size());
-            }
-            m_loci.push_back(std::move(locus));
-        }
+        if (!m_isRead)
+            ReadLoci();
+        else if (m_placed < m_loci.size())
+            PlaceLoci();
+        else if (m_ofParameters.size() < m_names.size())
+            m_ofParameters.push_back(GroupOf(m_names[m_ofParameters.size()]));
+        else
+            return false;
+        return true;
     }
 
-    CheckSource Build(const CheckScope& scope)
+    CheckSource Source()
     {
-        if (scope.Parameter)
-            return SourceOf({GroupOf(*scope.Parameter)});
-        if (scope.Panel)
-            return SourceOf({PanelNamed(*scope.Panel)});
-        std::vector<CheckSource::Group> groups = AllGroups();
-        if (!scope.Tags.empty())
-            return SourceOfTags(scope.Tags, std::move(groups));
-        CheckSource source = SourceOfLoci(m_loci);
+        if (m_scope.Parameter)
+            return SourceOf(std::move(m_ofParameters));
+        if (m_scope.Panel)
+            return SourceOf({PanelNamed(*m_scope.Panel)});
+        std::vector<CheckSource::Group> groups;
+        for (auto& [key, group] : m_panels)
+            groups.push_back(std::move(group));
+        std::ranges::move(m_ofParameters, std::back_inserter(groups));
+        if (!m_scope.Tags.empty())
+            return SourceOfTags(m_scope.Tags, std::move(groups));
+        CheckSource source = SourceOfLoci(std::move(m_loci));
         source.Groups = std::move(groups);
         return source;
     }
 
 private:
+    void ReadLoci()
+    {
+        const std::int32_t last = m_loci.empty() ? 0 : m_loci.back()->LocusID();
+        auto some = m_store.CurrentLociAfter(last, LociAtOnce);
+        m_isRead = some.size() < LociAtOnce;
+        std::ranges::move(some, std::back_inserter(m_loci));
+        if (!m_isRead)
+            return;
+        SortByTag(m_loci);
+        if (m_scope.Parameter)
+            m_names = {*m_scope.Parameter};
+        else if (!m_scope.Panel)
+            m_names = m_parameters.Names();
+    }
+
+    void PlaceLoci()
+    {
+        const std::size_t end = std::min(m_loci.size(), m_placed + LociAtOnce);
+        for (; m_placed < end; ++m_placed)
+        {
+            const StoredLocus& locus = *m_loci[m_placed];
+            m_placeOfID.emplace(locus.LocusTagID(), m_placed);
+            const std::string panel = Trim(locus.PrimerSet);
+            if (panel.empty())
+                continue;
+            auto& group = m_panels[FoldCase(panel)];
+            group.Name = "panel " + panel;
+            group.Loci.push_back(m_placed);
+        }
+    }
+
+    /// Whether the store has a locus with the number, current or not.
+    bool IsStored(std::int32_t tagID)
+    {
+        if (!m_storedIDs)
+            m_storedIDs = ReadTagIDs(m_store.SharedDatabase());
+        return m_storedIDs->contains(tagID);
+    }
+
     CheckSource::Group GroupOf(const std::string& parameterName)
     {
         const auto parameter = m_parameters.Open(parameterName);
@@ -81,7 +121,7 @@ private:
                 const auto place = m_placeOfID.find(tagID);
                 if (place != m_placeOfID.end())
                     group.Loci.push_back(place->second);
-                else if (!m_storedIDs.contains(tagID))
+                else if (!IsStored(tagID))
                     group.MissingTagIDs.push_back(tagID);
             }
         }
@@ -97,24 +137,13 @@ private:
         return panel->second;
     }
 
-    std::vector<CheckSource::Group> AllGroups()
-    {
-        std::vector<CheckSource::Group> groups;
-        for (const auto& [key, group] : m_panels)
-            groups.push_back(group);
-        for (const std::string& name : m_parameters.Names())
-            groups.push_back(GroupOf(name));
-        return groups;
-    }
-
     CheckSource SourceOfLoci(Loci loci) const
     {
         CheckSource source;
         source.Count = loci.size();
         source.Locus = [loci = std::move(loci), dyes = m_dyes](std::size_t at) mutable {
             const std::size_t begin = at - at % LociAtOnce;
-            const auto* locus = dynamic_cast<const StoredLocus*>(loci[at].get());
-            if (locus && !locus->LoadedAlleles())
+            if (!loci[at]->LoadedAlleles())
                 LoadAlleles(LociWithoutAlleles(
                     std::span(std::as_const(loci))
                         .subspan(begin, std::min(LociAtOnce, loci.size() - begin))));
@@ -156,10 +185,13 @@ private:
         std::unordered_set<std::size_t> wanted;
         for (const std::string& tag : tags)
         {
-            const auto place = m_placeOfTag.find(LookupKey(tag));
-            if (place == m_placeOfTag.end())
+            const std::string key = LookupKey(tag);
+            const auto place = std::ranges::lower_bound(
+                m_loci, key, {},
+                [](const auto& locus) -> const std::string& { return locus->TagKey(); });
+            if (place == m_loci.end() || (*place)->TagKey() != key)
                 RaiseNotFound("There is no current locus \"" + tag + "\" in the store");
-            wanted.insert(place->second);
+            wanted.insert(static_cast<std::size_t>(place - m_loci.begin()));
         }
         const auto isWanted = [&wanted](std::size_t place) { return wanted.contains(place); };
         std::erase_if(groups, [&isWanted](const CheckSource::Group& group) {
@@ -174,21 +206,42 @@ private:
     }
 
     Store& m_store;
+    CheckScope m_scope;
     ParameterStore m_parameters;
-    std::unordered_set<std::int32_t> m_storedIDs;
     Dyes m_dyes;
-    Loci m_loci;
+    Loci m_loci; ///< By number, then by tag.
+    bool m_isRead = false;
+    std::size_t m_placed = 0;         ///< Of the loci.
+    std::vector<std::string> m_names; ///< Of the parameters that are looked at.
+    std::vector<CheckSource::Group> m_ofParameters;
+    std::optional<std::unordered_set<std::int32_t>> m_storedIDs;
     std::unordered_map<std::int32_t, std::size_t> m_placeOfID;
-    std::unordered_map<std::string, std::size_t> m_placeOfTag;
     std::map<std::string, CheckSource::Group> m_panels;
     std::vector<std::size_t> m_places; ///< Of the loci of the last `SourceOf`.
 };
 
-} // namespace
+CheckReading::CheckReading(Store& store, CheckScope scope)
+    : m_builder(std::make_unique<Builder>(store, std::move(scope)))
+{}
+
+CheckReading::~CheckReading() = default;
+
+bool CheckReading::Step()
+{
+    return m_builder->Step();
+}
+
+CheckSource CheckReading::Source()
+{
+    return m_builder->Source();
+}
 
 CheckSource CheckSourceOf(Store& store, const CheckScope& scope)
 {
-    return SourceBuilder(store).Build(scope);
+    CheckReading reading(store, scope);
+    while (reading.Step())
+    {}
+    return reading.Source();
 }
 
 CheckedLocus CheckedLocusOf(Locus& locus, const Dyes& dyes)

@@ -13,9 +13,11 @@ namespace
 {
 
 /// Reads the loci that meet a condition, in which `:Value` stands for the value.
+/// @param limit what follows the query's order
 template <class Value>
 std::vector<std::shared_ptr<StoredLocus>> ReadLoci(const std::shared_ptr<Database>& database,
-                                                   const std::string& condition, Value value)
+                                                   const std::string& condition, Value value,
+                                                   const std::string& limit = {})
 {
     return database->Run("The loci are not read", [&](soci::session& session) {
         std::vector<std::shared_ptr<StoredLocus>> loci;
@@ -24,7 +26,7 @@ std::vector<std::shared_ptr<StoredLocus>> ReadLoci(const std::shared_ptr<Databas
         BindInto(*database, statement, row);
         statement.exchange(soci::use(value));
         Prepare(statement, "SELECT " + ColumnNames(row) + " FROM Locus WHERE " + condition +
-                               " ORDER BY LocusID");
+                               " ORDER BY LocusID" + limit);
         for (statement.execute(); statement.fetch();)
         {
             database->Progress();
@@ -54,6 +56,13 @@ void RequireRevision(std::int32_t revision, const StoredLocus& locus,
 std::vector<std::shared_ptr<StoredLocus>> ReadCurrentLoci(const std::shared_ptr<Database>& database)
 {
     return ReadLoci(database, "IsCurrent = :Value", 1);
+}
+
+std::vector<std::shared_ptr<StoredLocus>> ReadCurrentLoci(const std::shared_ptr<Database>& database,
+                                                          std::int32_t after, std::size_t most)
+{
+    return ReadLoci(database, "IsCurrent = 1 AND LocusID > :Value", after,
+                    " LIMIT " + std::to_string(most));
 }
 
 std::shared_ptr<StoredLocus> ReadLocus(const std::shared_ptr<Database>& database,

@@ -5,6 +5,8 @@
 #include "host/store/locus_state.h"
 #include "host/store/stored_locus.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +28,12 @@ class Database;
 /// not loaded.
 std::vector<std::shared_ptr<StoredLocus>> ReadCurrentLoci(
     const std::shared_ptr<Database>& database);
+
+/// Some of them, for who reads all in portions: those with the next higher numbers.
+/// @param after the number of the last one that was read; 0 to begin with
+/// @param most how many; fewer are the last
+std::vector<std::shared_ptr<StoredLocus>> ReadCurrentLoci(const std::shared_ptr<Database>& database,
+                                                          std::int32_t after, std::size_t most);
 
 /// The locus with the tag, current or not, or none. The empty tag names no locus.
 std::shared_ptr<StoredLocus> ReadLocus(const std::shared_ptr<Database>& database,

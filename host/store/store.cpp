@@ -68,6 +68,12 @@ std::shared_ptr<Locus> Store::FindLocus(const std::string& tag)
     return ReadLocus(m_database, tag);
 }
 
+std::vector<std::shared_ptr<StoredLocus>> Store::CurrentLociAfter(std::int32_t number,
+                                                                  std::size_t most)
+{
+    return ReadCurrentLoci(m_database, number, most);
+}
+
 std::unordered_set<std::string> Store::TagKeys()
 {
     return ReadTagKeys(*m_database);

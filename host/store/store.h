@@ -18,6 +18,7 @@ namespace Tamrivo
 {
 
 class Database;
+class StoredLocus;
 struct HistoryRecord;
 
 /// The place where loci, projects and analysis parameters are kept: one SQLite file, or a
@@ -58,6 +59,10 @@ public:
     /// The stored locus with the tag, current or not, or none. Case and trailing blanks don't
     /// count; the empty tag names no locus.
     std::shared_ptr<Locus> FindLocus(const std::string& tag);
+    /// Some of the current loci, for who reads all of them in portions: those with the next higher
+    /// numbers behind one (0 to begin with), in their order. Fewer than `most` are the last.
+    std::vector<std::shared_ptr<StoredLocus>> CurrentLociAfter(std::int32_t number,
+                                                               std::size_t most);
     /// The tags of all stored loci, current or not, each as its `LookupKey`.
     std::unordered_set<std::string> TagKeys();
     /// Removes the locus with the tag and its alleles. Analysis parameters that use it keep its

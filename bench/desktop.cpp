@@ -43,7 +43,7 @@ public:
 
     std::unique_ptr<FormView> Show(STRLocusTagSelector& selector)
     {
-        auto view = std::make_unique<FormView>(selector, m_frontEnd.UserActions(), NewHostedView);
+        auto view = std::make_unique<FormView>(selector, m_frontEnd.UserActions(), HostedViews({}));
         view->resize(view->sizeHint());
         view->show();
         Paint();

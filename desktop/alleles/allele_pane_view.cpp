@@ -1,14 +1,14 @@
 #include "desktop/alleles/allele_pane_view.h"
 
 #include "contracts/locus.h"
-#include "controls/text_field.h"
 #include "controls/user.h"
-#include "core/numbers.h"
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/alleles/allele_table.h"
 #include "desktop/alleles/allele_table_model.h"
 #include "desktop/alleles/allele_tools.h"
+#include "desktop/alleles/bin_editing.h"
 #include "desktop/alleles/observed_comparison.h"
+#include "desktop/alleles/page_fields.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/clipboard_table.h"
 #include "desktop/common/icons.h"
@@ -28,29 +28,21 @@
 namespace Tamrivo
 {
 
-namespace
-{
-
-std::optional<double> NumberIn(const TextField& field)
-{
-    return IsNumeric(field.Text()) ? std::optional(ToDouble(field.Text())) : std::nullopt;
-}
-
-} // namespace
-
-AllelePaneView::AllelePaneView(User::AllelePaneControl& pane, QWidget& parent,
+AllelePaneView::AllelePaneView(LocusEditorForm& page, const Dyes& dyes, QWidget& parent,
                                const Actions& actions)
     : QWidget(&parent),
-      m_control(pane),
+      m_page(page),
+      m_control(page.ctlPaneAlleleList),
+      m_dyes(dyes),
       m_actions(actions),
-      m_pane(User::AllelesOf(pane)),
-      m_model(new AlleleTableModel(pane, actions, this)),
+      m_pane(User::AllelesOf(m_control)),
+      m_model(new AlleleTableModel(m_control, actions, this)),
       m_tools(new AlleleTools(this)),
       m_table(new AlleleTable(*m_model, this)),
       m_picture(new AllelePicture(this)),
-      m_observed(new ObservedComparison(pane, *m_picture, actions, this))
+      m_observed(new ObservedComparison(page, *m_picture, actions, this))
 {
-    m_table->setFocusPolicy(pane.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
+    m_table->setFocusPolicy(m_control.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
     setFocusProxy(m_table);
     LayOut();
     MakeActions();
@@ -114,6 +106,8 @@ void AllelePaneView::FollowPerson()
 {
     connect(m_picture, &AllelePicture::Chosen, this,
             [this](std::int32_t row) { m_table->SelectRow(row - 1); });
+    auto* editing = new BinEditing(*m_picture, m_control, m_actions, this);
+    connect(editing, &BinEditing::NameAsked, this, [this](std::int32_t row) { NameRow(row - 1); });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { MarkSelected(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -188,39 +182,26 @@ void AllelePaneView::ShowRows()
 
 void AllelePaneView::ShowPicture()
 {
-    m_picture->Show(m_pane.Rows(), Range());
+    m_shown = OnPage();
+    m_picture->SetDye(m_dyes, m_shown.DyeIndex);
+    m_picture->Show(m_pane.Rows(), m_shown.Range);
 }
 
-std::optional<LengthRange> AllelePaneView::Range() const
+AllelePaneView::Surroundings AllelePaneView::OnPage() const
 {
     const auto& locus = m_pane.ShownLocus();
     if (!locus)
-        return std::nullopt;
-    // The page edits the range in its fields, and the locus gets it later.
-    if (const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form()))
-    {
-        const auto from = NumberIn(page->txtFragStart);
-        const auto to = NumberIn(page->txtFragEnd);
-        if (from && to && *from <= *to)
-            return LengthRange{*from, *to};
-    }
-    return LengthRange{static_cast<double>(locus->FragStart), static_cast<double>(locus->FragEnd)};
+        return {};
+    const LocusFields fields = FieldsOn(m_page, *locus);
+    const LocusFields& range = fields.FragStart <= fields.FragEnd ? fields : *locus;
+    return {LengthRange{static_cast<double>(range.FragStart), static_cast<double>(range.FragEnd)},
+            fields.DyeIndex};
 }
 
-void AllelePaneView::FormChanged(const Control& control)
+void AllelePaneView::FollowPage()
 {
-    const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form());
-    if (page != nullptr && (&control == &page->txtFragStart || &control == &page->txtFragEnd))
+    if (OnPage() != m_shown)
         ShowPicture();
-}
-
-void AllelePaneView::ChooseAllele(const std::string& name)
-{
-    const AlleleRows& rows = m_pane.Rows();
-    const auto row =
-        std::ranges::find(rows, name, [](const auto& allele) { return allele->AlleleText1; });
-    if (row != rows.end())
-        m_table->SelectRow(static_cast<int>(row - rows.begin()));
 }
 
 void AllelePaneView::ShowState()
@@ -242,7 +223,8 @@ void AllelePaneView::LeaveUndoToPage()
 void AllelePaneView::GoTo(std::int32_t row)
 {
     m_table->setFocus(Qt::OtherFocusReason);
-    m_table->SelectRow(row - 1);
+    if (row > 0)
+        m_table->SelectRow(row - 1);
 }
 
 void AllelePaneView::MarkSelected()
@@ -262,7 +244,11 @@ void AllelePaneView::AddRow()
     std::optional<std::int32_t> after;
     if (!m_table->SelectedRows().empty() && m_table->currentIndex().isValid())
         after = m_table->currentIndex().row() + 1;
-    const int row = User::AddAllele(m_control, after) - 1;
+    NameRow(User::AddAllele(m_control, after) - 1);
+}
+
+void AllelePaneView::NameRow(int row)
+{
     m_table->SelectRow(row);
     m_table->setFocus();
     m_table->edit(m_model->index(row, 0));

@@ -1,9 +1,10 @@
 #include "desktop/alleles/allele_picture.h"
 
 #include "desktop/alleles/bin_look.h"
-#include "desktop/common/colors.h"
-#include "desktop/common/length_axis.h"
+#include "desktop/alleles/bin_names.h"
+#include "desktop/common/dye_shade.h"
 #include "desktop/common/picture_role.h"
+#include "desktop/common/text.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -31,6 +32,13 @@ AllelePicture::AllelePicture(QWidget* parent) : QWidget(parent)
     setAccessibleName("Picture of the bins along the fragment length");
 }
 
+void AllelePicture::SetDye(const Dyes& dyes, std::int32_t dyeIndex)
+{
+    m_dyes = dyes;
+    m_dyeIndex = dyeIndex;
+    update();
+}
+
 void AllelePicture::Show(const AlleleRows& rows, const std::optional<LengthRange>& range)
 {
     m_range = range;
@@ -40,9 +48,10 @@ void AllelePicture::Show(const AlleleRows& rows, const std::optional<LengthRange
         CountIn(m_shapes, *m_observed);
     const auto faulty = std::ranges::count_if(
         m_shapes, [](const BinShape& shape) { return shape.State != BinState::InOrder; });
-    setAccessibleDescription(QString("%1 bins, %2 of them overlapping or outside the range")
+    setAccessibleDescription(QString("%1 bins, %2 of them overlapping or outside the range, %3")
                                  .arg(m_shapes.size())
-                                 .arg(faulty));
+                                 .arg(faulty)
+                                 .arg(ToQString(m_dyes.TitleOf(m_dyeIndex))));
     update();
 }
 
@@ -70,6 +79,19 @@ void AllelePicture::Mark(const std::set<std::int32_t>& rows)
     update();
 }
 
+void AllelePicture::ShowDraft(std::optional<BinDraft> draft)
+{
+    if (!draft && !m_draft)
+        return;
+    m_draft = std::move(draft);
+    update();
+}
+
+QColor AllelePicture::Shade() const
+{
+    return DyeShade(m_dyes, m_dyeIndex, palette());
+}
+
 QSize AllelePicture::sizeHint() const
 {
     const int line = fontMetrics().lineSpacing();
@@ -91,14 +113,19 @@ LengthAxis AllelePicture::Axis() const
     return {m_shown.From, m_shown.To, margin, width() - margin};
 }
 
+QRectF AllelePicture::Band() const
+{
+    const double height = std::max(12.0, (BaseLine() - margin) * 0.55);
+    return {margin, BaseLine() - height, width() - 2 * margin, height};
+}
+
 QRectF AllelePicture::RectOf(const BinShape& shape) const
 {
     constexpr double leastWidth = 3;
     const LengthAxis axis = Axis();
+    const QRectF band = Band();
     const double left = axis.X(shape.From);
-    const double width = std::max(leastWidth, axis.X(shape.To) - left);
-    const double height = std::max(12.0, (BaseLine() - margin) * 0.55);
-    return {left, BaseLine() - height, width, height};
+    return {left, band.top(), std::max(leastWidth, axis.X(shape.To) - left), band.height()};
 }
 
 const BinShape* AllelePicture::ShapeAt(QPointF place) const
@@ -123,12 +150,12 @@ void AllelePicture::paintEvent(QPaintEvent* /*event*/)
     if (m_observed)
         DrawObserved(painter, axis);
     else
-    {
-        for (const BinShape& shape : m_shapes)
-            DrawBin(painter, shape);
-    }
+        DrawBins(painter);
     DrawNames(painter);
-    DrawBinLegend(painter, {margin, LegendTop()}, palette());
+    DrawBinLegend(painter, {margin, LegendTop()}, m_shapes, ToQString(m_dyes.TitleOf(m_dyeIndex)),
+                  Shade(), palette());
+    if (m_draft)
+        DrawDraft(painter, axis, Band(), *m_draft, Shade(), palette());
     if (hasFocus())
     {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
@@ -138,12 +165,13 @@ void AllelePicture::paintEvent(QPaintEvent* /*event*/)
 
 void AllelePicture::DrawRange(QPainter& painter, const LengthAxis& axis) const
 {
-    QColor ground = SafeColor::SkyBlue;
-    ground.setAlphaF(0.15F);
+    // Colour is left to the dye.
+    QColor ground = palette().color(QPalette::Text);
+    ground.setAlphaF(0.06F);
     const double left = axis.X(m_range->From);
     const double right = axis.X(m_range->To);
     painter.fillRect(QRectF(left, margin / 2, right - left, BaseLine() - margin / 2), ground);
-    painter.setPen(QPen(SafeColor::SkyBlue, 1, Qt::DashLine));
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
     for (const double x : {left, right})
         painter.drawLine(QPointF(x, margin / 2), QPointF(x, BaseLine()));
 }
@@ -155,88 +183,46 @@ void AllelePicture::DrawObserved(QPainter& painter, const LengthAxis& axis) cons
     const QRectF place(QPointF(0, margin), QPointF(width(), BaseLine()));
     DrawHistogram(painter, axis, place, *m_observed, palette());
     painter.setOpacity(opacity);
-    for (const BinShape& shape : m_shapes)
-        DrawBin(painter, shape);
+    DrawBins(painter);
     painter.setOpacity(1);
     DrawProposal(painter, axis, place, *m_observed, palette());
     for (std::size_t at = 0; at < m_shapes.size(); ++at)
         DrawCount(painter, RectOf(m_shapes[at]), m_observed->Counts[at], palette());
 }
 
-void AllelePicture::DrawBin(QPainter& painter, const BinShape& shape) const
+void AllelePicture::DrawBins(QPainter& painter) const
 {
-    const QRectF rect = RectOf(shape);
-    if (shape.HasWidth())
-        FillBin(painter, rect, shape.State);
-    else
-        DrawBinWithoutWidth(painter, rect, shape.State);
-    const double size = Axis().X(shape.Size);
-    painter.setPen(QPen(palette().color(QPalette::Text), 1));
-    painter.drawLine(QPointF(size, rect.top() - 3), QPointF(size, rect.top() + 3));
-    if (m_marked.contains(shape.Row))
+    const LengthAxis axis = Axis();
+    const QColor shade = Shade();
+    const QColor text = palette().color(QPalette::Text);
+    for (const BinShape& shape : m_shapes)
     {
+        if (m_draft && m_draft->Row == shape.Row)
+            continue;
+        const QRectF rect = RectOf(shape);
+        DrawBin(painter, rect, shape, shade);
+        const double size = axis.X(shape.Size);
+        painter.setPen(QPen(text, 1));
+        painter.drawLine(QPointF(size, rect.top() - 3), QPointF(size, rect.top() + 3));
+        if (!IsMarked(shape.Row))
+            continue;
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Text), 2));
+        painter.setPen(QPen(text, 2));
         painter.drawRect(rect.adjusted(-2, -2, 2, 1));
     }
 }
 
 void AllelePicture::DrawNames(QPainter& painter) const
 {
-    // Upright while there is room, else turned, and then as many as fit, marked ones first.
-    const QFontMetrics font = fontMetrics();
-    double room = width();
-    double longest = 0;
-    for (std::size_t i = 0; i < m_shapes.size(); ++i)
+    constexpr double distance = 7;
+    std::vector<BinName> names;
+    for (const BinShape& shape : m_shapes)
     {
-        longest = std::max<double>(longest, font.horizontalAdvance(m_shapes[i].Name));
-        if (i > 0)
-            room = std::min(room, RectOf(m_shapes[i]).center().x() -
-                                      RectOf(m_shapes[i - 1]).center().x());
+        const QRectF rect = RectOf(shape);
+        names.push_back(
+            {{rect.center().x(), rect.top() - distance}, shape.Name, IsMarked(shape.Row)});
     }
-    const bool isTurned = longest + 4 > room;
-    const auto half = [&](const BinShape& shape) {
-        return (isTurned ? font.height() : font.horizontalAdvance(shape.Name)) / 2.0;
-    };
-    std::vector<LengthRange> taken; // Pixels.
-    for (const bool isMarked : {true, false})
-    {
-        double free = -1;
-        for (const BinShape& shape : m_shapes)
-        {
-            if (m_marked.contains(shape.Row) != isMarked)
-                continue;
-            const double x = RectOf(shape).center().x();
-            const LengthRange name{x - half(shape), x + half(shape)};
-            const bool meetsMarked =
-                !isMarked && std::ranges::any_of(taken, [&](const LengthRange& other) {
-                    return name.From < other.To && other.From < name.To;
-                });
-            if (name.From < free || meetsMarked)
-                continue;
-            free = name.To;
-            if (isMarked)
-                taken.push_back(name);
-            DrawName(painter, shape, isTurned);
-        }
-    }
-}
-
-void AllelePicture::DrawName(QPainter& painter, const BinShape& shape, bool isTurned) const
-{
-    const QFontMetrics font = fontMetrics();
-    const QRectF rect = RectOf(shape);
-    painter.setPen(palette().color(QPalette::Text));
-    painter.save();
-    painter.translate(rect.center().x(), rect.top() - 7);
-    if (isTurned)
-    {
-        painter.rotate(-90);
-        painter.drawText(QPointF(0, font.ascent() / 2.0 - 1), shape.Name);
-    }
-    else
-        painter.drawText(QPointF(-font.horizontalAdvance(shape.Name) / 2.0, 0), shape.Name);
-    painter.restore();
+    DrawBinNames(painter, names, palette());
 }
 
 void AllelePicture::mousePressEvent(QMouseEvent* event)

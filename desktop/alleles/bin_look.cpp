@@ -1,7 +1,5 @@
 #include "desktop/alleles/bin_look.h"
 
-#include "desktop/common/colors.h"
-
 #include <QPainter>
 #include <QPalette>
 
@@ -13,19 +11,19 @@ namespace Tamrivo
 namespace
 {
 
-/// How a state is shown, and what the legend says of it.
+/// How a state is shown.
 struct StateLook
 {
     BinState State;
-    QColor Color;
     Qt::BrushStyle Pattern;
-    const char* Legend;
+    Qt::PenStyle Outline;
+    double OutlineWidth;
 };
 
 constexpr StateLook looks[] = {
-    {BinState::InOrder, SafeColor::Blue, Qt::SolidPattern, "Bin"},
-    {BinState::Overlapping, SafeColor::Vermillion, Qt::BDiagPattern, "Overlapping"},
-    {BinState::OutOfRange, SafeColor::Orange, Qt::DiagCrossPattern, "Outside the range"},
+    {BinState::InOrder, Qt::SolidPattern, Qt::SolidLine, 1},
+    {BinState::Overlapping, Qt::BDiagPattern, Qt::SolidLine, 2},
+    {BinState::OutOfRange, Qt::DiagCrossPattern, Qt::DashLine, 1.5},
 };
 
 const StateLook& LookOf(BinState state)
@@ -33,47 +31,83 @@ const StateLook& LookOf(BinState state)
     return *std::ranges::find(looks, state, &StateLook::State);
 }
 
-} // namespace
-
-void FillBin(QPainter& painter, const QRectF& rect, BinState state)
+void DrawFilled(QPainter& painter, const QRectF& place, const BinShape& bin, const QColor& shade)
 {
-    const StateLook& look = LookOf(state);
-    if (look.Pattern != Qt::SolidPattern)
+    const StateLook& look = LookOf(bin.State);
+    const bool isSolid = look.Pattern == Qt::SolidPattern;
+    if (!bin.IsVirtual && !isSolid)
     {
-        QColor ground = look.Color;
-        ground.setAlphaF(0.35F);
-        painter.fillRect(rect, ground);
+        QColor ground = shade;
+        ground.setAlphaF(0.3F);
+        painter.fillRect(place, ground);
     }
-    painter.fillRect(rect, QBrush(look.Color, look.Pattern));
+    if (!bin.IsVirtual || !isSolid)
+        painter.fillRect(place, QBrush(shade, look.Pattern));
+    painter.setBrush(Qt::NoBrush);
     // Bins that meet stay two.
-    painter.setPen(look.Color.darker(150));
-    painter.drawRect(rect);
+    painter.setPen(QPen(isSolid && !bin.IsVirtual ? shade.darker(150) : shade, look.OutlineWidth,
+                        look.Outline));
+    painter.drawRect(place);
 }
 
-void DrawBinWithoutWidth(QPainter& painter, const QRectF& place, BinState state)
+/// An entry of the legend: which bins it stands for, and one of them.
+struct LegendEntry
 {
-    painter.setPen(QPen(LookOf(state).Color, 2, Qt::DashLine));
+    const char* Text;
+    bool (*IsOf)(const BinShape&);
+    BinShape Sample;
+};
+
+BinShape SampleBin(BinState state, double width = 1, bool isVirtual = false)
+{
+    return {1, 0, width, 0, state, isVirtual, {}};
+}
+
+std::vector<LegendEntry> LegendEntries()
+{
+    return {
+        {"Overlapping", [](const BinShape& bin) { return bin.State == BinState::Overlapping; },
+         SampleBin(BinState::Overlapping)},
+        {"Outside the range", [](const BinShape& bin) { return bin.State == BinState::OutOfRange; },
+         SampleBin(BinState::OutOfRange)},
+        {"Virtual", [](const BinShape& bin) { return bin.IsVirtual; },
+         SampleBin(BinState::InOrder, 1, true)},
+        {"Without width", [](const BinShape& bin) { return !bin.HasWidth(); },
+         SampleBin(BinState::InOrder, 0)},
+    };
+}
+
+} // namespace
+
+void DrawBin(QPainter& painter, const QRectF& place, const BinShape& bin, const QColor& shade)
+{
+    if (bin.HasWidth())
+        return DrawFilled(painter, place, bin, shade);
+    painter.setPen(QPen(shade, 2, Qt::DashLine));
     const double x = place.center().x();
     painter.drawLine(QPointF(x, place.top()), QPointF(x, place.bottom()));
 }
 
-void DrawBinLegend(QPainter& painter, QPointF topLeft, const QPalette& palette)
+void DrawBinLegend(QPainter& painter, QPointF topLeft, std::span<const BinShape> bins,
+                   const QString& dye, const QColor& shade, const QPalette& palette)
 {
     constexpr double gap = 4;
     const QFontMetrics font = painter.fontMetrics();
     const double swatch = font.ascent();
     double x = topLeft.x();
-    const auto entry = [&](const char* text, const auto& draw) {
-        draw(QRectF(x, topLeft.y() + 1, swatch, swatch));
+    const auto add = [&](const QString& text, const BinShape& sample) {
+        DrawBin(painter, QRectF(x, topLeft.y() + 1, swatch, swatch), sample, shade);
         x += swatch + gap;
         painter.setPen(palette.color(QPalette::Text));
         painter.drawText(QPointF(x, topLeft.y() + font.ascent()), text);
         x += font.horizontalAdvance(text) + 4 * gap;
     };
-    for (const StateLook& look : looks)
-        entry(look.Legend, [&](const QRectF& rect) { FillBin(painter, rect, look.State); });
-    entry("Without width",
-          [&](const QRectF& rect) { DrawBinWithoutWidth(painter, rect, BinState::InOrder); });
+    add(dye, SampleBin(BinState::InOrder));
+    for (const LegendEntry& entry : LegendEntries())
+    {
+        if (std::ranges::any_of(bins, entry.IsOf))
+            add(entry.Text, entry.Sample);
+    }
 }
 
 } // namespace Tamrivo

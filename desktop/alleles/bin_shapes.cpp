@@ -18,7 +18,7 @@ std::vector<BinShape> ShapesOf(const AlleleRows& rows, const LengthRange& range)
         const bool isInside = range.From <= size && size <= range.To;
         shapes.push_back({static_cast<std::int32_t>(shapes.size()) + 1, from, to, size,
                           isInside ? BinState::InOrder : BinState::OutOfRange,
-                          ToQString(allele->AlleleText1)});
+                          allele->AlleleInt2 == 1, ToQString(allele->AlleleText1)});
     }
     for (const auto& [row, other] : OverlappingBins(rows))
     {
@@ -41,6 +41,8 @@ QString Describe(const BinShape& shape)
         text += "\nLies outside the fragment range";
     if (!shape.HasWidth())
         text += "\nThe bin has no width";
+    if (shape.IsVirtual)
+        text += "\nVirtual: not in the ladder";
     return text;
 }
 

@@ -14,9 +14,11 @@ struct LengthRange
 {
     double From;
     double To;
+
+    bool operator==(const LengthRange&) const = default;
 };
 
-/// What the picture tells of a bin by colour and pattern.
+/// What the picture tells of a bin by pattern and outline.
 enum class BinState
 {
     InOrder,
@@ -32,6 +34,7 @@ struct BinShape
     double To;
     double Size;
     BinState State;
+    bool IsVirtual; ///< The allele isn't in the ladder.
     QString Name;
 
     bool HasWidth() const { return From < To; }

@@ -1,8 +1,8 @@
 #include "desktop/alleles/observed_comparison.h"
 
 #include "controls/user.h"
-#include "core/numbers.h"
 #include "desktop/alleles/allele_picture.h"
+#include "desktop/alleles/page_fields.h"
 #include "desktop/common/actions.h"
 #include "desktop/common/text.h"
 #include "editor/locus_editor_form.h"
@@ -18,11 +18,11 @@
 namespace Tamrivo
 {
 
-ObservedComparison::ObservedComparison(User::AllelePaneControl& pane, AllelePicture& picture,
+ObservedComparison::ObservedComparison(LocusEditorForm& page, AllelePicture& picture,
                                        const Actions& actions, QWidget* parent)
     : QWidget(parent),
-      m_control(pane),
-      m_pane(User::AllelesOf(pane)),
+      m_page(page),
+      m_pane(User::AllelesOf(page.ctlPaneAlleleList)),
       m_picture(picture),
       m_actions(actions),
       m_words(new QLabel(this)),
@@ -76,7 +76,7 @@ void ObservedComparison::Read(const QString& path)
 
 void ObservedComparison::Propose()
 {
-    m_fit = FitLadder(FieldsOnPage(), Known(), m_sizes);
+    m_fit = FitLadder(FieldsOn(m_page, *m_pane.ShownLocus()), Known(), m_sizes);
     Show();
 }
 
@@ -84,7 +84,7 @@ void ObservedComparison::TakeOver()
 {
     if (!m_fit || !m_fit->IsProposed)
         throw User::Refusal("No bins are proposed");
-    User::ReplaceAlleles(m_control, WithProposal(Known(), *m_fit));
+    User::ReplaceAlleles(m_page.ctlPaneAlleleList, WithProposal(Known(), *m_fit));
 }
 
 void ObservedComparison::Close()
@@ -110,24 +110,6 @@ std::vector<const AlleleFields*> ObservedComparison::Known() const
     for (const auto& row : m_pane.Rows())
         known.push_back(row.get());
     return known;
-}
-
-/// The page edits in its fields what the locus gets later.
-LocusFields ObservedComparison::FieldsOnPage() const
-{
-    LocusFields fields = *m_pane.ShownLocus();
-    const auto* page = dynamic_cast<const LocusEditorForm*>(&m_control.Form());
-    if (page == nullptr)
-        return fields;
-    fields.RepeatsInShortestAllele = page->txtRepeatsInShortestAllele.Text();
-    const auto take = [](const TextField& field, std::int32_t& value) {
-        if (IsNumeric(field.Text()))
-            value = static_cast<std::int32_t>(ToDouble(field.Text()));
-    };
-    take(page->txtRepeat, fields.RepeatLength);
-    take(page->txtShortestAlleleSize, fields.ShortestAlleleSize);
-    take(page->txtStartAtNumeric, fields.StartAtNumeric);
-    return fields;
 }
 
 void ObservedComparison::Show()

@@ -16,14 +16,15 @@ namespace Tamrivo
 
 class Actions;
 class AllelePicture;
+class LocusEditorForm;
 
 /// Observed sizes laid over the pane's bins: what stands under the picture while they are compared.
 /// It counts them, lets them propose bins, and takes a proposal over as one change of the pane.
 class ObservedComparison : public QWidget
 {
 public:
-    ObservedComparison(User::AllelePaneControl& pane, AllelePicture& picture,
-                       const Actions& actions, QWidget* parent);
+    ObservedComparison(LocusEditorForm& page, AllelePicture& picture, const Actions& actions,
+                       QWidget* parent);
 
     /// Reads a table of observed sizes and compares those of the locus on show. Raises failures for
     /// a table that can't be read or that has none of them.
@@ -39,10 +40,9 @@ public:
 private:
     QPushButton* AddButton(const QString& text, void (ObservedComparison::*action)());
     std::vector<const AlleleFields*> Known() const;
-    LocusFields FieldsOnPage() const;
     void Show();
 
-    User::AllelePaneControl& m_control;
+    LocusEditorForm& m_page;
     AllelePane& m_pane;
     AllelePicture& m_picture;
     const Actions& m_actions;

@@ -1,6 +1,5 @@
 #include "desktop/alleles/observed_look.h"
 
-#include "desktop/common/colors.h"
 #include "desktop/common/length_axis.h"
 
 #include <QPainter>
@@ -92,7 +91,7 @@ void DrawProposal(QPainter& painter, const LengthAxis& axis, const QRectF& place
         painter.drawRect(QRectF(left, place.bottom() - height, axis.X(bin.To) - left, height));
     }
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(SafeColor::Vermillion));
+    painter.setBrush(palette.color(QPalette::Text));
     for (const double size : observed.Outside)
     {
         const double x = axis.X(size);

@@ -1,6 +1,7 @@
 #include "desktop/findings/finding_place.h"
 
 #include "desktop/alleles/allele_pane_view.h"
+#include "desktop/alleles/page_fields.h"
 #include "desktop/forms/form_view.h"
 #include "editor/locus_editor_form.h"
 #include "host/checks/check_rules.h"
@@ -10,55 +11,29 @@
 namespace Tamrivo
 {
 
-namespace
+FindingPlace PlaceOf(LocusEditorForm& page, const Finding& finding)
 {
-
-/// Where the page has a field.
-struct FieldPlace
-{
-    std::string_view Field;
-    const Control& (*ControlOf)(const LocusEditorForm&);
-};
-
-template <auto Member>
-const Control& ControlAt(const LocusEditorForm& form)
-{
-    return form.*Member;
+    if (finding.Allele.empty())
+        return {ControlOf(page, finding.Field)};
+    const AlleleRows& rows = User::AllelesOf(page.ctlPaneAlleleList).Rows();
+    const auto row = std::ranges::find(rows, finding.Allele,
+                                       [](const auto& allele) { return allele->AlleleText1; });
+    return {&page.ctlPaneAlleleList,
+            row == rows.end() ? 0 : static_cast<std::int32_t>(row - rows.begin()) + 1};
 }
-
-using Form = LocusEditorForm;
-
-constexpr FieldPlace fieldPlaces[] = {
-    {"DyeIndex", ControlAt<&Form::cmbDye>},
-    {"FragStart", ControlAt<&Form::txtFragStart>},
-    {"FragEnd", ControlAt<&Form::txtFragEnd>},
-    {"RepeatLength", ControlAt<&Form::txtRepeat>},
-    {"RepeatUnitSequence", ControlAt<&Form::txtRepeatUnitSequence>},
-    {"FwdPrimer", ControlAt<&Form::txtFwd>},
-    {"RevPrimer", ControlAt<&Form::txtRev>},
-};
-
-const Control* PlaceOf(const LocusEditorForm& form, const Finding& finding)
-{
-    if (!finding.Allele.empty())
-        return &form.ctlPaneAlleleList;
-    const auto place = std::ranges::find(fieldPlaces, finding.Field, &FieldPlace::Field);
-    return place == std::end(fieldPlaces) ? nullptr : &place->ControlOf(form);
-}
-
-} // namespace
 
 void LeadTo(FormView& page, const Finding& finding)
 {
-    const auto* form = dynamic_cast<const LocusEditorForm*>(&page.Form());
-    const Control* const control = form == nullptr ? nullptr : PlaceOf(*form, finding);
-    ControlView* const view = control == nullptr ? nullptr : page.ViewOf(*control);
+    auto* form = dynamic_cast<LocusEditorForm*>(&page.Form());
+    const FindingPlace place = form == nullptr ? FindingPlace() : PlaceOf(*form, finding);
+    ControlView* const view = place.Where == nullptr ? nullptr : page.ViewOf(*place.Where);
     if (view == nullptr)
         return;
-    page.BringToView(*control);
-    view->FocusWidget().setFocus(Qt::OtherFocusReason);
+    page.BringToView(*place.Where);
     if (auto* alleles = dynamic_cast<AllelePaneView*>(view))
-        alleles->ChooseAllele(finding.Allele);
+        alleles->GoTo(place.Allele);
+    else
+        view->FocusWidget().setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace Tamrivo

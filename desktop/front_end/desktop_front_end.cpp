@@ -69,7 +69,7 @@ void DesktopFrontEnd::RunOpening(const std::function<void()>& open)
 void DesktopFrontEnd::RunWizard(WizardSession& wizard)
 {
     QWidget* below = WindowOnTop();
-    WizardDialog dialog(wizard, m_actions, below);
+    WizardDialog dialog(*m_host, wizard, m_actions, below);
     dialog.exec();
     if (auto* opener = dynamic_cast<WizardDialog*>(below))
         opener->NoteSavedAs();

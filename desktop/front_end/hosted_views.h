@@ -1,16 +1,14 @@
 #pragma once
 
-class QWidget;
+#include "desktop/forms/control_view.h"
+#include "host/loci/dyes.h"
 
 namespace Tamrivo
 {
 
-class Actions;
-class Control;
-class ControlView;
-
-/// Makes the view of a control that this program's host brings along: a grid or the allele pane.
-/// Null for any other.
-ControlView* NewHostedView(Control& control, QWidget& parent, const Actions& actions);
+/// Makes the views of the controls that this program's host brings along: grids, and the allele
+/// pane of the locus editor.
+/// @param dyes those of the lab, in whose colours bins are drawn
+HostedViewFactory HostedViews(const Dyes& dyes);
 
 } // namespace Tamrivo

@@ -14,6 +14,7 @@
 #include "desktop/help/first_use_tip.h"
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
+#include "host/framework/host_application.h"
 #include "host/framework/wizard_session.h"
 
 #include <QAction>
@@ -73,11 +74,12 @@ WizardText TextOf(const std::string& wizard)
 
 } // namespace
 
-WizardDialog::WizardDialog(WizardSession& wizard, const Actions& actions, QWidget* parent)
+WizardDialog::WizardDialog(HostApplication& host, WizardSession& wizard, const Actions& actions,
+                           QWidget* parent)
     : QDialog(parent),
       m_wizard(wizard),
       m_actions(actions),
-      m_page(new FormView(wizard.Page(), actions, NewHostedView)),
+      m_page(new FormView(wizard.Page(), actions, HostedViews(host.Store().Dyes()))),
       m_history(wizard.Page()),
       m_problems(new ProblemList(this)),
       m_undo(NewUndoAction("Undo", "edit-undo", QKeySequence::Undo, &PageHistory::Undo)),

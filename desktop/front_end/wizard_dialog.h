@@ -15,6 +15,7 @@ namespace Tamrivo
 
 class Actions;
 class FormView;
+class HostApplication;
 class ProblemList;
 class WizardSession;
 struct PageProblem;
@@ -27,7 +28,9 @@ class WizardDialog : public QDialog
     Q_OBJECT
 
 public:
-    WizardDialog(WizardSession& wizard, const Actions& actions, QWidget* parent);
+    /// The host must outlive the dialog. Raises failures of its store.
+    WizardDialog(HostApplication& host, WizardSession& wizard, const Actions& actions,
+                 QWidget* parent);
     ~WizardDialog() override;
 
     FormView& Page() const { return *m_page; }

@@ -114,6 +114,8 @@ void Comparison::Show(Locus& left, Locus& right, const Dyes& dyes)
     Extend(both, right);
     m_leftTitle->setText(leftTag);
     m_rightTitle->setText(rightTag);
+    m_left->SetDye(dyes, left.DyeIndex);
+    m_right->SetDye(dyes, right.DyeIndex);
     m_left->Show(RowsOf(left), both);
     m_right->Show(RowsOf(right), both);
 }

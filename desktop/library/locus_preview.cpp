@@ -104,6 +104,7 @@ void LocusPreview::ShowAlleles()
         ToQString(locus->LocusTag()) +
         QString(": %1 to %2 nt, ").arg(locus->FragStart).arg(locus->FragEnd) +
         ToQString(m_content.LabDyes.TitleOf(locus->DyeIndex) + ", " + CountOfAlleles(rows.size())));
+    m_alleles->SetDye(m_content.LabDyes, locus->DyeIndex);
     m_alleles->Show(rows, LengthRange{static_cast<double>(locus->FragStart),
                                       static_cast<double>(locus->FragEnd)});
 }

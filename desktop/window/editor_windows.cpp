@@ -44,7 +44,7 @@ EditorWindows::~EditorWindows() = default;
 
 void EditorWindows::OpenNew(HostApplication& host)
 {
-    Show(std::make_unique<Editor>(Editor{{}, {}, host.OpenNewLocus(false), nullptr}));
+    Show(host, std::make_unique<Editor>(Editor{{}, {}, host.OpenNewLocus(false), nullptr}));
 }
 
 WizardDialog& EditorWindows::Open(HostApplication& host, const std::string& tag, bool binning)
@@ -53,8 +53,8 @@ WizardDialog& EditorWindows::Open(HostApplication& host, const std::string& tag,
     const auto open = std::ranges::find_if(
         m_editors, [&](const auto& editor) { return editor->LocusID == locus->LocusID(); });
     if (open == m_editors.end())
-        return Show(std::make_unique<Editor>(
-            Editor{locus->LocusID(), tag, host.OpenLocus(locus, binning), nullptr}));
+        return Show(host, std::make_unique<Editor>(Editor{
+                              locus->LocusID(), tag, host.OpenLocus(locus, binning), nullptr}));
     WizardDialog& window = *(*open)->Window;
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
@@ -62,9 +62,10 @@ WizardDialog& EditorWindows::Open(HostApplication& host, const std::string& tag,
     return window;
 }
 
-WizardDialog& EditorWindows::Show(std::unique_ptr<Editor> editor)
+WizardDialog& EditorWindows::Show(HostApplication& host, std::unique_ptr<Editor> editor)
 {
-    editor->Window = std::make_unique<WizardDialog>(*editor->Wizard.Session, m_actions, nullptr);
+    editor->Window =
+        std::make_unique<WizardDialog>(host, *editor->Wizard.Session, m_actions, nullptr);
     Editor& shown = *m_editors.emplace_back(std::move(editor));
     // A window of its own, not one that stays in front of the library.
     shown.Window->setWindowFlags(Qt::Window);

@@ -38,7 +38,7 @@ signals:
 private:
     struct Editor;
 
-    WizardDialog& Show(std::unique_ptr<Editor> editor);
+    WizardDialog& Show(HostApplication& host, std::unique_ptr<Editor> editor);
     void End(Editor& editor);
 
     const Actions& m_actions;

@@ -98,7 +98,7 @@ void ParameterView::Open()
     auto page = std::make_unique<ParameterPage>(m_host, m_host.Parameters().Open(m_name));
     delete m_form;
     m_page = std::move(page);
-    m_form = new FormView(m_page->Selector(), m_actions, NewHostedView);
+    m_form = new FormView(m_page->Selector(), m_actions, HostedViews({}));
     static_cast<QScrollArea*>(m_splitter->widget(0))->setWidget(m_form);
     WatchSelection();
 }

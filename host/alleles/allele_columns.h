@@ -36,6 +36,10 @@ struct AlleleColumn
 /// The columns of the allele pane, from left to right.
 extern const AlleleColumn AlleleColumns[7];
 
+// Where the ends of the bin stand among them.
+inline constexpr std::size_t BinFromColumn = 2;
+inline constexpr std::size_t BinToColumn = 3;
+
 /// How many of the columns scripts read: name, size and bin.
 inline constexpr std::size_t ListedColumns = 4;
 

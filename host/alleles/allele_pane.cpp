@@ -79,6 +79,19 @@ std::int32_t AllelePane::AddRow(std::optional<std::int32_t> after)
     return NumberOf(*allele);
 }
 
+AlleleFields AllelePane::FieldsOfNew(double size) const
+{
+    RequireLocus();
+    return FieldsOfSize(size, m_rows, *m_locus);
+}
+
+std::int32_t AllelePane::AddRowOfSize(double size)
+{
+    const auto allele = NewAllele(FieldsOfNew(size));
+    Do({.ToAdd = {allele}});
+    return NumberOf(*allele);
+}
+
 void AllelePane::RemoveRows(const std::vector<std::int32_t>& rows)
 {
     Change change;

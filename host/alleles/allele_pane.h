@@ -59,6 +59,10 @@ public:
     /// nearer, or without one at the end; its bin as wide as the confidence interval that counts,
     /// still without a name. Gives its number.
     std::int32_t AddRow(std::optional<std::int32_t> after);
+    /// What `AddRowOfSize` would add, see `FieldsOfSize`.
+    AlleleFields FieldsOfNew(double size) const;
+    /// Adds a row of a size, nt, in its place. Gives its number.
+    std::int32_t AddRowOfSize(double size);
     void RemoveRow(std::int32_t row) { RemoveRows({row}); }
     /// Removes several rows in one step; a row may be named twice.
     void RemoveRows(const std::vector<std::int32_t>& rows);

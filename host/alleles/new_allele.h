@@ -1,7 +1,7 @@
 #pragma once
 
-#include "contracts/allele.h"
 #include "contracts/locus_fields.h"
+#include "host/alleles/allele_problems.h"
 
 #include <optional>
 
@@ -16,6 +16,11 @@ AlleleFields FirstFields(const LocusFields& locus);
 /// nearer.
 AlleleFields FieldsAfter(const AlleleFields& row, std::optional<double> nextSize,
                          const LocusFields& locus);
+
+/// A row of a size, nt, among those that there are: its bin as wide as the confidence interval that
+/// counts where the bins beside it leave that room, its number of repeats counted from the nearest
+/// row. Where that row is named by its repeats, the new one is too, unless another has the name.
+AlleleFields FieldsOfSize(double size, const AlleleRows& rows, const LocusFields& locus);
 
 /// Marks a row as edited and gives it the number of repeats that follows from its name and size.
 void Derive(AlleleFields& fields, const LocusFields& locus);

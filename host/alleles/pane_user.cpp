@@ -26,6 +26,11 @@ std::int32_t AddAllele(const AllelePaneControl& pane, std::optional<std::int32_t
     return Reached(pane).AddRow(after);
 }
 
+std::int32_t AddAlleleOfSize(const AllelePaneControl& pane, double size)
+{
+    return Reached(pane).AddRowOfSize(size);
+}
+
 void RemoveAllele(const AllelePaneControl& pane, std::int32_t row)
 {
     Reached(pane).RemoveRow(row);

@@ -20,6 +20,8 @@ AllelePane& AllelesOf(const AllelePaneControl& pane);
 
 /// Adds a row after another one, or at the end. Gives its number, counted from 1.
 std::int32_t AddAllele(const AllelePaneControl& pane, std::optional<std::int32_t> after = {});
+/// Adds a row of a size, nt, in its place; see `AllelePane::FieldsOfNew`. Gives its number.
+std::int32_t AddAlleleOfSize(const AllelePaneControl& pane, double size);
 void RemoveAllele(const AllelePaneControl& pane, std::int32_t row);
 /// Changes a cell. The row goes to its place by size once it is left.
 void EditAllele(const AllelePaneControl& pane, std::int32_t row, const AlleleColumn& column,

@@ -78,7 +78,7 @@ void ExpectCaptionFits(const Control& control, QWidget& widget)
 
 void ExpectReadable(UserControl& form, const Actions& actions)
 {
-    FormView view(form, actions, NewHostedView);
+    FormView view(form, actions, HostedViews({}));
     view.resize(view.sizeHint());
     view.show();
     for (auto* tabs : view.findChildren<QTabWidget*>())

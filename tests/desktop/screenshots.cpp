@@ -1,3 +1,4 @@
+#include "desktop/alleles/allele_picture.h"
 #include "desktop/front_end/desktop_front_end.h"
 #include "desktop/front_end/message_boxes.h"
 #include "desktop/front_end/wizard_dialog.h"
@@ -102,6 +103,8 @@ private:
         const PanelFile table = OpenPanelFile(m_table.toStdString());
         const PanelReading reading = ReadPanels({&table, 1});
         CarryOutImport(PlanImport(reading.Markers, {}, store), store);
+        store.SetDyes(
+            Dyes({{"blue", ""}, {"green", ""}, {"yellow", ""}, {"red", ""}, {"purple", ""}}));
         ParameterStore parameters(store);
         parameters.Create("Paternity", TagLists::OneEmpty);
         parameters.Create("Validation", TagLists::OneEmpty);
@@ -191,6 +194,7 @@ private:
         editor.findChild<QWidget*>("ctlPaneAlleleList")->findChild<QTableView*>()->selectRow(3);
         Settle();
         Take(editor, "editor" + suffix);
+        TakeBins(editor, suffix);
         editor.findChild<QTabWidget*>()->setCurrentIndex(1);
         Settle();
         Take(editor, "editor-criteria" + suffix);
@@ -213,6 +217,36 @@ private:
             QTest::mouseClick(editor.findChild<QWidget*>("cmdSaveAs"), Qt::LeftButton);
         }
         Close(editor);
+    }
+
+    /// The picture of the bins with the mouse at work in it, and in the colour of another dye.
+    void TakeBins(QDialog& editor, const QString& suffix)
+    {
+        const auto widgets =
+            editor.findChild<QWidget*>("ctlPaneAlleleList")->findChildren<QWidget*>();
+        auto* picture = dynamic_cast<AllelePicture*>(*std::ranges::find_if(
+            widgets, [](QWidget* one) { return dynamic_cast<AllelePicture*>(one) != nullptr; }));
+        const auto at = [picture](double length) {
+            return QPoint(static_cast<int>(picture->Axis().X(length)),
+                          static_cast<int>(picture->Band().center().y()));
+        };
+        const auto& bins = picture->Shapes();
+        QTest::mouseMove(picture, at((bins[5].To + bins[6].From) / 2));
+        Take(editor, "editor-adding" + suffix);
+        QTest::mousePress(picture, Qt::LeftButton, {}, at(bins[3].To));
+        QTest::mouseMove(picture, at(bins[3].To + 1));
+        Take(editor, "editor-dragging" + suffix);
+        QTest::keyClick(picture, Qt::Key_Escape);
+        QTest::mouseRelease(picture, Qt::LeftButton, {}, at(bins[3].To + 1));
+        auto* dye = editor.findChild<QComboBox*>("cmbDye");
+        const int before = dye->currentIndex();
+        for (const int chosen : {4, before})
+        {
+            dye->setCurrentIndex(chosen);
+            emit dye->activated(chosen);
+            if (chosen != before)
+                Take(editor, "editor-purple" + suffix);
+        }
     }
 
     void TakeMenu(MainWindow& window)

@@ -22,7 +22,7 @@ class SelectorViewTest : public DesktopTest
 protected:
     SelectorViewTest()
         : m_page(Host(), Host().Parameters().Create("P", TagLists::OneEmpty)),
-          m_view(m_page.Selector(), m_frontEnd.UserActions(), NewHostedView)
+          m_view(m_page.Selector(), m_frontEnd.UserActions(), HostedViews({}))
     {
         m_view.resize(m_view.sizeHint());
         m_view.show();

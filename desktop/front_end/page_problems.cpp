@@ -3,9 +3,14 @@
 #include "controls/text_field.h"
 #include "controls/user_control.h"
 #include "desktop/common/text.h"
+#include "desktop/findings/editor_findings.h"
+#include "desktop/findings/finding_place.h"
+#include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
+#include "host/checks/check_rules.h"
 
 #include <algorithm>
+#include <set>
 
 namespace Tamrivo
 {
@@ -33,6 +38,28 @@ std::vector<PageProblem> ProblemsOf(const UserControl& page)
         }
     }
     return problems;
+}
+
+void AddFindings(std::vector<PageProblem>& problems, LocusEditorForm& page,
+                 const EditorFindings& findings)
+{
+    std::set<std::int32_t> faulty;
+    for (const PageProblem& problem : problems)
+        faulty.insert(problem.Allele);
+    for (const Finding& finding : findings.Found())
+    {
+        const FindingPlace place = PlaceOf(page, finding);
+        if (place.Allele > 0 && faulty.contains(place.Allele))
+            continue;
+        const QString allele =
+            finding.Allele.empty() ? "" : "Allele " + ToQString(finding.Allele) + ": ";
+        problems.push_back({allele + ToQString(finding.Message) + ".", place.Where, place.Allele,
+                            finding.Rule->Weight == Severity::Error ? PageProblemKind::Error
+                                                                    : PageProblemKind::Warning});
+    }
+    if (!findings.FailureText().isEmpty())
+        problems.push_back({"The loci beside this one are not checked: " + findings.FailureText(),
+                            nullptr, 0, PageProblemKind::Warning});
 }
 
 } // namespace Tamrivo

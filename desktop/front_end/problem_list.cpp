@@ -3,13 +3,38 @@
 #include <QEvent>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace Tamrivo
 {
+
+namespace
+{
+
+/// How a kind of problem is told apart.
+struct ProblemLook
+{
+    PageProblemKind Kind;
+    QStyle::StandardPixmap Icon;
+    const char* Name; ///< Before the text, for screen readers.
+    const char* Tip;
+};
+
+constexpr ProblemLook problemLooks[] = {
+    {PageProblemKind::Obstacle, QStyle::SP_MessageBoxCritical, "Not valid",
+     "It keeps the page from being finished."},
+    {PageProblemKind::Error, QStyle::SP_MessageBoxWarning, "Error",
+     "The check calls it an error; the page can be finished all the same."},
+    {PageProblemKind::Warning, QStyle::SP_MessageBoxInformation, "Warning",
+     "The check calls it worth a look."},
+};
+
+} // namespace
 
 ProblemList::ProblemList(QWidget* parent) : QListWidget(parent)
 {
     setObjectName("problems");
-    setAccessibleName("Why the page can't be finished");
+    setAccessibleName("Problems of the page");
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -31,11 +56,14 @@ void ProblemList::Show(std::vector<PageProblem> problems)
         return;
     m_problems = std::move(problems);
     clear();
-    const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this);
     for (const PageProblem& problem : m_problems)
     {
-        auto* item = new QListWidgetItem(icon, problem.Text, this);
-        item->setToolTip(problem.Text);
+        const ProblemLook& look =
+            *std::ranges::find(problemLooks, problem.Kind, &ProblemLook::Kind);
+        auto* item = new QListWidgetItem(style()->standardIcon(look.Icon, nullptr, this),
+                                         problem.Text, this);
+        item->setToolTip(problem.Text + "\n" + look.Tip);
+        item->setData(Qt::AccessibleTextRole, QString(look.Name) + ": " + problem.Text);
     }
 }
 

@@ -7,8 +7,8 @@
 namespace Tamrivo
 {
 
-/// What keeps a page from being finished, a line each; Return or a click goes to where it is. It
-/// keeps its height whatever it holds.
+/// What keeps a page from being finished, and what a check has found on it, a line each; Return or
+/// a click goes to where it is. It keeps its height whatever it holds.
 class ProblemList : public QListWidget
 {
     Q_OBJECT

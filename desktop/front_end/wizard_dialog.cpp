@@ -7,6 +7,7 @@
 #include "desktop/common/icons.h"
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
+#include "desktop/findings/editor_findings.h"
 #include "desktop/forms/form_view.h"
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/front_end/problem_list.h"
@@ -89,7 +90,7 @@ WizardDialog::WizardDialog(HostApplication& host, WizardSession& wizard, const A
     setObjectName(ToQString(wizard.Name()));
     setSizeGripEnabled(true);
     LayOut();
-    SetUpAlleles();
+    SetUpEditor(host.Store());
     connect(m_problems, &ProblemList::Picked, this,
             [this](const PageProblem& problem) { GoTo(problem); });
     const auto showSteps = [this] {
@@ -186,7 +187,7 @@ QLayout* WizardDialog::MakeBottomRow()
     return row;
 }
 
-void WizardDialog::SetUpAlleles()
+void WizardDialog::SetUpEditor(Store& store)
 {
     auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page());
     if (editor == nullptr)
@@ -196,6 +197,8 @@ void WizardDialog::SetUpAlleles()
     });
     if (auto* pane = dynamic_cast<AllelePaneView*>(m_page->ViewOf(editor->ctlPaneAlleleList)))
         pane->LeaveUndoToPage();
+    m_findings = new EditorFindings(store, *editor, *this);
+    connect(m_findings, &EditorFindings::Changed, this, &WizardDialog::ShowProblems);
 }
 
 WizardDialog::~WizardDialog()
@@ -230,6 +233,9 @@ void WizardDialog::ShowProblems()
         problems = ProblemsOf(m_wizard.Page());
     if (!m_wizard.IsValid() && problems.empty())
         problems.push_back({TextOf(m_wizard.Name()).Invalid, nullptr});
+    auto* editor = dynamic_cast<LocusEditorForm*>(&m_wizard.Page());
+    if (editor != nullptr && m_findings != nullptr)
+        AddFindings(problems, *editor, *m_findings);
     m_problems->Show(std::move(problems));
 }
 

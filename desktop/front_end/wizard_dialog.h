@@ -14,14 +14,17 @@ namespace Tamrivo
 {
 
 class Actions;
+class EditorFindings;
 class FormView;
 class HostApplication;
 class ProblemList;
+class Store;
 class WizardSession;
 struct PageProblem;
 
 /// A wizard with its page, named by what stands on it. What was done on the page can be
-/// taken back. Finish is refused while the page is not valid; why, a list beside the buttons says.
+/// taken back. Finish is refused while the page is not valid; why, a list beside the buttons says,
+/// with what a check finds in the locus of an editor.
 /// What would lose a person's work is asked first. Whatever ends the dialog ends the wizard.
 class WizardDialog : public QDialog
 {
@@ -55,7 +58,7 @@ private:
     QLayout* MakeBottomRow();
     QAction* NewUndoAction(const char* text, const char* icon, QKeySequence::StandardKey keys,
                            Control* (PageHistory::*step)());
-    void SetUpAlleles();
+    void SetUpEditor(Store& store);
     /// Whether something would be lost that was entered.
     bool IsChanged() const;
     void ShowProblems();
@@ -66,6 +69,7 @@ private:
     FormView* m_page;
     PageHistory m_history;
     ProblemList* m_problems;
+    EditorFindings* m_findings = nullptr; ///< None but for the locus editor.
     QAction* m_undo;
     QAction* m_redo;
     QPushButton* m_finish;

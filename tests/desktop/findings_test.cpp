@@ -1,14 +1,19 @@
+#include "controls/user.h"
 #include "desktop/findings/finding_watch.h"
+#include "desktop/front_end/problem_list.h"
 #include "desktop/library/group_tree.h"
 #include "desktop/library/library_view.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/workbench.h"
 #include "desktop_test.h"
+#include "editor/locus_editor_form.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QTableView>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace Tamrivo::Testing
 {
@@ -27,6 +32,24 @@ protected:
         Host().Store().Manager().Save(*locus, true);
     }
 
+    static ProblemList& ProblemsIn(WizardDialog& editor)
+    {
+        return Named<ProblemList>(editor, "problems");
+    }
+
+    /// Whether the editor comes to list a problem of a kind whose text begins so.
+    static bool Lists(WizardDialog& editor, PageProblemKind kind, const QString& text, bool wanted)
+    {
+        return QTest::qWaitFor(
+            [&] {
+                const auto& shown = ProblemsIn(editor).Shown();
+                return wanted == std::ranges::any_of(shown, [&](const PageProblem& problem) {
+                           return problem.Kind == kind && problem.Text.startsWith(text);
+                       });
+            },
+            3000);
+    }
+
     void Wait(const LibraryView& view)
     {
         while (view.Watch().IsChecking())
@@ -35,6 +58,41 @@ protected:
 };
 
 } // namespace
+
+TEST_F(FindingsTest, AreListedInTheEditorAndFollowThePage)
+{
+    const auto beside = Stored("TH01");
+    beside->PrimerSet = "h24";
+    Host().Store().Manager().Save(*beside, true);
+    Edit("D3S1358", [this](WizardDialog& editor) {
+        const auto error = PageProblemKind::Error;
+        const QString overlap = "The range 80 to 136 nt overlaps that of TH01";
+        EXPECT_TRUE(Lists(editor, error, "The repeat sequence TCTAA has 5 nt", true));
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Warning, overlap, true)) << "of its panel";
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Obstacle, "Allele list, row 3", true));
+        EXPECT_TRUE(Lists(editor, error, "Allele 3: ", false)) << "is told of already";
+        const int height = ProblemsIn(editor).height();
+
+        auto& page = dynamic_cast<LocusEditorForm&>(editor.Page().Form());
+        User::Choose(page.cmbDye, "D3");
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Warning, overlap, false));
+        User::Choose(page.cmbDye, "D1");
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Warning, overlap, true));
+        Replace(editor, "txtPrimerSet", "K");
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Warning, overlap, false));
+        User::EditAllele(page.ctlPaneAlleleList, 3, AlleleColumns[1], "88");
+        User::EditAllele(page.ctlPaneAlleleList, 9, AlleleColumns[BinToColumn], "114.5");
+        EXPECT_TRUE(Lists(editor, PageProblemKind::Warning, "Allele 9: ", true)) << "an odd bin";
+        EXPECT_EQ(ProblemsIn(editor).height(), height);
+
+        const auto& shown = ProblemsIn(editor).Shown();
+        const auto row = std::ranges::find(shown, 9, &PageProblem::Allele) - shown.begin();
+        emit ProblemsIn(editor).itemActivated(ProblemsIn(editor).item(static_cast<int>(row)));
+        auto& pane = Named(editor, "ctlPaneAlleleList");
+        EXPECT_EQ(pane.findChild<QTableView*>()->currentIndex().row(), 8);
+        Discard(editor);
+    });
+}
 
 TEST_F(FindingsTest, StandBesideTheLociAndLeadToFieldAndAllele)
 {

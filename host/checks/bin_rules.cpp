@@ -129,6 +129,7 @@ void CheckOddBin(const CheckedLocus& locus, Findings& findings)
 {
     constexpr double mostUnlike = 0.35; // nt; real panels mix bins of +/- 0.4 and +/- 0.7 nt
     constexpr std::size_t fewestBins = 3;
+    constexpr std::size_t neighbourCount = 4;
     std::vector<const AlleleFields*> alleles;
     std::vector<double> sizes;
     std::vector<double> below;
@@ -146,9 +147,11 @@ void CheckOddBin(const CheckedLocus& locus, Findings& findings)
         return;
     for (std::size_t at = 0; at < alleles.size(); ++at)
     {
-        const Neighbours neighbours = NeighboursOf(sizes, at);
-        const double usualBelow = neighbours.Median(below);
-        const double usualAbove = neighbours.Median(above);
+        const Neighbours neighbours(sizes, at, neighbourCount);
+        const double usualBelow =
+            neighbours.Median([&](std::size_t other) { return below[other]; });
+        const double usualAbove =
+            neighbours.Median([&](std::size_t other) { return above[other]; });
         if (std::abs(below[at] - usualBelow) > mostUnlike ||
             std::abs(above[at] - usualAbove) > mostUnlike)
             findings.OfAllele(locus, *alleles[at],

@@ -128,7 +128,7 @@ void CheckOrder(const CheckedLocus& locus, Findings& findings)
 void CheckSizeName(const CheckedLocus& locus, Findings& findings)
 {
     const NamedSizes named = NamedSizesOf(locus);
-    const auto model = SizeModel::Of(named);
+    const auto model = SizeModel::Of(named, locus.Fields.RepeatLength);
     if (!model)
         return;
     if (!model->IsLadder())
@@ -142,7 +142,7 @@ void CheckSizeName(const CheckedLocus& locus, Findings& findings)
     }
     for (std::size_t at = 0; at < named.Alleles.size(); ++at)
     {
-        if (!model->IsMisfit(at, locus.Fields.RepeatLength))
+        if (!model->IsMisfit(at))
             continue;
         const double expected = model->ExpectedSize(at);
         findings.OfAllele(locus, *named.Alleles[at],

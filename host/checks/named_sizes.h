@@ -24,16 +24,17 @@ NamedSizes NamedSizesOf(const CheckedLocus& locus);
 /// How the sizes of a locus follow its names.
 ///
 /// Sizes grow along a straight line, a little more or less than 1 nt a nucleotide, since fragments
-/// don't run exactly as their length; along the line they drift. So a size is compared with the
-/// median of its neighbours, moved along the line. The line's slope is the median of the slopes
-/// between pairs of alleles (Theil 1950, Sen 1968), as far as they are near 1: neither the slope
-/// nor the neighbours' median is moved by a few wrong sizes.
+/// don't run exactly as their length; along the line they drift. The line's slope is the median of
+/// the slopes between pairs of alleles (Theil 1950, Sen 1968), as far as they are near 1. The drift
+/// at an allele is that of the sizes beside it: the median of how far six neighbours are from the
+/// line, moved along the median slope between pairs of them. So a few wrong sizes move neither the
+/// line nor the drift.
 class SizeModel
 {
 public:
     /// None for fewer than four alleles: sex markers and quality sensors have numbers as names and
     /// a repeat length for display only.
-    static std::optional<SizeModel> Of(const NamedSizes& named);
+    static std::optional<SizeModel> Of(const NamedSizes& named, std::int32_t repeatLength);
 
     /// Whether the sizes follow the names at all. They don't where the repeat length is wrong.
     bool IsLadder() const { return m_isLadder; }
@@ -41,19 +42,26 @@ public:
     double AnySlope() const { return m_anySlope; }
 
     /// The size, nt, that neighbours expect of an allele.
-    double ExpectedSize(std::size_t at) const { return m_expected[at]; }
-    /// Whether a size is further off than 0.6 nt and what drift explains, which grows with the
-    /// distance to the neighbours.
-    bool IsMisfit(std::size_t at, std::int32_t repeatLength) const;
+    double ExpectedSize(std::size_t at) const { return m_expectations[at].Size; }
+    /// Whether a size is further from the expected one than sizes are from each other: 0.35 nt and
+    /// the median distance of the neighbours from their drift, at most 0.5 nt, and 0.03 nt for each
+    /// nt that the neighbours are further away than two repeats. Where sizes are given in whole nt
+    /// it is half a nt more, though less than 1 nt.
+    bool IsMisfit(std::size_t at) const;
 
 private:
-    explicit SizeModel(const NamedSizes& named);
+    struct Expectation
+    {
+        double Size = 0;
+        double Tolerance = 0;
+    };
+
+    SizeModel(const NamedSizes& named, std::int32_t repeatLength);
 
     const NamedSizes* m_named;
     bool m_isLadder = false;
     double m_anySlope = 0;
-    std::vector<double> m_expected;
-    std::vector<double> m_distances;
+    std::vector<Expectation> m_expectations;
 };
 
 } // namespace Tamrivo

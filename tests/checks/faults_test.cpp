@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <random>
 #include <set>
 
@@ -208,6 +209,7 @@ TEST(Faults, AreFoundByTheRightRuleAndPanelsWithoutThemAreClean)
     Random random(12);
     int made = 0;
     int found = 0;
+    std::map<std::string, int> missed;
     std::size_t loci = 0;
     std::size_t falseAlarms = 0;
     while (made < faultCount)
@@ -229,9 +231,10 @@ TEST(Faults, AreFoundByTheRightRuleAndPanelsWithoutThemAreClean)
                 return rules.contains(rule) && !before.contains(rule);
             });
             found += isFound ? 1 : 0;
+            missed[fault.What] += isFound ? 0 : 1;
         }
     }
-    EXPECT_GE(found, made * 95 / 100) << "of " << made;
+    EXPECT_GE(found, made * 95 / 100) << "of " << made << "; " << testing::PrintToString(missed);
     EXPECT_LE(falseAlarms, loci / 100) << "in " << loci << " loci";
     RecordProperty("found", found);
     RecordProperty("falseAlarms", static_cast<int>(falseAlarms));

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 namespace Tamrivo
@@ -108,6 +109,24 @@ TEST(CheckRules, EachFindsItsFaultAndNoOther)
         {"size moved with its bin",
          [](Definition& a, Definition&) { a.Named("7") = AlleleAt("7", 129.5); },
          {"size-name A 7"}},
+        {"size by little more than half a nt off",
+         [](Definition& a, Definition&) { a.Named("7") = AlleleAt("7", 129.25); },
+         {"size-name A 7"}},
+        {"a ladder that bends",
+         [](Definition& a, Definition&) {
+             for (AlleleFields& allele : a.Alleles)
+             {
+                 const double off = std::pow((allele.AlleleReal1 - 120.5) / 4.1, 2) / 50;
+                 allele = AlleleAt(allele.AlleleText1, allele.AlleleReal1 + off);
+             }
+         },
+         {}},
+        {"sizes in whole nt",
+         [](Definition& a, Definition&) {
+             for (AlleleFields& allele : a.Alleles)
+                 allele = AlleleAt(allele.AlleleText1, std::round(allele.AlleleReal1), 0.4, 0.4);
+         },
+         {}},
         {"9.3 typed as 93",
          [](Definition& a, Definition&) { a.Named("9.3").AlleleText1 = "93"; },
          {"order A 93", "size-name A 93", "ladder-gap A 93"}},

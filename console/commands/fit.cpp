@@ -2,13 +2,16 @@
 #include "console/commands/fit_output.h"
 #include "console/commands/progress_line.h"
 #include "console/commands/stored_loci.h"
+#include "host/fit/observed_reader.h"
 #include "host/fit/proposal.h"
 #include "host/loci/counts.h"
 #include "host/panels/panel_files.h"
 #include "host/store/store.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <set>
 
 namespace Tamrivo
 {
@@ -33,43 +36,78 @@ std::vector<const AlleleFields*> AllelesOf(Locus& locus)
     return alleles;
 }
 
-std::vector<FittedLocus> FitLoci(Context& context, Store& store, const FitOptions& options,
-                                 const ObservedTable& table)
+PanelFile OpenObserved(Context& context, const std::string& path)
 {
-    const MarkerLines lines(table);
-    std::vector<FittedLocus> fitted;
-    for (const std::string& tag : options.Tags)
+    if (path == "-")
+        return {"standard input", {&context.In, [](std::istream*) {}}};
+    return OpenPanelFile(path);
+}
+
+std::vector<FittedLocus> FindLoci(Store& store, const std::vector<std::string>& tags)
+{
+    std::vector<FittedLocus> loci;
+    for (const std::string& tag : tags)
+        loci.push_back({RequireLocus(store, tag), {}, {}});
+    return loci;
+}
+
+MarkerSizes ReadSizes(ObservedReader& table, const std::vector<FittedLocus>& loci,
+                      const LineProgress& progress)
+{
+    std::vector<std::string> markers;
+    for (const FittedLocus& locus : loci)
     {
-        FittedLocus locus{RequireLocus(store, tag), {}, {}};
-        locus.Lines = lines.Of(locus.Locus->LocusTag(), locus.Locus->LocusName);
-        fitted.push_back(std::move(locus));
+        markers.push_back(locus.Locus->LocusTag());
+        markers.push_back(locus.Locus->LocusName);
     }
-    ProgressLine progress(context.Err);
-    const LociProgress counting = progress.Counting("Fitting");
-    for (FittedLocus& locus : fitted)
+    return MarkerSizes(table, markers, progress);
+}
+
+void FitLoci(std::vector<FittedLocus>& loci, const MarkerSizes& observed,
+             const std::string& tableName, const LociProgress& counting)
+{
+    for (FittedLocus& locus : loci)
     {
-        const std::vector<double> sizes = table.SizesIn(locus.Lines);
-        if (sizes.empty())
+        const auto* const marker = observed.Of(locus.Locus->LocusTag(), locus.Locus->LocusName);
+        if (marker == nullptr || marker->second.Sizes.empty())
             throw Failure(ErrorNumber::InvalidArgument, "Fit",
-                          options.Observed + " has no peaks of " + locus.Locus->LocusTag() +
+                          tableName + " has no peaks of " + locus.Locus->LocusTag() +
                               "; expected its tag or name in the column Marker");
-        locus.Fit = FitLadder(*locus.Locus, AllelesOf(*locus.Locus), sizes);
-        counting(static_cast<std::size_t>(&locus - fitted.data()), fitted.size());
+        locus.Marker = marker->first;
+        locus.Fit = FitLadder(*locus.Locus, AllelesOf(*locus.Locus), marker->second.Sizes);
+        counting(static_cast<std::size_t>(&locus - loci.data()), loci.size());
     }
-    return fitted;
+}
+
+/// `--peaks` reads the table a second time.
+void WriteCalledPeaks(Context& context, const FitOptions& options,
+                      const std::vector<FittedLocus>& fitted, const LineProgress& progress)
+{
+    ObservedReader table(OpenObserved(context, options.Observed));
+    WritePeaks(options.Peaks, table, fitted, progress);
+}
+
+void RequireReadTwice(const std::string& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        throw Failure(ErrorNumber::InvalidArgument, "Fit",
+                      "--peaks reads the table twice, which " +
+                          (path == "-" ? "standard input" : path) +
+                          " doesn't allow; store it in a file and name that");
 }
 
 /// One line that counts the lines of markers that weren't asked for.
-void ReportIgnored(Context& context, const ObservedTable& table,
+void ReportIgnored(Context& context, const MarkerSizes& observed,
                    const std::vector<FittedLocus>& fitted)
 {
-    std::vector<bool> isUsed(table.Lines.size(), false);
+    std::set<std::string> used;
+    std::size_t ignored = observed.LineCount();
     for (const FittedLocus& locus : fitted)
     {
-        for (const std::size_t line : locus.Lines)
-            isUsed[line] = true;
+        if (used.insert(locus.Marker).second)
+            ignored -= observed.All().at(locus.Marker).Lines;
     }
-    const auto ignored = std::ranges::count(isUsed, false);
     if (ignored > 0)
         context.Err << "Ignored " << ignored << (ignored == 1 ? " line" : " lines")
                     << " of markers that weren't asked for.\n";
@@ -98,20 +136,37 @@ void Apply(Store& store, const std::vector<FittedLocus>& fitted)
     transaction.Commit();
 }
 
+/// The cautions of a table for programs, which has no room for them.
+void ReportCautions(Context& context, const std::vector<FittedLocus>& fitted)
+{
+    for (const FittedLocus& locus : fitted)
+    {
+        for (const std::string& caution : locus.Fit.Cautions)
+            context.Err << locus.Locus->LocusTag() << ": " << caution << ".\n";
+    }
+}
+
 void Fit(Context& context, const FitOptions& options)
 {
-    const PanelText text = LoadPanelFile(options.Observed);
-    const ObservedTable table = ReadObservedTable(text.Text, text.Name);
-    Store store(context.StoreLocation);
-    const std::vector<FittedLocus> fitted = FitLoci(context, store, options, table);
+    ObservedReader table(OpenObserved(context, options.Observed));
     if (!options.Peaks.empty())
-        WritePeaks(options.Peaks, table, fitted);
+        RequireReadTwice(options.Observed);
+    Store store(context.StoreLocation);
+    ProgressLine progress(context.Err);
+    std::vector<FittedLocus> fitted = FindLoci(store, options.Tags);
+    const MarkerSizes observed = ReadSizes(table, fitted, progress.CountingLines("Reading"));
+    FitLoci(fitted, observed, table.Name(), progress.Counting("Fitting"));
+    if (!options.Peaks.empty())
+        WriteCalledPeaks(context, options, fitted, progress.CountingLines("Writing"));
+    progress.Clear();
     if (options.Apply)
     {
         store.SetReason(context.Reason);
         Apply(store, fitted);
     }
-    ReportIgnored(context, table, fitted);
+    ReportIgnored(context, observed, fitted);
+    if (options.Format == OutputFormat::Tsv)
+        ReportCautions(context, fitted);
     PrintFit(context.Out, options.Format, fitted);
     const auto proposals = static_cast<std::size_t>(std::ranges::count_if(
         fitted, [](const FittedLocus& locus) { return locus.Fit.IsProposed; }));
@@ -134,7 +189,7 @@ void AddFitCommand(CLI::App& program, Context& context)
         "  tamrivo fit TH01 --observed sizes.tsv --format json   for a program\n\n"
         "The table of sizes has a line a peak and the columns Sample, Marker (tag or name of the\n"
         "locus) and Size (nt), separated by tabs or commas. At least 8 sizes of 3 alleles are\n"
-        "needed; sizes without a ladder in them get no proposal.\n");
+        "needed; sizes without a ladder in them get no proposal. - is standard input.\n");
     const auto options = std::make_shared<FitOptions>();
     command.add_option("TAG", options->Tags, "The locus tags; case doesn't count")
         ->required()

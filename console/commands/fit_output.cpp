@@ -2,13 +2,15 @@
 
 #include "console/commands/aligned_table.h"
 #include "host/fit/fit_words.h"
+#include "host/fit/observed_reader.h"
 #include "host/fit/proposal.h"
+#include "host/loci/keys.h"
 #include "host/panels/cells.h"
 #include "host/panels/whole_file.h"
 #include "host/reports/locus_listing.h"
 
-#include <algorithm>
-#include <utility>
+#include <unordered_map>
+#include <vector>
 
 namespace Tamrivo
 {
@@ -21,7 +23,7 @@ nlohmann::ordered_json FitJson(const FittedLocus& locus)
     const LadderFit& fit = locus.Fit;
     nlohmann::ordered_json json{{"tag", locus.Locus->LocusTag()},
                                 {"proposed", fit.IsProposed},
-                                {"reason", fit.Reason},
+                                {"reason", ReasonText(fit)},
                                 {"period", FitFigure(fit.Period)},
                                 {"periodError", FitFigure(fit.PeriodError)},
                                 {"offset", FitFigure(fit.Offset)},
@@ -69,19 +71,6 @@ void PrintFitForPeople(std::ostream& out, const FittedLocus& locus)
     out << '\n';
 }
 
-/// The fit of each line's locus; null where none is proposed.
-std::vector<const FittedLocus*> LocusOfLines(const ObservedTable& table,
-                                             std::span<const FittedLocus> fitted)
-{
-    std::vector<const FittedLocus*> locusOfLine(table.Lines.size(), nullptr);
-    for (const FittedLocus& locus : fitted)
-    {
-        for (const std::size_t line : locus.Lines)
-            locusOfLine[line] = locus.Fit.IsProposed ? &locus : nullptr;
-    }
-    return locusOfLine;
-}
-
 /// What stands behind the table's own cells for a size; null: the line has none.
 std::vector<std::string> CallCells(const FittedLocus* locus, const double* size)
 {
@@ -93,6 +82,13 @@ std::vector<std::string> CallCells(const FittedLocus* locus, const double* size)
         return {tag, "", ""};
     return {tag, called->Fields.AlleleText1,
             NumberCell(FitFigure(*size - called->Fields.AlleleReal1))};
+}
+
+std::vector<std::string> WithCells(std::vector<std::string> cells,
+                                   const std::vector<std::string>& further)
+{
+    cells.insert(cells.end(), further.begin(), further.end());
+    return cells;
 }
 
 } // namespace
@@ -115,29 +111,32 @@ void PrintFit(std::ostream& out, OutputFormat format, std::span<const FittedLocu
     }
 }
 
-void WritePeaks(const std::string& path, const ObservedTable& table,
-                std::span<const FittedLocus> fitted)
+void WritePeaks(const std::string& path, ObservedReader& table, std::span<const FittedLocus> fitted,
+                const LineProgress& progress)
 {
-    Table peaks;
-    for (const std::string& title : table.Titles)
-        peaks.Columns.push_back({title});
-    for (const char* const title : {"Tag", "Called", "Residual"})
-        peaks.Columns.push_back({title});
-    const auto locusOfLine = LocusOfLines(table, fitted);
-    for (std::size_t at = 0; at < table.Lines.size(); ++at)
-    {
-        const auto& [cells, sizes] = table.Lines[at];
-        for (std::size_t number = 0; number < std::max<std::size_t>(1, sizes.size()); ++number)
+    constexpr std::size_t linesAtOnce = 4096;
+    std::unordered_map<std::string, const FittedLocus*> locusOfMarker;
+    for (const FittedLocus& locus : fitted)
+        locusOfMarker[locus.Marker] = locus.Fit.IsProposed ? &locus : nullptr;
+    WriteWholeFile(path, [&](std::ostream& out) {
+        PrintTsvRow(out, WithCells(table.Titles(), {"Tag", "Called", "Residual"}));
+        ObservedLine line;
+        while (table.Next(line))
         {
-            auto& row = peaks.Rows.emplace_back(cells);
-            if (sizes.size() > 1)
-                row[table.SizeColumn] = NumberCell(sizes[number]);
-            const double* const size = sizes.empty() ? nullptr : &sizes[number];
-            for (std::string& cell : CallCells(locusOfLine[at], size))
-                row.push_back(std::move(cell));
+            if (table.LineNumber() % linesAtOnce == 0)
+                progress(table.LineNumber());
+            const auto found = locusOfMarker.find(LookupKey(line.Cells[table.MarkerColumn()]));
+            const FittedLocus* const locus = found == locusOfMarker.end() ? nullptr : found->second;
+            if (line.Sizes.empty())
+                PrintTsvRow(out, WithCells(line.Cells, CallCells(locus, nullptr)));
+            for (const double size : line.Sizes)
+            {
+                if (line.Sizes.size() > 1)
+                    line.Cells[table.SizeColumn()] = NumberCell(size);
+                PrintTsvRow(out, WithCells(line.Cells, CallCells(locus, &size)));
+            }
         }
-    }
-    WriteWholeFile(path, [&peaks](std::ostream& out) { PrintTsv(out, peaks); });
+    });
 }
 
 } // namespace Tamrivo

@@ -22,7 +22,18 @@ ProgressLine::ProgressLine(std::ostream& err)
 
 LociProgress ProgressLine::Counting(const char* what)
 {
-    return [this, what](std::size_t done, std::size_t total) { Show(what, done, total); };
+    return [this, what](std::size_t done, std::size_t total) {
+        if (IsDue())
+            Show() << what << ": " << done << " of " << total << " loci" << std::flush;
+    };
+}
+
+std::function<void(std::size_t)> ProgressLine::CountingLines(const char* what)
+{
+    return [this, what](std::size_t lines) {
+        if (IsDue())
+            Show() << what << ": " << lines << " lines" << std::flush;
+    };
 }
 
 void ProgressLine::Clear()
@@ -32,14 +43,16 @@ void ProgressLine::Clear()
     m_isShown = false;
 }
 
-void ProgressLine::Show(const char* what, std::size_t done, std::size_t total)
+bool ProgressLine::IsDue() const
 {
-    const auto now = Clock::now();
-    if (!m_isTerminal || now < m_next)
-        return;
-    m_next = now + std::chrono::milliseconds(200);
+    return m_isTerminal && Clock::now() >= m_next;
+}
+
+std::ostream& ProgressLine::Show()
+{
+    m_next = Clock::now() + std::chrono::milliseconds(200);
     m_isShown = true;
-    m_err << eraseLine << what << ": " << done << " of " << total << " loci" << std::flush;
+    return m_err << eraseLine;
 }
 
 } // namespace Tamrivo

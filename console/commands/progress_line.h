@@ -4,12 +4,13 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <ostream>
 
 namespace Tamrivo
 {
 
-/// A line on the terminal that counts the loci of work that takes longer than a second. It goes
+/// A line on the terminal that counts what is done of work that takes longer than a second. It goes
 /// when the work is done. Where standard error is no terminal there is none.
 class ProgressLine
 {
@@ -21,10 +22,13 @@ public:
 
     /// Shows "WHAT: 3 of 7 loci".
     LociProgress Counting(const char* what);
+    /// Shows "WHAT: 3000000 lines".
+    std::function<void(std::size_t)> CountingLines(const char* what);
     void Clear();
 
 private:
-    void Show(const char* what, std::size_t done, std::size_t total);
+    bool IsDue() const;
+    std::ostream& Show();
 
     std::ostream& m_err;
     bool m_isTerminal;

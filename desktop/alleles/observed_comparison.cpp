@@ -4,12 +4,13 @@
 #include "desktop/alleles/allele_picture.h"
 #include "desktop/alleles/page_fields.h"
 #include "desktop/common/actions.h"
+#include "desktop/common/long_work.h"
 #include "desktop/common/text.h"
 #include "editor/locus_editor_form.h"
 #include "host/fit/fit_words.h"
-#include "host/fit/observed_sizes.h"
+#include "host/fit/marker_sizes.h"
+#include "host/fit/observed_reader.h"
 #include "host/fit/proposal.h"
-#include "host/panels/panel_files.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -61,14 +62,15 @@ void ObservedComparison::Read(const QString& path)
     const auto& locus = m_pane.ShownLocus();
     if (!locus)
         throw User::Refusal("The allele list shows no locus");
-    const PanelText text = LoadPanelFile(FromQString(path));
-    const ObservedTable table = ReadObservedTable(text.Text, text.Name);
-    const auto lines = MarkerLines(table).Of(locus->LocusTag(), locus->LocusName);
-    std::vector<double> sizes = table.SizesIn(lines);
-    if (sizes.empty())
-        throw User::Refusal(text.Name + " has no sizes of " + locus->LocusTag() +
+    ObservedReader table(OpenPanelFile(FromQString(path)));
+    LongWork work("Reading the sizes...", this);
+    const MarkerSizes observed(table, {locus->LocusTag(), locus->LocusName},
+                               [&work](std::size_t /*lines*/) { work.GoOn(); });
+    const auto* const marker = observed.Of(locus->LocusTag(), locus->LocusName);
+    if (marker == nullptr || marker->second.Sizes.empty())
+        throw User::Refusal(table.Name() + " has no sizes of " + locus->LocusTag() +
                             "; expected its tag or name in the column Marker");
-    m_sizes = std::move(sizes);
+    m_sizes = marker->second.Sizes;
     m_locus = locus.get();
     m_fit.reset();
     Show();

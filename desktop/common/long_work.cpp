@@ -10,7 +10,7 @@ namespace Tamrivo
 
 int LongWork::s_atWork = 0;
 
-LongWork::LongWork(Store& store, const QString& what, QWidget* parent)
+LongWork::LongWork(const QString& what, QWidget* parent)
     : m_dialog(what, "Cancel", 0, 0, parent)
 {
     m_dialog.setObjectName("longWork");
@@ -20,8 +20,12 @@ LongWork::LongWork(Store& store, const QString& what, QWidget* parent)
     m_dialog.setWindowTitle("Please Wait");
     m_sinceShown.start();
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    m_progress = store.OnProgress([this] { GoOn(); });
     ++s_atWork;
+}
+
+LongWork::LongWork(Store& store, const QString& what, QWidget* parent) : LongWork(what, parent)
+{
+    m_progress = store.OnProgress([this] { GoOn(); });
 }
 
 LongWork::~LongWork()

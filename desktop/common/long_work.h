@@ -16,8 +16,9 @@ class Store;
 class LongWork
 {
 public:
-    /// Watches the store, which must outlive it.
     /// @param what what the person is told, such as "Reading the loci..."
+    LongWork(const QString& what, QWidget* parent);
+    /// Watches the store, which must outlive it.
     LongWork(Store& store, const QString& what, QWidget* parent);
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
@@ -29,11 +30,10 @@ public:
 
     /// Shows how much is done. Raises `Cancelled` once the person has cancelled.
     void Show(std::size_t done, std::size_t total);
-
-private:
-    /// Lets the person see that the work goes on, and cancel it: raises `Cancelled`.
+    /// Shows that the work goes on, where nobody knows how far it is. Raises `Cancelled` as well.
     void GoOn();
 
+private:
     static int s_atWork;
 
     QProgressDialog m_dialog;

@@ -2,12 +2,13 @@
 
 #include "desktop/common/actions.h"
 #include "desktop/common/icons.h"
+#include "desktop/common/long_work.h"
 #include "desktop/common/save_file.h"
 #include "desktop/common/text.h"
 #include "desktop/lanes/lane_picture.h"
-#include "host/fit/observed_sizes.h"
+#include "host/fit/marker_sizes.h"
+#include "host/fit/observed_reader.h"
 #include "host/loci/keys.h"
-#include "host/panels/panel_files.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -121,12 +122,12 @@ LaneDetails LocusLanes::DetailsOf(std::size_t locus)
 
 void LocusLanes::ShowObserved(const QString& path)
 {
-    const PanelText text = LoadPanelFile(FromQString(path));
-    const ObservedTable table = ReadObservedTable(text.Text, text.Name);
+    ObservedReader table(OpenPanelFile(FromQString(path)));
+    LongWork work("Reading the sizes...", this);
+    const MarkerSizes observed(table, {}, [&work](std::size_t /*lines*/) { work.GoOn(); });
     m_observed.clear();
-    const MarkerLines lines(table);
-    for (const auto& [marker, ofMarker] : lines.All())
-        m_observed[marker] = table.SizesIn(ofMarker);
+    for (const auto& [marker, ofMarker] : observed.All())
+        m_observed[marker] = ofMarker.Sizes;
     m_picture->ForgetDetails();
 }
 

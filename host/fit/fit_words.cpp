@@ -34,12 +34,14 @@ std::vector<std::string> WordsOf(const LadderFit& fit)
     constexpr double ten = 10;
     if (!fit.IsProposed)
         return {"No proposal. " + fit.Reason + "."};
-    std::vector<std::string> words{"Period " + WithError(fit.Period, fit.PeriodError) +
-                                       ", offset " + WithError(fit.Offset, fit.OffsetError) + ".",
-                                   "Mean residual " + Text(fit.MeanResidual) + " nt, in bins " +
-                                       Text(std::round(thousand * fit.ShareInBins) / ten) +
-                                       " %, the ladder " + Text(std::round(ten * fit.Gain) / ten) +
-                                       " times as clear as in random sizes."};
+    std::vector<std::string> words;
+    for (const std::string& caution : fit.Cautions)
+        words.push_back("Caution: " + caution + ".");
+    words.push_back("Period " + WithError(fit.Period, fit.PeriodError) + ", offset " +
+                    WithError(fit.Offset, fit.OffsetError) + ".");
+    words.push_back("Mean residual " + Text(fit.MeanResidual) + " nt, in bins " +
+                    Text(std::round(thousand * fit.ShareInBins) / ten) + " %, the ladder " +
+                    Text(std::round(ten * fit.Gain) / ten) + " times as clear as in random sizes.");
     if (!fit.Unplaced.empty())
     {
         std::string sizes;
@@ -48,6 +50,14 @@ std::vector<std::string> WordsOf(const LadderFit& fit)
         words.push_back("Not placed: " + sizes + " nt.");
     }
     return words;
+}
+
+std::string ReasonText(const LadderFit& fit)
+{
+    std::string text = fit.Reason;
+    for (const std::string& caution : fit.Cautions)
+        text.append(text.empty() ? "" : ". ").append(caution);
+    return text;
 }
 
 } // namespace Tamrivo

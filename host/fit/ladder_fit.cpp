@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "host/fit/nucleotide_lattice.h"
 #include "host/fit/periodogram.h"
+#include "host/fit/proposal_cautions.h"
 #include "host/fit/repeat_anchor.h"
 
 #include <boost/math/statistics/univariate_statistics.hpp>
@@ -35,7 +36,10 @@ class Fitter
 public:
     Fitter(const LocusFields& locus, std::span<const AlleleFields* const> known,
            std::span<const double> sizes)
-        : m_locus(locus), m_anchor(locus, known), m_sizes(sizes.begin(), sizes.end())
+        : m_locus(locus),
+          m_known(known),
+          m_anchor(locus, known),
+          m_sizes(sizes.begin(), sizes.end())
     {
         std::ranges::sort(m_sizes);
     }
@@ -57,6 +61,7 @@ public:
             m_fit.Reason = TooFewNames(m_fit.Alleles.size());
             m_fit.Alleles.clear();
         }
+        m_fit.Cautions = CautionsOf(m_locus, m_known, m_fit.Alleles);
         return std::move(m_fit);
     }
 
@@ -201,6 +206,7 @@ private:
     }
 
     const LocusFields& m_locus;
+    std::span<const AlleleFields* const> m_known;
     RepeatAnchor m_anchor;
     std::vector<double> m_sizes;
     LadderFit m_fit;

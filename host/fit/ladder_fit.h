@@ -26,7 +26,8 @@ struct ProposedAllele
 struct LadderFit
 {
     bool IsProposed = false;
-    std::string Reason; ///< Why nothing is proposed, a sentence without a full stop.
+    std::string Reason;                ///< Why nothing is proposed, a sentence without a full stop.
+    std::vector<std::string> Cautions; ///< What to look at before the proposal is taken over.
 
     double Period = 0;       ///< nt a repeat
     double PeriodError = 0;  ///< Standard error, nt.

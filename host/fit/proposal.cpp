@@ -10,11 +10,6 @@ namespace Tamrivo
 namespace
 {
 
-bool HasName(const AlleleFields& allele, const std::string& name)
-{
-    return EqualNoCase(Trim(allele.AlleleText1), name);
-}
-
 /// The allele that the locus has, moved to where the proposal has it.
 AlleleFields Moved(AlleleFields known, const AlleleFields& proposed)
 {
@@ -28,13 +23,18 @@ AlleleFields Moved(AlleleFields known, const AlleleFields& proposed)
 bool IsApart(const AlleleFields& allele, const LadderFit& fit)
 {
     return std::ranges::none_of(fit.Alleles, [&allele](const ProposedAllele& proposed) {
-        return HasName(allele, proposed.Fields.AlleleText1) ||
+        return HasAlleleName(allele, proposed.Fields.AlleleText1) ||
                (allele.AlleleReal2 < proposed.Fields.AlleleReal3 &&
                 proposed.Fields.AlleleReal2 < allele.AlleleReal3);
     });
 }
 
 } // namespace
+
+bool HasAlleleName(const AlleleFields& allele, const std::string& name)
+{
+    return EqualNoCase(Trim(allele.AlleleText1), name);
+}
 
 std::vector<AlleleFields> WithProposal(std::span<const AlleleFields* const> known,
                                        const LadderFit& fit)
@@ -43,7 +43,7 @@ std::vector<AlleleFields> WithProposal(std::span<const AlleleFields* const> know
     for (const ProposedAllele& proposed : fit.Alleles)
     {
         const auto same = std::ranges::find_if(known, [&proposed](const AlleleFields* allele) {
-            return HasName(*allele, proposed.Fields.AlleleText1);
+            return HasAlleleName(*allele, proposed.Fields.AlleleText1);
         });
         alleles.push_back(same == known.end() ? proposed.Fields : Moved(**same, proposed.Fields));
     }

@@ -13,6 +13,9 @@ namespace Tamrivo
 std::vector<AlleleFields> WithProposal(std::span<const AlleleFields* const> known,
                                        const LadderFit& fit);
 
+/// Whether the allele has the name, case and blanks around it aside.
+bool HasAlleleName(const AlleleFields& allele, const std::string& name);
+
 /// The proposed allele whose bin has the size, or none.
 const ProposedAllele* CallSize(const LadderFit& fit, double size);
 

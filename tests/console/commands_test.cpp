@@ -259,6 +259,33 @@ TEST_F(Commands, CheckFindsMistakesInStoreAndFile)
     EXPECT_EQ(Run({"check", "--without", "spelling"}), 2);
 }
 
+TEST_F(Commands, FitProposesBinsAndCallsEachPeak)
+{
+    EXPECT_EQ(Run({"import", Write("panels.tsv", table)}), 0);
+    std::string lines = "Sample,Marker,Size,Dye\nS,SE33,99,\"a,b\"\n";
+    for (const char* sizes : {"\"94.1,98.1\"", "\"94.2,102.1\"", "98,", "\"102,106.1\"", "152"})
+        lines += std::string("S,d3s1358,") + sizes + "\n";
+    const std::string file = Write("sizes.csv", lines);
+    const auto fit = Json({"fit", "D3S1358", "--observed", file, "--peaks", Path("peaks.tsv")})[0];
+    EXPECT_EQ(m_err, "Ignored 1 line of markers that weren't asked for.\n");
+    EXPECT_TRUE(fit["proposed"]) << fit;
+    EXPECT_THAT(std::string(fit["reason"]), StartsWith("Outside the range of 92 to 149 nt"));
+    EXPECT_EQ(fit["alleles"][3]["name"], "11");
+    std::stringstream peaks;
+    peaks << std::ifstream(Path("peaks.tsv")).rdbuf();
+    EXPECT_THAT(peaks.str(), AllOf(StartsWith("Sample\tMarker\tSize\tDye\tTag\tCalled\tResidual\n"
+                                              "S\tSE33\t99\ta,b\t\t\t\n"
+                                              "S\td3s1358\t94.1\t\tD3S1358\t8\t"),
+                                   HasSubstr("S\td3s1358\t106.1\t\tD3S1358\t11\t0\n")));
+
+    EXPECT_EQ(Run({"fit", "D3S1358", "--observed", "-"}, lines), 0);
+    EXPECT_THAT(m_out, HasSubstr("Caution: Outside the range of 92 to 149 nt"));
+    EXPECT_EQ(Run({"fit", "D3S1358", "--observed", "-", "--peaks", Path("none")}, lines), 1);
+    EXPECT_THAT(m_err, HasSubstr("store it in a file"));
+    EXPECT_EQ(Run({"fit", "TH01 (P)", "--observed", file, "--apply"}), 1);
+    EXPECT_EQ(Json({"show", "D3S1358"})["Alleles"].size(), 1U);
+}
+
 } // namespace
 
 } // namespace Tamrivo

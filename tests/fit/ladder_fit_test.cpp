@@ -1,5 +1,6 @@
 #include "core/error.h"
-#include "host/fit/observed_sizes.h"
+#include "host/fit/marker_sizes.h"
+#include "host/fit/observed_reader.h"
 #include "host/fit/proposal.h"
 #include "host/loci/repeat_name.h"
 
@@ -193,21 +194,102 @@ TEST(LadderFit, FollowsTheNamesThatTheLocusHasAndKeepsWhatWasNotSeen)
                 testing::StartsWith("Too few names"));
 }
 
-TEST(ObservedTable, IsReadOrRefusedWithThePlace)
+TEST(LadderFit, WarnsOfNamesThatDisagreeAndOfAllelesOutsideTheRange)
 {
-    const ObservedTable table = ReadObservedTable(
-        "\xEF\xBB\xBFMarker,size,Sample,Dye\r\n\"TH01\",\"120.5, 124\",S1,\"a \"\"b\"\"\"\r\n",
-        "t");
-    ASSERT_THAT(table.Lines, testing::SizeIs(1));
-    EXPECT_THAT(table.Lines[0].Sizes, testing::ElementsAre(120.5, 124));
-    EXPECT_EQ(table.Lines[0].Cells[3], "a \"b\"");
+    const auto ladder = [](int first, double start) {
+        std::vector<AlleleFields> alleles(9);
+        for (std::size_t at = 0; at < alleles.size(); ++at)
+        {
+            alleles[at].AlleleText1 = std::to_string(first + static_cast<int>(at));
+            alleles[at].AlleleReal1 = start + 4.0 * static_cast<double>(at);
+            alleles[at].AlleleReal2 = alleles[at].AlleleReal1 - 0.7;
+            alleles[at].AlleleReal3 = alleles[at].AlleleReal1 + 0.7;
+        }
+        return alleles;
+    };
+    // Alleles 9 to 12 of a kit with 9 at 118 nt.
+    const double sizes[] = {118.0, 118.1, 122.0, 122.1, 126.0, 126.1, 130.0, 130.1};
+    const struct
+    {
+        double Start;
+        std::int32_t RangeEnd;
+        std::vector<std::string> Cautions;
+    } cases[] = {
+        {110, 200, {}},
+        {110.4, 200, {}},
+        {110.6, 200, {"The locus has other names where the sizes are: 8.3 at 118.05 nt is 9, "}},
+        {107, 200, {"The locus has 0 of the 4 proposed names; new are 9.3 at 118.05 nt, "}},
+        {110, 128, {"Outside the range of 100 to 128 nt: 12 at 130.05 nt. "}},
+    };
+    for (const auto& [start, rangeEnd, expected] : cases)
+    {
+        const std::vector<AlleleFields> alleles = ladder(7, start);
+        std::vector<const AlleleFields*> known;
+        for (const AlleleFields& allele : alleles)
+            known.push_back(&allele);
+        LocusFields fields;
+        fields.FragStart = 100;
+        fields.FragEnd = rangeEnd;
+        const LadderFit fit = FitLadder(fields, known, sizes);
+        ASSERT_TRUE(fit.IsProposed) << fit.Reason;
+        std::vector<testing::Matcher<std::string>> starts;
+        for (const std::string& text : expected)
+            starts.push_back(testing::StartsWith(text));
+        EXPECT_THAT(fit.Cautions, testing::ElementsAreArray(starts)) << start;
+    }
+}
+
+ObservedReader ReaderOf(const std::string& text)
+{
+    return ObservedReader(PanelFileOf("t", text));
+}
+
+TEST(ObservedReader, ReadsOrRefusesWithThePlace)
+{
+    ObservedReader table = ReaderOf("\xEF\xBB\xBFMarker,size,Sample,Dye\r\n\r\n"
+                                    "\"TH01\",\"120.5, 124\",S1,\"a \"\"b\"\"\"\r\n"
+                                    "FGA,,S2");
+    ObservedLine line;
+    ASSERT_TRUE(table.Next(line));
+    EXPECT_THAT(line.Sizes, testing::ElementsAre(120.5, 124));
+    EXPECT_EQ(line.Cells[3], "a \"b\"");
+    ASSERT_TRUE(table.Next(line));
+    EXPECT_THAT(line.Sizes, testing::IsEmpty());
+    EXPECT_THAT(line.Cells, testing::ElementsAre("FGA", "", "S2", ""));
+    EXPECT_FALSE(table.Next(line));
 
     const std::string titles = "Sample\tMarker\tSize\n";
     for (const std::string& text :
          {std::string(), std::string("Sample\tMarker\nS\tM\n"), titles, titles + "S\tM\t12a\n",
           titles + "S\tM\t-1\n", titles + "S\tM\t1e308\n", titles + "S\tM\tnan\n",
-          titles + "S\tM\t1\t2\n", titles + std::string(MostObservedLines + 1, '\n')})
-        EXPECT_THROW(ReadObservedTable(text, "t"), Failure) << text.substr(0, 40);
+          titles + "S\tM\t1\t2\n", titles + std::string(LineReader::LongestLine + 1, '1')})
+        EXPECT_THROW(
+            {
+                ObservedReader refused = ReaderOf(text);
+                while (refused.Next(line))
+                {}
+            },
+            Failure)
+            << text.substr(0, 40);
+}
+
+TEST(MarkerSizes, AreThoseOfTheTagElseOfTheNameAndNotTooMany)
+{
+    const std::string lines = "Sample\tMarker\tSize\nS\tD3\t1,2\nS\td3 \t3\nS\tX\t4\nS\t\t5\n";
+    ObservedReader table = ReaderOf(lines);
+    const MarkerSizes some(table, {"D3 (P)", "D3", ""});
+    EXPECT_THAT(some.Of("D3 (P)", "D3")->second.Sizes, testing::ElementsAre(1, 2, 3));
+    EXPECT_EQ(some.Of("D3 (P)", ""), nullptr);
+    EXPECT_THAT(some.All(), testing::Not(testing::Contains(testing::Key("X"))));
+    EXPECT_EQ(some.LineCount(), 4U);
+
+    std::string many = "Sample\tMarker\tSize\nS\tX\t1";
+    for (std::size_t size = 0; size < MarkerSizes::MostOfMarker / 2; ++size)
+        many += "\nS\tX\t1,2";
+    ObservedReader unwanted = ReaderOf(many);
+    EXPECT_EQ(MarkerSizes(unwanted, {"D3"}).LineCount(), MarkerSizes::MostOfMarker / 2 + 1);
+    ObservedReader wanted = ReaderOf(many);
+    EXPECT_THROW(MarkerSizes(wanted, {"x"}), Failure);
 }
 
 } // namespace

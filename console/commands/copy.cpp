@@ -44,6 +44,7 @@ void Copy(Context& context, const CopyOptions& options)
             context.Out << "The two stores differ, first in the table " << table << ".\n";
         return;
     }
+    to.RequireWritable();
     CopyStore(from, to);
     context.Out << "Copied " << from.Name() << " to " << to.Name() << ".\n";
 }

@@ -1,9 +1,9 @@
 #include "console/commands/command.h"
+#include "console/commands/store_to_change.h"
 #include "console/commands/stored_loci.h"
 #include "host/library/changes.h"
 #include "host/loci/counts.h"
 #include "host/store/parameter_store.h"
-#include "host/store/store.h"
 
 #include <sstream>
 #include <vector>
@@ -16,8 +16,7 @@ namespace
 
 void Delete(Context& context, const std::vector<std::string>& tags)
 {
-    Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
+    StoreToChange store(context);
     std::ostringstream done;
     for (const std::string& tag : tags)
     {

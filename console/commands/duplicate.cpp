@@ -1,7 +1,7 @@
 #include "console/commands/command.h"
+#include "console/commands/store_to_change.h"
 #include "console/commands/stored_loci.h"
 #include "host/library/changes.h"
-#include "host/store/store.h"
 
 namespace Tamrivo
 {
@@ -11,8 +11,7 @@ namespace
 
 void Duplicate(Context& context, const std::string& tag, const std::string& newTag)
 {
-    Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
+    StoreToChange store(context);
     const std::string original = RequireLocus(store, tag)->LocusTag();
     DuplicateLocus(store, tag, newTag);
     context.Out << "Stored a copy of " << original << " as " << newTag << ".\n";

@@ -3,8 +3,8 @@
 #include "console/commands/aligned_table.h"
 #include "console/commands/command.h"
 #include "console/commands/output_format.h"
+#include "console/commands/store_to_change.h"
 #include "core/error.h"
-#include "host/store/store.h"
 
 #include <memory>
 
@@ -37,7 +37,6 @@ Table DyesTable(Store& store)
 void ListDyes(Context& context, OutputFormat format)
 {
     Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
     if (format == OutputFormat::Tsv)
         PrintTsv(context.Out, DyesTable(store));
     else
@@ -57,7 +56,7 @@ void SetDyes(Context& context, const SetOptions& options)
     for (const std::string& text : options.Dyes)
         dyes.push_back(ParseDye(text));
     const Dyes checked(std::move(dyes));
-    Store store(context.StoreLocation);
+    StoreToChange store(context);
     store.SetDyes(checked, options.Recolor);
     context.Out << "The store has " << checked.Count() << " dyes.\n";
 }

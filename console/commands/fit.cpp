@@ -152,6 +152,8 @@ void Fit(Context& context, const FitOptions& options)
     if (!options.Peaks.empty())
         RequireReadTwice(options.Observed);
     Store store(context.StoreLocation);
+    if (options.Apply)
+        store.RequireWritable();
     ProgressLine progress(context.Err);
     std::vector<FittedLocus> fitted = FindLoci(store, options.Tags);
     const MarkerSizes observed = ReadSizes(table, fitted, progress.CountingLines("Reading"));

@@ -164,6 +164,8 @@ void Import(Context& context, ImportOptions options)
         RefuseImport(SourceOf(options) + " can't be read");
 
     Store store(context.StoreLocation);
+    if (!options.DryRun)
+        store.RequireWritable();
     store.SetReason(context.Reason);
     ProgressLine progress(context.Err);
     ImportPlan plan = PlanImport(reading.Markers, options.Choice, store,

@@ -1,7 +1,7 @@
 #include "console/commands/command.h"
+#include "console/commands/store_to_change.h"
 #include "host/store/parameter_store.h"
 #include "host/store/project_changes.h"
-#include "host/store/store.h"
 
 #include <functional>
 #include <memory>
@@ -35,8 +35,7 @@ void AddChange(CLI::App& command, Context& context, const char* name, const char
     change.fallthrough(); // --store may stand at the end.
     AddReasonOption(change, context);
     change.callback([&context, names, done, work] {
-        Store store(context.StoreLocation);
-        store.SetReason(context.Reason);
+        StoreToChange store(context);
         work(store, *names);
         context.Out << done << ' ' << names->First
                     << (names->Second.empty() ? "" : " to " + names->Second) << ".\n";

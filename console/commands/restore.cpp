@@ -1,5 +1,5 @@
 #include "console/commands/command.h"
-#include "host/store/store.h"
+#include "console/commands/store_to_change.h"
 
 #include <memory>
 
@@ -18,8 +18,7 @@ struct RestoreOptions
 
 void Restore(Context& context, const RestoreOptions& options)
 {
-    Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
+    StoreToChange store(context);
     const std::string tag = store.RestoreLocus(options.Tag, options.At, options.NewTag);
     context.Out << "Restored " << tag << " as it was at " << options.At << ".\n";
 }

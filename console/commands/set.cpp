@@ -1,9 +1,9 @@
 #include "console/commands/command.h"
+#include "console/commands/store_to_change.h"
 #include "console/commands/stored_loci.h"
 #include "host/library/changes.h"
 #include "host/loci/counts.h"
 #include "host/loci/dyes.h"
-#include "host/store/store.h"
 
 #include <vector>
 
@@ -35,8 +35,7 @@ std::int32_t RequireDye(Store& store, const std::string& color)
 
 void Set(Context& context, const Changes& changes)
 {
-    Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
+    StoreToChange store(context);
     for (const std::string& tag : changes.Tags)
         RequireLocus(store, tag);
     auto transaction = store.Begin();

@@ -12,9 +12,12 @@ namespace
 void SetReasonRule(Context& context, const std::string& rule)
 {
     Store store(context.StoreLocation);
-    store.SetReason(context.Reason);
     if (!rule.empty())
+    {
+        store.RequireWritable();
+        store.SetReason(context.Reason);
         store.SetReasonRequired(rule == "required");
+    }
     context.Out << "reason: " << (store.IsReasonRequired() ? "required" : "optional") << '\n';
 }
 

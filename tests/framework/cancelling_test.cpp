@@ -43,7 +43,7 @@ protected:
         }
     }
 
-    Store m_store{Path()};
+    Store m_store{Address()};
     HostApplication m_host{m_store, *this};
     int m_shown = 0;
 

@@ -47,7 +47,7 @@ using ParameterPageTest = StoreTest;
 
 TEST_F(ParameterPageTest, AStoreThatIsLostWhileSavingCutsNoSelectionShort)
 {
-    Store store(Path());
+    Store store(Address());
     for (const char* tag : {"A", "B", "C"})
         Save(store, tag);
     NoOne frontEnd;

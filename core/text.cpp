@@ -55,8 +55,16 @@ std::string Trim(std::string_view text)
 
 std::string FoldCase(std::string_view text)
 {
-    std::string folded;
-    folded.reserve(text.size());
+    // What is ASCII, mostly all, needs no decoding.
+    std::string folded(text);
+    const auto rest =
+        std::ranges::find_if(folded, [](char byte) { return static_cast<signed char>(byte) < 0; });
+    std::transform(folded.begin(), rest, folded.begin(), [](char letter) {
+        return static_cast<char>(FoldCase(static_cast<char32_t>(letter)));
+    });
+    const auto ascii = static_cast<std::size_t>(rest - folded.begin());
+    folded.resize(ascii);
+    text.remove_prefix(ascii);
     while (!text.empty())
         AppendEncoded(folded, TakeFolded(text));
     return folded;

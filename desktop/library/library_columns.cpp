@@ -30,6 +30,9 @@ int CompareText(const Library&, const LibraryLocus& left, const LibraryLocus& ri
 template <auto Names, auto Member>
 int CompareName(const Library& library, const LibraryLocus& left, const LibraryLocus& right)
 {
+    // Names that many share are mostly equal.
+    if (left.*Member == right.*Member)
+        return 0;
     const NameList& names = (library.*Names)();
     return names[left.*Member].Key.compare(names[right.*Member].Key);
 }

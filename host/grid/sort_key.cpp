@@ -49,6 +49,8 @@ std::string TagKey(std::string_view tag, bool caseCounts)
 {
     const std::string folded = FoldCase(tag);
     std::string key;
+    // Each number has two bytes more than its digits.
+    key.reserve(2 * tag.size());
     std::string leadingZeros;
     for (auto place = folded.begin(); place != folded.end();)
     {

@@ -1,7 +1,6 @@
 #include "host/checks/store_check.h"
 #include "host/database/database.h"
 #include "host/library/library.h"
-#include "host/loci/keys.h"
 #include "host/store/store.h"
 
 #include <algorithm>
@@ -23,10 +22,10 @@ const FoldedTexts& Library::Problems()
 
 void Library::TakeFindings(const std::vector<Finding>& found)
 {
-    std::unordered_map<std::string, std::vector<std::string_view>> rulesOfTag;
+    std::unordered_map<std::string_view, std::vector<std::string_view>> rulesOfTag;
     for (const Finding& finding : found)
     {
-        auto& rules = rulesOfTag[LookupKey(finding.Tag)];
+        auto& rules = rulesOfTag[finding.Tag];
         if (std::ranges::find(rules, finding.Rule->Name) == rules.end())
             rules.push_back(finding.Rule->Name);
     }
@@ -34,7 +33,9 @@ void Library::TakeFindings(const std::vector<Finding>& found)
     for (const LibraryLocus& locus : m_loci)
     {
         problems.AddLocus();
-        const auto rules = rulesOfTag.find(LookupKey(locus.Tag));
+        if (rulesOfTag.empty())
+            continue;
+        const auto rules = rulesOfTag.find(locus.Tag);
         if (rules == rulesOfTag.end())
             continue;
         for (const std::string_view rule : rules->second)

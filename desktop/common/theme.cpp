@@ -1,10 +1,11 @@
 #include "desktop/common/theme.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QSettings>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QStyleOption>
 
 namespace Tamrivo
 {
@@ -36,6 +37,33 @@ QPalette DarkPalette()
     return palette;
 }
 
+/// Gives boxes and options an outline that is seen on a dark ground too.
+class OutliningStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool isOption = element == PE_IndicatorRadioButton;
+        if (!isOption && element != PE_IndicatorCheckBox &&
+            element != PE_IndicatorItemViewItemCheck)
+            return;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing, isOption);
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->setBrush(Qt::NoBrush);
+        const QRect outline = option->rect.adjusted(0, 0, -1, -1);
+        if (isOption)
+            painter->drawEllipse(outline);
+        else
+            painter->drawRect(outline);
+        painter->restore();
+    }
+};
+
 } // namespace
 
 Theme ChosenTheme()
@@ -51,7 +79,7 @@ void UseTheme(Theme theme)
     // Of the styles at hand only Fusion takes any palette.
     static const QString desktopStyle = QApplication::style()->name();
     QApplication::setStyle(
-        QStyleFactory::create(theme == Theme::Desktop ? desktopStyle : QString("fusion")));
+        new OutliningStyle(theme == Theme::Desktop ? desktopStyle : QString("fusion")));
     QApplication::setPalette(theme == Theme::Light  ? LightPalette()
                              : theme == Theme::Dark ? DarkPalette()
                                                     : QPalette());

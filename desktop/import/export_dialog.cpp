@@ -81,7 +81,7 @@ void ExportDialog::AddFields(QFormLayout& form)
     m_shortName->setObjectName("exportShortName");
     m_shortName->setPlaceholderText("As the panel");
     m_standards->setObjectName("exportStandards");
-    m_standards->setPlaceholderText("As OSIRIS has them, with commas between");
+    m_standards->setPlaceholderText("With commas between");
     m_outlook->setObjectName("exportOutlook");
     m_outlook->setTextFormat(Qt::PlainText);
     m_outlook->setWordWrap(true);

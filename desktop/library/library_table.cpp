@@ -9,9 +9,7 @@
 #include <QItemSelection>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
 #include <QSettings>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -22,27 +20,6 @@ namespace
 {
 
 constexpr const char* columnsKey = "library/columns";
-
-/// Gives ticks an outline that is seen on a dark ground too.
-class TickDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& item,
-               const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::paint(painter, item, index);
-        QStyleOptionViewItem option = item;
-        initStyleOption(&option, index);
-        if (!option.features.testFlag(QStyleOptionViewItem::HasCheckIndicator))
-            return;
-        const QRect tick = option.widget->style()->subElementRect(
-            QStyle::SE_ItemViewItemCheckIndicator, &option, option.widget);
-        painter->setPen(option.palette.color(QPalette::PlaceholderText));
-        painter->drawRect(tick.adjusted(0, 0, -1, -1));
-    }
-};
 
 } // namespace
 
@@ -59,7 +36,6 @@ LibraryTable::LibraryTable(QWidget* parent) : QTableView(parent)
     setWordWrap(false);
     setTabKeyNavigation(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setItemDelegateForColumn(TagColumn, new TickDelegate(this));
     verticalHeader()->hide();
     QHeaderView& header = *horizontalHeader();
     header.setHighlightSections(false);
@@ -93,7 +69,7 @@ void LibraryTable::setModel(QAbstractItemModel* model)
 
 void LibraryTable::WidenColumns()
 {
-    constexpr int widths[] = {18, 12, 12, 0, 0, 12, 12, 0, 18, 26, 14}; // Characters.
+    constexpr int widths[] = {18, 12, 12, 0, 0, 12, 12, 0, 22, 26, 14}; // Characters.
     const int character = fontMetrics().averageCharWidth();
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
     {

@@ -60,8 +60,8 @@ LibraryView::LibraryView(const Actions& actions, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new FirstUseTip(
         "library",
-        "Ctrl and Shift choose several loci, and the commands are about all of them. Ctrl+F "
-        "searches, Ctrl+Shift+P finds any command, and F1 tells about the place where you are.",
+        "Ctrl and Shift choose several loci. Ctrl+F searches, Ctrl+Shift+P finds any command, and "
+        "F1 tells about where you are.",
         this));
     layout->addWidget(m_search);
     layout->addWidget(m_splitter, 1);

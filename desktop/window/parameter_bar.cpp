@@ -40,8 +40,8 @@ ParameterBar::ParameterBar(const QList<QAction*>& commands, QWidget* parent)
     layout->addLayout(row);
     layout->addWidget(new FirstUseTip(
         "parameter",
-        "Ticks before the loci select them, and Save stores the selection. Select Loci has both "
-        "lists side by side. In the lanes Ctrl with the wheel zooms and a double click edits.",
+        "Ticks select loci, and Save stores the selection. Select Loci has both lists side by "
+        "side.",
         this));
 }
 

@@ -27,7 +27,8 @@ void WorkbenchPages::Offer(const Commands& commands)
     for (QWidget* page : {m_noStore, m_emptyStore, static_cast<QWidget*>(&m_library)})
         m_stack->addWidget(page);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, fontMetrics().averageCharWidth(), 0, 0);
+    const int margin = fontMetrics().averageCharWidth();
+    layout->setContentsMargins(0, margin, margin, 0);
     layout->addWidget(m_bar);
     layout->addWidget(m_stack, 1);
 }

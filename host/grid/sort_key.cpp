@@ -25,10 +25,9 @@ void AppendBigEndian(std::string& key, std::uint64_t value, int bytes)
 void AppendCount(std::string& key, std::size_t count)
 {
     constexpr std::size_t first = 0xFF;
-    if (count < first)
-        return AppendBigEndian(key, count, 1);
-    AppendBigEndian(key, first, 1);
-    AppendBigEndian(key, count, 8);
+    key += static_cast<char>(std::min(count, first));
+    if (count >= first)
+        AppendBigEndian(key, count, 8);
 }
 
 bool IsDigit(char character)

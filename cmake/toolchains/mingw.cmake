@@ -6,8 +6,10 @@ set(CMAKE_CXX_COMPILER ${prefix}-g++-posix)
 set(CMAKE_RC_COMPILER ${prefix}-windres)
 set(TAMRIVO_WIDL ${prefix}-widl CACHE STRING "Makes type libraries")
 set(TAMRIVO_IDL_INCLUDE /usr/include/wine/wine/windows CACHE PATH "Where oaidl.idl is")
-set(TAMRIVO_TYPE_LIBRARIES /usr/lib/x86_64-linux-gnu/wine/x86_64-windows CACHE PATH
-    "Where stdole2.tlb is")
+# Wine of any machine has it, in a folder of that machine's name.
+file(GLOB folders /usr/lib/*/wine/*-windows)
+find_path(TAMRIVO_TYPE_LIBRARIES stdole2.tlb PATHS ${folders} NO_DEFAULT_PATH
+    NO_CMAKE_FIND_ROOT_PATH REQUIRED DOC "Where stdole2.tlb is")
 
 # The runtime is linked in: a client's folder has no place for its libraries.
 foreach(kind EXE MODULE SHARED)

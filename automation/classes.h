@@ -3,6 +3,7 @@
 #include "automation/locus_object.h"
 #include "automation/memory_host.h"
 #include "automation/page_object.h"
+#include "automation/pane_object.h"
 #include "automation/parameters_object.h"
 #include "automation/selector_object.h"
 #include "automation/service_object.h"
@@ -14,9 +15,9 @@ namespace Tamrivo::Automation
 inline constexpr std::string_view LibraryId = "4F8A2C6E-1B3D-4E57-9A80-C2D4F6A8B00A";
 
 /// Every class that clients meet.
-inline constexpr std::array<const Class*, 9> AllClasses{
+inline constexpr std::array<const Class*, 10> AllClasses{
     &PageClass,       &SelectorClass,          &ServiceClass, &LocusClass,      &AlleleClass,
-    &ParametersClass, &AnalysisParameterClass, &ProjectClass, &MemoryHostClass,
+    &ParametersClass, &AnalysisParameterClass, &ProjectClass, &MemoryHostClass, &PaneClass,
 };
 
 /// What clients create by name: "Tamrivo." before the name.

@@ -145,7 +145,17 @@ Value FormObject::Turn(const Member&, const List& arguments)
 
 Value FormObject::Answer(const Member&, const List& arguments)
 {
-    return Client()->Call("Answer", Access::Method, arguments);
+    try
+    {
+        return Client()->Call("Answer", Access::Method, arguments);
+    }
+    catch (const Failure& failure)
+    {
+        if (failure.Record().Number != ClientError::NoSuchMember)
+            throw;
+        throw User::Refusal("The host has no Answer: it answers a message box itself, by what its "
+                            "ShowMessage gives. Only the in-memory host takes answers beforehand");
+    }
 }
 
 } // namespace Tamrivo::Automation

@@ -1,5 +1,6 @@
 #include "automation/page_object.h"
 
+#include "automation/pane_object.h"
 #include "automation/parameters_object.h"
 #include "editor/locus_editor_page.h"
 #include "saveas/save_as_locus_page.h"
@@ -115,6 +116,21 @@ Value PageObject::Save(const Member&, const List&)
     if (!OpenSession().Finish())
         throw User::Refusal("The page isn't valid and can't be saved; Validate tells when it is");
     return {};
+}
+
+const User::AllelePaneControl& PageObject::PaneControl()
+{
+    const auto* const pane =
+        dynamic_cast<const User::AllelePaneControl*>(Form().Find("ctlPaneAlleleList"));
+    if (!pane)
+        throw User::Refusal(std::string(Form().Name()) + " has no allele pane");
+    return *pane;
+}
+
+Value PageObject::Pane(const Member&, const List&)
+{
+    PaneControl();
+    return std::make_shared<PaneObject>(std::static_pointer_cast<PageObject>(shared_from_this()));
 }
 
 } // namespace Tamrivo::Automation

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/form_object.h"
+#include "host/alleles/pane_user.h"
 #include "host/framework/wizard_session.h"
 
 namespace Tamrivo::Automation
@@ -23,12 +24,16 @@ public:
     Value Deactivate(const Member&, const List&);
     Value Validate(const Member&, const List&);
     Value Save(const Member&, const List&);
+    Value Pane(const Member&, const List&);
+
+    /// Raises `User::Refusal` for a page without an allele pane.
+    const User::AllelePaneControl& PaneControl();
+    void RequirePerson() override { OpenSession(); }
 
 private:
     Value Do(std::size_t position, const List& arguments) override;
     bool HasForm() const override { return m_page != nullptr; }
     UserControl& MakeForm(NamedHost& host) override;
-    void RequirePerson() override { OpenSession(); }
     /// The wizard; raises `User::Refusal` before it has begun and after it has ended.
     WizardSession& OpenSession();
 
@@ -49,6 +54,7 @@ inline constexpr std::array PageRows{
     Row<PageObject>{{"Deactivate", Access::Method, Type::None, {}}, &PageObject::Deactivate},
     Row<PageObject>{{"Validate", Access::Method, Type::Boolean, {}}, &PageObject::Validate},
     Row<PageObject>{{"Save", Access::Method, Type::None, {}}, &PageObject::Save},
+    Row<PageObject>{{"Pane", Access::Get, Type::Object, {}}, &PageObject::Pane},
 };
 inline constexpr auto PageMembers = MembersOf(FormRows, PageRows);
 inline constexpr Class PageClass{"Page", "D2E8B4A6-0F3C-4B79-9D51-6A7C8E9F0B06",

@@ -181,6 +181,44 @@ TEST(PageObject, ReadsAClientsLocusByName)
                 HasSubstr("no LocusTag"));
 }
 
+TEST(PaneObject, EditsAllelesAsAPersonDoes)
+{
+    const Stored stored("TH01");
+    const auto page = NewEditorPage();
+    page->Put("Host", stored.Host);
+    const auto pane = As<ObjectPointer>(page->Get("Pane"));
+    const auto refusal = [&](const char* name, const List& arguments) {
+        return FailureOf([&] { Do(*pane, name, arguments); }).Description;
+    };
+    EXPECT_THAT(refusal("Add", {0}), HasSubstr("isn't open"));
+    Do(*page, "Open", {stored.EditorParameters()});
+    Do(*page, "Click", {"cmdGenAlleleList"});
+    const std::int32_t count = As<std::int32_t>(pane->Get("Count"));
+    EXPECT_EQ(Do(*pane, "Add", {count}), Value(count + 1));
+    EXPECT_EQ(Do(*page, "Validate"), Value(false));
+    EXPECT_EQ(As<List>(pane->Get("Problems")).size(), 1U);
+    Do(*pane, "Edit", {count + 1, "name", "OL"});
+    Do(*pane, "Leave");
+    EXPECT_EQ(Do(*page, "Validate"), Value(true));
+    EXPECT_EQ(Do(*pane, "RowOf", {"ol"}), Value(count + 1));
+    EXPECT_EQ(Do(*pane, "RowOf", {"none"}), Value(0));
+    EXPECT_EQ(Do(*pane, "Cell", {count + 1, "origin"}), Value("edited"));
+    Do(*pane, "Remove", {1});
+    Do(*pane, "Undo");
+    EXPECT_EQ(pane->Get("Count"), Value(count + 1));
+
+    EXPECT_THAT(refusal("Cell", {0, "name"}), HasSubstr("no row 0"));
+    EXPECT_THAT(refusal("Cell", {1, "height"}),
+                HasSubstr("no column \"height\"; it has name, size"));
+    EXPECT_THAT(refusal("Edit", {1, "origin", "x"}), HasSubstr("follows from"));
+    EXPECT_THAT(refusal("Edit", {1, "size", "wide"}), HasSubstr("wide"));
+    EXPECT_THAT(refusal("Remove", {99}), HasSubstr("99"));
+    Do(*page, "Save");
+    EXPECT_THAT(refusal("Redo", {}), HasSubstr("has been saved"));
+    EXPECT_THAT(FailureOf([] { NewSaveAsPage()->Get("Pane"); }).Description,
+                HasSubstr("no allele pane"));
+}
+
 TEST(SelectorObject, ChoosesTagsByRowsAndMenus)
 {
     const Stored stored("TH01");
@@ -208,6 +246,11 @@ TEST(SelectorObject, ChoosesTagsByRowsAndMenus)
     EXPECT_THAT(refusal("CellClick", {"gridSelected", 7, 1}), HasSubstr("row"));
     Do(*selector, "Save");
     EXPECT_EQ(parameter->Get("LocusTags"), Value(List{"FGA"}));
+
+    const auto other = std::make_shared<SelectorObject>();
+    other->Put("Host", std::make_shared<ServiceObject>()); // Knows no Answer.
+    EXPECT_THAT(FailureOf([&] { Do(*other, "Answer", {"yes"}); }).Description,
+                HasSubstr("The host has no Answer"));
 }
 
 TEST(ServiceObject, OffersTheCurrentLoci)

@@ -6,6 +6,7 @@
 #include "desktop/common/settings.h"
 #include "desktop/common/text.h"
 #include "desktop/import/difference_view.h"
+#include "desktop/import/import_findings.h"
 #include "desktop/import/import_options.h"
 #include "desktop/import/import_preview_model.h"
 #include "desktop/import/import_words.h"
@@ -40,6 +41,7 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
       m_options(new ImportOptions(this)),
       m_tree(new QTreeView(this)),
       m_differences(new DifferenceView(this)),
+      m_findings(new ImportFindings(*m_preview, this)),
       m_reasonsCaption(new QLabel(this)),
       m_reasons(new QPlainTextEdit(this)),
       m_partial(new QCheckBox(this)),
@@ -55,7 +57,10 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
     m_options->onReading = [this] { m_actions.Run([this] { ReadFiles(); }); };
     m_options->onPlan = [this] { m_actions.Run([this] { Plan(); }); };
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& row) { m_differences->Show(m_preview->PlannedAt(row)); });
+            [this](const QModelIndex& row) {
+                m_differences->Show(m_preview->PlannedAt(row));
+                m_findings->Show(row);
+            });
     connect(m_preview, &ImportPreviewModel::MarkersChosen, this,
             [this] { m_actions.Run([this] { Plan(); }); });
     m_replan.setSingleShot(true);
@@ -105,6 +110,7 @@ void ImportDialog::AddPreview(QBoxLayout& layout)
     m_tree->setAllColumnsShowFocus(true);
     layout.addWidget(m_tree, 3);
     layout.addWidget(m_differences, 1);
+    layout.addWidget(m_findings, 1);
 
     m_reasonsCaption->setText("What can't come in, &line by line:");
     m_reasonsCaption->setBuddy(m_reasons);
@@ -176,6 +182,9 @@ void ImportDialog::ReadFiles()
         m_tree->resizeColumnToContents(column);
         m_tree->setColumnWidth(column, m_tree->columnWidth(column) + fontMetrics().height());
     }
+    // They come later.
+    m_tree->setColumnWidth(ImportPreviewModel::Findings,
+                           fontMetrics().horizontalAdvance("WW 10 errors, 10 warnings"));
 }
 
 void ImportDialog::OfferProjects()
@@ -209,7 +218,9 @@ void ImportDialog::Plan()
 
 void ImportDialog::ShowPlan(ImportPlan plan)
 {
+    m_findings->Stop();
     m_preview->SetPlan(std::move(plan));
+    m_findings->Check();
     m_differences->Show(m_preview->PlannedAt(m_tree->currentIndex()));
     m_options->ShowPlan(m_preview->Plan());
     ShowState();

@@ -21,6 +21,7 @@ namespace Tamrivo
 
 class Actions;
 class DifferenceView;
+class ImportFindings;
 class ImportOptions;
 class ImportPreviewModel;
 
@@ -73,6 +74,7 @@ private:
     ImportOptions* m_options;
     QTreeView* m_tree;
     DifferenceView* m_differences;
+    ImportFindings* m_findings;
     QLabel* m_reasonsCaption;
     QPlainTextEdit* m_reasons;
     QCheckBox* m_partial;

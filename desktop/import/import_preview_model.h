@@ -1,10 +1,13 @@
 #pragma once
 
+#include "desktop/import/findings_of_loci.h"
 #include "host/panels/import_plan.h"
 
 #include <QAbstractItemModel>
 #include <QString>
 
+#include <cstddef>
+#include <span>
 #include <vector>
 
 namespace Tamrivo
@@ -25,6 +28,7 @@ public:
         Range,
         Alleles,
         Line,
+        Findings,
         Remarks,
         ColumnCount,
     };
@@ -40,6 +44,12 @@ public:
 
     /// The plan of the marker in a row; null for a panel, and for a marker that isn't planned.
     const PlannedLocus* PlannedAt(const QModelIndex& index) const;
+
+    /// Shows what a check finds in the loci that the plan lets in.
+    void SetFindings(std::vector<Finding> found);
+    /// Findings of a marker, or of all of a panel's, the first `most` of them.
+    std::vector<Finding> FindingsAt(const QModelIndex& index, std::size_t most) const;
+    FindingCounts CountsAt(const QModelIndex& index) const;
 
     /// Positions of the ticked markers.
     std::vector<std::size_t> ChosenMarkers() const;
@@ -65,8 +75,11 @@ private:
         std::vector<std::size_t> Markers; ///< Positions in the table.
     };
 
-    /// The position of the marker in a row.
-    std::size_t MarkerAt(const QModelIndex& index) const;
+    static bool IsPanel(const QModelIndex& index);
+    /// Positions of the markers that a row is about.
+    std::span<const std::size_t> MarkersAt(const QModelIndex& index) const;
+    std::span<const Finding> FindingsOf(std::size_t marker) const;
+    void TellOfChange(Column first, Column last);
     Qt::CheckState StateOf(const Panel& panel) const;
     QVariant PanelData(const Panel& panel, int column, int role) const;
     QVariant MarkerData(std::size_t marker, int column, int role) const;
@@ -75,12 +88,10 @@ private:
 
     std::vector<PanelMarker> m_markers;
     ImportPlan m_plan;
+    FindingsOfLoci m_findings;
     std::vector<Panel> m_panels;
     std::vector<bool> m_isChosen;                  ///< Of each marker.
     std::vector<const PlannedLocus*> m_plannedFor; ///< Of each marker; null when not chosen.
 };
-
-/// Why a locus can't come in, or what is noteworthy about it, in sentences; may be empty.
-QString RemarksOn(const PlannedLocus& locus);
 
 } // namespace Tamrivo

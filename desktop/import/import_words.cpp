@@ -17,6 +17,18 @@ QString Sentence(const std::string& start, const QString& end)
 
 } // namespace
 
+QString RemarksOn(const PlannedLocus& locus)
+{
+    QStringList sentences;
+    for (const std::string& obstacle : locus.Obstacles)
+        sentences.append(ToQString(obstacle) + ".");
+    if (!locus.Gap.empty())
+        sentences.append(ToQString(locus.Gap) + ".");
+    if (locus.Fate == ImportFate::New && locus.IsRenamed())
+        sentences.append("Its name is taken, so the tag names the panel too.");
+    return sentences.join(' ');
+}
+
 QStringList FormatTitles()
 {
     QStringList titles;

@@ -14,6 +14,9 @@ namespace Tamrivo
 /// The formats of files by their names, in the order of `PanelFormat`.
 QStringList FormatTitles();
 
+/// Why a locus can't come in, or what is noteworthy about it, in sentences; may be empty.
+QString RemarksOn(const PlannedLocus& locus);
+
 /// What can't come in, line by line; past a number that nobody reads the rest is only counted.
 QStringList ReasonsAgainst(const std::vector<PanelComplaint>& complaints, const ImportPlan& plan);
 

@@ -27,7 +27,7 @@ CheckedLocus CheckedLocusOf(const PlannedLocus& planned, const Dyes& dyes)
 
 } // namespace
 
-std::vector<Finding> FindingsOf(const ImportPlan& plan)
+CheckSource CheckSourceOf(const ImportPlan& plan)
 {
     std::vector<const PlannedLocus*> loci;
     std::map<std::string, CheckSource::Group> panels;
@@ -43,10 +43,17 @@ std::vector<Finding> FindingsOf(const ImportPlan& plan)
     }
     CheckSource source;
     source.Count = loci.size();
-    source.Locus = [&](std::size_t at) { return CheckedLocusOf(*loci[at], plan.DyesAfter); };
+    source.Locus = [loci = std::move(loci), &dyes = plan.DyesAfter](std::size_t at) {
+        return CheckedLocusOf(*loci[at], dyes);
+    };
     for (auto& [key, panel] : panels)
         source.Groups.push_back(std::move(panel));
-    CheckRun run(std::move(source), AllCheckRules());
+    return source;
+}
+
+std::vector<Finding> FindingsOf(const ImportPlan& plan)
+{
+    CheckRun run(CheckSourceOf(plan), AllCheckRules());
     while (run.Step())
     {}
     return run.Found();

@@ -8,8 +8,12 @@
 namespace Tamrivo
 {
 
-/// What a check finds in the loci that an import would leave in the store, those of a panel looked
-/// at together. Whatever it finds keeps nothing from coming in.
+/// The loci that an import would leave in the store, as a check looks at them: those of a panel
+/// together. Whatever it finds keeps nothing from coming in. The plan must outlive the check, and
+/// stay as it is.
+CheckSource CheckSourceOf(const ImportPlan& plan);
+
+/// What the rules find in them.
 std::vector<Finding> FindingsOf(const ImportPlan& plan);
 
 } // namespace Tamrivo

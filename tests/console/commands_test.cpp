@@ -259,6 +259,34 @@ TEST_F(Commands, CheckFindsMistakesInStoreAndFile)
     EXPECT_EQ(Run({"check", "--without", "spelling"}), 2);
 }
 
+TEST_F(Commands, CheckLooksAtLociOfAPanelOrAParameterTogether)
+{
+    const std::string alike = "R\tD5S818\t9\t94.4\t93.9\t94.9\tblue\t4\t90\t130\n";
+    const auto overlaps = [this](std::vector<std::string> scope) {
+        scope.insert(scope.begin(), {"check", "--format", "tsv"});
+        const bool isClean = Run(scope) == 0;
+        EXPECT_EQ(isClean, m_out.find("error\t") == std::string::npos) << m_out;
+        std::string tags;
+        for (const char* tag : {"D3S1358", "D5S818"})
+            tags += m_out.find(std::string("bin-overlap\t") + tag) == std::string::npos ? "-" : "+";
+        return tags;
+    };
+    EXPECT_EQ(Run({"import", Write("panels.tsv", table + alike)}), 0);
+    EXPECT_EQ(overlaps({}), "--");
+    ASSERT_EQ(Run({"shell"}, "parameter Casework\ncell gridAvailable double 1\n"
+                             "cell gridAvailable double 1\nsave\n"),
+              0);
+    EXPECT_EQ(overlaps({}), "++");
+    EXPECT_EQ(overlaps({"--parameter", "casework"}), "++");
+    EXPECT_EQ(overlaps({"--panel", "R"}), "--");
+    EXPECT_EQ(overlaps({"d5s818"}), "-+");
+    EXPECT_EQ(Run({"check", "--parameter", "Other"}), 1);
+    EXPECT_EQ(m_out, "");
+    EXPECT_EQ(Run({"delete", "D5S818"}), 0) << m_err;
+    EXPECT_EQ(Run({"check", "--parameter", "Casework"}), 1);
+    EXPECT_THAT(m_out, HasSubstr("missing-locus"));
+}
+
 TEST_F(Commands, FitProposesBinsAndCallsEachPeak)
 {
     EXPECT_EQ(Run({"import", Write("panels.tsv", table)}), 0);

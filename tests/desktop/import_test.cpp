@@ -163,6 +163,32 @@ TEST_F(ImportDialogTest, ImportsTheTickedMarkers)
                 HasSubstr("XML"));
 }
 
+TEST_F(ImportDialogTest, ShowsWhatACheckFindsInWhatComesIn)
+{
+    const std::string outside = "P\tvWA\t15\t170\t165\t166\t0\tgreen\t4\t150\t200\t110\n";
+    Preview(d3 + outside + "Q\tvWA\t15\t170\t165\t166\t0\tpurple\t4\t150\t200\t110\n");
+    auto& caption = Find<QLabel>("importFindingsCaption");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !caption.text().startsWith("Checking"); }));
+    EXPECT_EQ(Cell(0, 0, "Findings"), "");
+    EXPECT_EQ(Cell(0, 1, "Findings"), "1 error");
+    EXPECT_EQ(Cell(1, 0, "Findings"), "") << "It can't come in.";
+
+    auto& tree = Find<QTreeView>("importPreview");
+    auto& list = Find<QTreeView>("importFindings");
+    const QModelIndex panel = tree.model()->index(0, 0);
+    tree.setCurrentIndex(tree.model()->index(0, 0, panel));
+    EXPECT_FALSE(list.isVisible());
+    for (const QModelIndex& row : {panel, tree.model()->index(1, 0, panel)})
+    {
+        tree.setCurrentIndex(row);
+        ASSERT_EQ(list.model()->rowCount(), 1);
+        EXPECT_EQ(list.model()->index(0, 0).data().toString(), "outside-bin");
+    }
+    EXPECT_EQ(FromQString(caption.text()), "A check finds in vWA: 1 error");
+    QTest::keyClick(&tree, Qt::Key_Space);
+    EXPECT_FALSE(list.isVisible());
+}
+
 TEST_F(ImportDialogTest, RefusesWhatBringsNothing)
 {
     Preview(d3OfQ + "P\tFGA\t12.2\tmuch\t257.95\t258.95\t0\tYellow\t4\t257\t420\t208\n");

@@ -33,7 +33,12 @@ DesktopFrontEnd::DesktopFrontEnd()
           else
               ShowFailure(error);
       })
-{}
+{
+    m_openingAgain.setSingleShot(true);
+    m_openingAgain.setInterval(0);
+    QObject::connect(&m_openingAgain, &QTimer::timeout,
+                     [this] { m_actions.Run([this] { OpenAgain(); }); });
+}
 
 void DesktopFrontEnd::SetHost(HostApplication* host)
 {
@@ -93,13 +98,28 @@ void DesktopFrontEnd::ShowReport(const FailureReport& report)
 {
     // What isn't final goes on up the calls and is shown where it ends.
     if (report.Final)
-        ShowFailureBox(WindowOnTop(), report.Error,
-                       ToQString(report.ClassName + "." + report.ProcedureName));
+        ShowFailureAt(report.Error, ToQString(report.ClassName + "." + report.ProcedureName));
 }
 
 void DesktopFrontEnd::ShowFailure(const ErrorRecord& error)
 {
-    ShowFailureBox(WindowOnTop(), error, {});
+    ShowFailureAt(error, {});
+}
+
+void DesktopFrontEnd::ShowFailureAt(const ErrorRecord& error, const QString& place)
+{
+    const bool isStoreLost = m_host != nullptr && m_host->Store().IsLost();
+    // What has failed is to come to its end first.
+    if (ShowFailureBox(WindowOnTop(), error, place, isStoreLost) == FailureAnswer::OpenAgain)
+        m_openingAgain.start();
+}
+
+void DesktopFrontEnd::OpenAgain()
+{
+    if (m_host == nullptr)
+        return;
+    m_host->Store().OpenAgain();
+    OpenedAgain();
 }
 
 } // namespace Tamrivo

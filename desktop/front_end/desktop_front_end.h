@@ -4,7 +4,9 @@
 #include "desktop/common/actions.h"
 #include "host/framework/front_end.h"
 
-class QWidget;
+#include <QTimer>
+
+class QString;
 
 namespace Tamrivo
 {
@@ -23,6 +25,10 @@ public:
     /// host may be null, before it is destroyed.
     void SetHost(HostApplication* host);
 
+    /// Raised when the person has had a store opened again that had gone away: what was read of it
+    /// may be other by now.
+    Event<> OpenedAgain;
+
     /// What runs the person's actions, for as long as the front end lives.
     const Actions& UserActions() const { return m_actions; }
 
@@ -36,11 +42,14 @@ public:
 
 private:
     void ShowPointer(const Screen& screen);
+    void ShowFailureAt(const ErrorRecord& error, const QString& place);
+    void OpenAgain();
 
     Actions m_actions;
     HostApplication* m_host = nullptr;
     bool m_isHourglass = false;
     Connection m_pointer;
+    QTimer m_openingAgain;
 };
 
 } // namespace Tamrivo

@@ -40,7 +40,8 @@ void OpenLog(QWidget* parent)
                                  "No program is set up to open the log. It stands in\n" + path);
 }
 
-void ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& place)
+FailureAnswer ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& place,
+                             bool isStoreLost)
 {
     QMessageBox box(parent);
     box.setObjectName("failure");
@@ -65,7 +66,11 @@ void ShowFailureBox(QWidget* parent, const ErrorRecord& error, const QString& pl
     // A button of the box would close it.
     log->disconnect();
     QObject::connect(log, &QPushButton::clicked, &box, [&box] { OpenLog(&box); });
+    const QPushButton* again =
+        isStoreLost ? box.addButton("Open &Again", QMessageBox::ActionRole) : nullptr;
     box.exec();
+    return again != nullptr && box.clickedButton() == again ? FailureAnswer::OpenAgain
+                                                            : FailureAnswer::Ok;
 }
 
 } // namespace Tamrivo

@@ -33,6 +33,7 @@ namespace Tamrivo
 Workbench::Workbench(DesktopFrontEnd& frontEnd, QMainWindow& window)
     : QSplitter(&window),
       m_frontEnd(frontEnd),
+      m_openedAgain(frontEnd.OpenedAgain.Connect([this] { Reload("Opened the store again."); })),
       m_editors(frontEnd.UserActions()),
       m_groups(new GroupTree(this)),
       m_library(new LibraryView(frontEnd.UserActions(), this)),

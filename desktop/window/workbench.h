@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/event.h"
 #include "desktop/window/command.h"
 #include "desktop/window/editor_windows.h"
 #include "desktop/window/open_parameter.h"
@@ -94,6 +95,7 @@ private:
     void ShowPage();
 
     DesktopFrontEnd& m_frontEnd;
+    Connection m_openedAgain;
     std::unique_ptr<StoreSession> m_session;
     EditorWindows m_editors;
     GroupTree* m_groups;

@@ -33,6 +33,13 @@ public:
     /// Connects anew if the connection was found lost and the server answers again. Gives whether
     /// it has.
     virtual bool Reconnect(soci::session&) { return false; }
+    /// Connects anew to what stands at the address by now. `use` is called with that connection
+    /// before the present one goes; what it throws leaves the present one as it is.
+    virtual void OpenAgain(soci::session& session, const std::function<void(soci::session&)>& use)
+    {
+        Reconnect(session);
+        use(session);
+    }
     /// Goes up when a lost connection was made anew, whose prepared statements are gone.
     virtual int ConnectionNumber() const { return 0; }
     /// Whom the server takes the connection for; empty without a server.

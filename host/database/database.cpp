@@ -203,10 +203,29 @@ void Database::RollBack() noexcept
     }
 }
 
+void Database::OpenAgain(const std::function<void(soci::session&)>& require)
+{
+    try
+    {
+        m_backend->OpenAgain(m_session, [&](soci::session& there) {
+            require(there);
+            Reconnected();
+        });
+        m_connectionNumber = m_backend->ConnectionNumber();
+        m_whyReadOnly = m_backend->WhyReadOnly(m_session);
+        m_isLost = false;
+    }
+    catch (const soci::soci_error& error)
+    {
+        RaiseFailure("The store is not opened again", error);
+    }
+}
+
 void Database::RequireReachable(const std::string& consequence)
 {
     if (m_depth > 0)
         return;
+    m_isLost = false;
     m_backend->Reconnect(m_session);
     if (m_connectionNumber != m_backend->ConnectionNumber())
     {
@@ -240,6 +259,7 @@ void Database::RaiseFailure(const std::string& consequence, const soci::soci_err
 void Database::RaiseFailure(const std::string& consequence, std::int32_t number,
                             const std::string& message) const
 {
+    m_isLost = number == StoreError::Unreachable;
     const Reason& reason = ReasonOf(number);
     std::string description = consequence + ": the store \"" + m_name + "\" ";
     if (number == StoreError::ReadOnly && IsReadOnly())

@@ -64,6 +64,13 @@ public:
         return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
     };
 
+    /// Whether the last piece of work failed since the store couldn't be reached.
+    bool IsLost() const { return m_isLost; }
+    /// Connects anew to what stands at the address by now, outside of any work. What `require`
+    /// throws, which sees that connection, leaves the present one. Raises `StoreError::Unreachable`
+    /// and its like.
+    void OpenAgain(const std::function<void(soci::session&)>& require);
+
     /// Runs `statements(session)` and gives its value. Raises a failed statement as the failure of
     /// the store that it amounts to, "CONSEQUENCE: REASON", where the consequence tells what is now
     /// not done or not known, such as "The locus \"A\" is not stored".
@@ -164,6 +171,7 @@ private:
     std::string m_witness;
     int m_witnesses = 0;
     std::string m_whyReadOnly;
+    mutable bool m_isLost = false;
     int m_running = 0; ///< Pieces of work, one inside the other.
     int m_depth = 0;   ///< Open transactions, one inside the other.
     int m_connectionNumber = 0;

@@ -16,7 +16,7 @@ namespace Tamrivo
 namespace
 {
 
-sqlite_api::sqlite3* Handle(soci::session& session)
+sqlite_api::sqlite3*& Handle(soci::session& session)
 {
     return static_cast<soci::sqlite3_session_backend*>(session.get_backend())->conn_;
 }
@@ -60,6 +60,17 @@ public:
         Execute(session, "PRAGMA cache_size = -65536");
         // What a savepoint may have to bring back is kept in memory too, not in a file of its own.
         Execute(session, "PRAGMA temp_store = MEMORY");
+    }
+
+    void OpenAgain(soci::session& session, const std::function<void(soci::session&)>& use) override
+    {
+        // Else an empty store would be made in the place of the one that is missing.
+        if (!std::filesystem::exists(m_file))
+            throw soci::sqlite3_soci_error("its file is not there", SQLITE_CANTOPEN);
+        soci::session there;
+        Connect(there);
+        use(there);
+        std::swap(Handle(session), Handle(there));
     }
 
     std::string WhyReadOnly(soci::session& session) override
@@ -164,8 +175,7 @@ private:
     void Open(soci::session& session)
     {
         session.open(*soci::factory_sqlite3(), ":memory:");
-        auto*& connection =
-            static_cast<soci::sqlite3_session_backend*>(session.get_backend())->conn_;
+        auto*& connection = Handle(session);
         sqlite_api::sqlite3_close(std::exchange(connection, nullptr));
         const int result = sqlite_api::sqlite3_open_v2(
             m_file.c_str(), &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);

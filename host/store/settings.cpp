@@ -27,11 +27,17 @@ std::string ReasonRuleContent(bool isRequired)
     return ContentOfValue("Value", ReasonRule(isRequired));
 }
 
+std::string IdentityIn(soci::session& session)
+{
+    std::string identity;
+    Execute(session, "SELECT Value FROM Setting WHERE Name = 'identity'", soci::into(identity));
+    return identity;
+}
+
 std::string ReadIdentity(Database& database)
 {
     return database.Run("The store is not looked at", [&](soci::session& session) {
-        std::string identity;
-        Execute(session, "SELECT Value FROM Setting WHERE Name = 'identity'", soci::into(identity));
+        std::string identity = IdentityIn(session);
         if (identity.empty())
             throw Failure(StoreError::NotAStore, "Store",
                           "The store \"" + database.Name() +

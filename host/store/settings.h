@@ -3,6 +3,11 @@
 #include <string>
 #include <string_view>
 
+namespace soci
+{
+class session;
+}
+
 namespace Tamrivo
 {
 
@@ -10,6 +15,8 @@ class Database;
 
 /// `Store::Identity`
 std::string ReadIdentity(Database& database);
+/// The same of the store that a connection leads to; empty when it has none.
+std::string IdentityIn(soci::session& session);
 
 /// The condition on the table Setting that each change has to have a reason.
 inline constexpr std::string_view ReasonIsRequired = "Name = 'reason' AND Value = 'required'";

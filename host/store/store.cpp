@@ -17,6 +17,7 @@ namespace Tamrivo
 
 Store::Store(const std::string& address)
     : m_database(std::make_shared<Database>(address, RecordWhatIsFound)),
+      m_identity(m_database->Run("Nothing was opened", IdentityIn)),
       m_managerGlobal(std::make_unique<StoreObjectManagerGlobal>(m_database))
 {}
 
@@ -41,6 +42,22 @@ const std::string& Store::Name() const
 std::string Store::Identity()
 {
     return ReadIdentity(*m_database);
+}
+
+bool Store::IsLost() const
+{
+    return m_database->IsLost();
+}
+
+void Store::OpenAgain()
+{
+    m_database->OpenAgain([this](soci::session& there) {
+        if (IdentityIn(there) != m_identity)
+            throw Failure(StoreError::Unreachable, "Store",
+                          "The store is not opened again: what stands at \"" + Name() +
+                              "\" by now is another store, which was left alone. Bring the former "
+                              "one back, or open the other one as such");
+    });
 }
 
 void Store::RequireWritable() const

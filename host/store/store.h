@@ -47,6 +47,12 @@ public:
     /// gone.
     std::string Identity();
     bool IsReadOnly() const;
+    /// Whether the last piece of work failed since the store couldn't be reached.
+    bool IsLost() const;
+    /// Goes on with the store that has come back to its address after it was lost; objects that
+    /// were read stay as they are, and are saved there. Raises `StoreError::Unreachable` when it
+    /// isn't back, or when another store stands there, which is left alone.
+    void OpenAgain();
     /// Raises `StoreError::ReadOnly`, with the reason and what to do, on a store that is read-only.
     void RequireWritable() const;
 
@@ -126,6 +132,7 @@ private:
     void RequireFreeTag(std::int32_t locusID, const std::string& tag);
 
     std::shared_ptr<Database> m_database;
+    std::string m_identity; ///< As it was when the store was opened.
     std::unique_ptr<ObjectManagerGlobal> m_managerGlobal;
 };
 

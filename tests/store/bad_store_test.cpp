@@ -135,6 +135,30 @@ TEST_F(StoreTest, ARemovedStoreIsNotWrittenToInSilence)
         EXPECT_EQ(FailureOf(statement).Number, StoreError::Unreachable);
 }
 
+TEST_F(StoreTest, AStoreThatCameBackIsOpenedAgainAndNoOther)
+{
+    Store store(Path());
+    const auto locus = Save(store, "A");
+    const std::string away = Path() + ".away";
+    std::filesystem::rename(Path(), away);
+    EXPECT_EQ(FailureOf([&] { store.FindLocus("A"); }).Number, StoreError::Unreachable);
+    EXPECT_TRUE(store.IsLost());
+    EXPECT_EQ(FailureOf([&] { store.OpenAgain(); }).Number, StoreError::Unreachable);
+    EXPECT_FALSE(std::filesystem::exists(Path())) << "none is made in its place";
+    Store(Path());
+    EXPECT_NE(FailureOf([&] { store.OpenAgain(); }).Description.find("another store"),
+              std::string::npos);
+
+    std::filesystem::remove(Path());
+    std::filesystem::copy_file(away, Path());
+    EXPECT_EQ(FailureOf([&] { store.FindLocus("A"); }).Number, StoreError::Unreachable);
+    store.OpenAgain();
+    EXPECT_FALSE(store.IsLost());
+    locus->LocusName = "Stored after its return";
+    store.Manager().Save(*locus, true);
+    EXPECT_EQ(Store(Path()).FindLocus("A")->LocusName, "Stored after its return");
+}
+
 TEST_F(StoreTest, AFullDiskLosesNothing)
 {
     Store store(Path());

@@ -10,8 +10,7 @@ namespace Tamrivo
 
 int LongWork::s_atWork = 0;
 
-LongWork::LongWork(const QString& what, QWidget* parent)
-    : m_dialog(what, "Cancel", 0, 0, parent)
+LongWork::LongWork(const QString& what, QWidget* parent) : m_dialog(what, "Cancel", 0, 0, parent)
 {
     m_dialog.setObjectName("longWork");
     m_dialog.setWindowModality(Qt::ApplicationModal);

@@ -76,8 +76,7 @@ void CompareFields(const Json& before, const Json& after, const std::string& pre
     const auto compare = [&](const std::string& field) {
         const Json old = before.value(field, Json());
         const Json now = after.value(field, Json());
-        if (field != "Alleles" && field != "Format" &&
-            !(areStates ? IsSame(old, now) : old == now))
+        if (field != "Alleles" && field != "Format" && !(areStates ? IsSame(old, now) : old == now))
             differences.push_back(
                 {prefix + (inAllele ? WordOf(field) : field), TextOf(old), TextOf(now)});
     };

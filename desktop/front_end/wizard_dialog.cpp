@@ -1,6 +1,5 @@
 #include "desktop/front_end/wizard_dialog.h"
 
-#include "contracts/launcher.h"
 #include "contracts/parameters.h"
 #include "desktop/alleles/allele_pane_view.h"
 #include "desktop/common/actions.h"
@@ -12,6 +11,7 @@
 #include "desktop/front_end/hosted_views.h"
 #include "desktop/front_end/problem_list.h"
 #include "desktop/front_end/questions.h"
+#include "desktop/front_end/wizard_text.h"
 #include "desktop/help/first_use_tip.h"
 #include "editor/locus_editor_form.h"
 #include "host/alleles/pane_user.h"
@@ -32,27 +32,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace Tamrivo
 {
 
 namespace
 {
-
-/// What a person is told of a wizard.
-struct WizardText
-{
-    std::string_view Wizard;
-    const char* Title;         ///< What the page is about.
-    const char* Invalid;       ///< When the page marks no field.
-    bool AsksToCancel = false; ///< When something was changed, which the title marks.
-};
-
-constexpr WizardText wizardTexts[] = {
-    {LocusEditorWizard.Name, "Locus", "The locus can't be stored as it is.", true},
-    {SaveAsWizard.Name, "Save Locus Tag As", "Enter a tag that no other locus has."},
-};
 
 QLabel* NewNotice(const std::string& text)
 {
@@ -63,14 +47,6 @@ QLabel* NewNotice(const std::string& text)
     notice->setFrameShape(QFrame::StyledPanel);
     notice->setMargin(notice->fontMetrics().averageCharWidth());
     return notice;
-}
-
-WizardText TextOf(const std::string& wizard)
-{
-    const auto* found = std::ranges::find(wizardTexts, wizard, &WizardText::Wizard);
-    return found != std::end(wizardTexts)
-               ? *found
-               : WizardText{wizard, wizard.c_str(), "The page is not valid yet."};
 }
 
 } // namespace

@@ -26,7 +26,7 @@ std::string PanelComplaint::Text() const
         place += ", column " + std::to_string(Character);
     if (!Column.empty())
         place += (Character > 0 ? ", element " : ", column ") + Column;
-    return place.empty() ? Problem : place + ": " + Problem;
+    return PrintableText(place.empty() ? Problem : place + ": " + Problem);
 }
 
 std::string QuotedCell(std::string_view text)
@@ -34,11 +34,16 @@ std::string QuotedCell(std::string_view text)
     constexpr std::size_t most = 60;
     if (text.empty())
         return "nothing";
-    std::string shown(text.substr(0, 4 * most));
-    std::ranges::replace_if(shown, &IsControl, '?');
+    std::string shown = PrintableText(std::string(text.substr(0, 4 * most)));
     if (CharacterCount(shown) > most)
         shown = Characters(shown, 0, most) + "...";
     return "\"" + shown + "\"";
+}
+
+std::string PrintableText(std::string text)
+{
+    std::ranges::replace_if(text, &IsControl, '?');
+    return text;
 }
 
 bool IsPrintableText(std::string_view text)

@@ -128,6 +128,10 @@ void MoveBehind(std::vector<T>&& from, std::vector<T>& to)
 /// The text in quotes, or "nothing"; control characters as "?", a long one cut.
 std::string QuotedCell(std::string_view text);
 
+/// The text with "?" for control characters, so that a terminal shows what a file says and nothing
+/// else happens.
+std::string PrintableText(std::string text);
+
 /// Whether the text has no control characters.
 bool IsPrintableText(std::string_view text);
 

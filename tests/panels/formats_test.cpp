@@ -1,13 +1,12 @@
 #include "host/panels/import.h"
-#include "host/panels/panel_files.h"
 #include "host/store/store.h"
+#include "tests/panels/format_samples.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
-#include <set>
 
 namespace Tamrivo
 {
@@ -15,61 +14,11 @@ namespace Tamrivo
 namespace
 {
 
-using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
-
-const std::string kitTable =
-    "\"Panel\"\t\"Marker\"\t\"Allele\"\t\"Size\"\t\"Size.Min\"\t\"Size."
-    "Max\"\t\"Virtual\"\t\"Color\""
-    "\t\"Repeat\"\t\"Marker.Min\"\t\"Marker.Max\"\t\"Offset\"\t\"Short.Name\"\t\"Full.Name\"\r\n"
-    "\"Kit "
-    "\\\"A\\\"\"\t\"AMEL\"\t\"X\"\t81.79\t81.29\t82.29\t0\t\"Blue\"\t9\t78\t92\tNA\t\"KA\"\t\"Kit "
-    "A \"\r\n"
-    "\"Kit "
-    "\\\"A\\\"\"\t\"TH01\"\t\"9.30\"\t175.5\t175\t176\t1\t\"green\"\t4\t148.2\t194."
-    "4\t138\t\"KA\"\t\"Kit A \"\r\n"
-    "\"Kit B\"\t\"TH01\"\t\"9.3\"\tNA\tNA\tNA\tNA\t\"black\"\tNA\tNA\tNA\tNA\t\"KB\"\tNA\r\n"
-    "\"Kit C\"\t\"FGA\"\t\"20\"\tsmall\t1\t2\t0\t\"red\"\t4\t90\t150\t10\t\"KC\"\tNA\r\n";
-
-const std::string panels =
-    "Version\tGM v 4.1\t\t\nKit type:\tMICROSATELLITE\nChemistry Kit\tK\tnone\n"
-    "Panel\tP1\tnone\t\t\t\n"
-    "D3S1358\tBlue\t90.0\t150.5\t17,18\t4\t0.0\tnone\tnone\tfalse\t\"8, 9, 10,\"\t\t\n"
-    "AMEL\tpurple\t70\t90\t-\t9\tnone\tX, Y\n\n\n";
-
-std::string Bins(const std::string& set, const std::string& panel)
-{
-    return "Version\tGM v 4.1\nChemistry Kit\tKBinSet Name\t" + set + "\nPanel Name\t" + panel +
-           "\t\t\nMarker Name\tD3S1358\n8\t93.47\t0.5\t0.5999999999999943\tvirtual\n"
-           "9\t97.82\t0.5\t0.5\tdark gray\nMarker Name\tAMEL\nX\t80\t0.4\t0.4\nY\t86\t0.4\t0.4";
-}
-
-const std::string kit =
-    "<?xml version=\"1.0\"?>\n<KitData><Version>2.7</Version><Kits><Set><Name> K7 </Name>\n"
-    "<FsaChannelMap><Channel><KitChannelNumber>2</KitChannelNumber><Color>RED</Color></Channel>"
-    "</FsaChannelMap>\n"
-    "<!-- <Locus><Name>No</Name></Locus> -->\n"
-    "<Locus><Name>D3S1358</Name><Channel>1</Channel><MinBP>94</MinBP><MaxBP>102</MaxBP>\n"
-    "<SearchRegions><Region><MinGrid>89.5</MinGrid><MaxGrid>106</MaxGrid></Region>"
-    "<Region><MinGrid>92</MinGrid><MaxGrid>107.5</MaxGrid></Region></SearchRegions>\n"
-    "<Other x=\"1\"/><LadderAlleles><Allele><Name>8</Name><BP>94</BP></Allele>"
-    "<Allele><Name>9.3</Name><BP>101</BP></Allele></LadderAlleles></Locus>\n"
-    "<Locus><Name>AMEL</Name><Channel>2</Channel><MinBP>80</MinBP><MaxBP>86</MaxBP>"
-    "<CoreRepeatNumber>6</CoreRepeatNumber><LadderAlleles><Allele><Name>1</Name><BP>80</BP></"
-    "Allele>"
-    "<Allele><Name>2</Name><BP>86</BP></Allele></LadderAlleles></Locus></Set></Kits></KitData>";
-
-PanelReading Read(const std::vector<std::string>& texts, const ReadChoice& choice = {})
-{
-    std::vector<PanelFile> files;
-    for (const std::string& text : texts)
-        files.push_back(PanelFileOf("file" + std::to_string(files.size() + 1), text));
-    return ReadPanels(files, choice);
-}
+using namespace Samples;
 
 TEST(Formats, AreKnownFromTheContent)
 {
@@ -100,98 +49,6 @@ TEST(Formats, AKitTableMayHaveQuotesAndMissingValues)
     EXPECT_THAT(wanted.Markers[3].Alleles, IsEmpty());
     for (const char* name : {"ka", "kit a", "KIT \"A\""})
         EXPECT_TRUE(IsOfPanels(th01, {name})) << name;
-}
-
-TEST(Formats, PanelsAndBinsArePutTogether)
-{
-    for (const auto& files : {std::vector{panels, Bins("S", "P1")}, {Bins("S", "p1"), panels}})
-    {
-        const PanelReading reading = Read(files);
-        ASSERT_THAT(reading.Complaints, IsEmpty());
-        ASSERT_THAT(reading.Markers, SizeIs(2));
-        const PanelMarker& d3 = reading.Markers[0];
-        EXPECT_EQ(d3.Panel, "P1");
-        EXPECT_EQ(d3.RangeEnd, 150.5);
-        ASSERT_THAT(d3.Alleles, SizeIs(2));
-        EXPECT_EQ(d3.Alleles[0].BinStart, 92.97);
-        EXPECT_EQ(d3.Alleles[0].BinEnd, 94.07);
-        EXPECT_TRUE(d3.Alleles[0].IsVirtual);
-        EXPECT_FALSE(d3.Alleles[1].IsVirtual);
-        ASSERT_THAT(reading.Remarks, SizeIs(1));
-        EXPECT_THAT(reading.Remarks[0].Text, HasSubstr("D3S1358, allele 10"));
-    }
-    const std::vector<std::string> two = {panels, Bins("One", "P1"), Bins("Two", "P1")};
-    EXPECT_THAT(Read(two, {.BinSet = "two"}).Complaints, IsEmpty());
-    EXPECT_THAT(Read(two, {.BinSet = "two"}).BinSets, ElementsAre("One", "Two"));
-    // A panel with a single set of bins needs no choice.
-    std::string panelsP2 = panels;
-    panelsP2.replace(panelsP2.find("P1"), 2, "P2");
-    const PanelReading both =
-        Read({two[0], two[1], two[2], panelsP2, Bins("Three", "P2")}, {.BinSet = "Two"});
-    EXPECT_THAT(both.Complaints, IsEmpty());
-    EXPECT_TRUE(std::ranges::all_of(both.Markers, [](const auto& marker) {
-        return marker.Flaws.empty() && marker.Alleles.size() == 2;
-    }));
-
-    struct Case
-    {
-        std::vector<std::string> Files;
-        ReadChoice Choice;
-        const char* Problem;
-    };
-    for (const auto& [files, choice, problem] : {
-             Case{two, {}, "several sets of bins: One, Two"},
-             {two, {.BinSet = "Three"}, "but these: One, Two"},
-             {{panels, Bins("S", "P2")}, {}, "panels are P1, and the bins are of P2"},
-             {{panels}, {}, "give the bins file"},
-             {{Bins("S", "P1")}, {}, "give the panels file"},
-             {{panels.substr(0, 60), Bins("S", "P1")}, {}, "cut off"},
-         })
-    {
-        const PanelReading reading = Read(files, choice);
-        ASSERT_THAT(reading.Complaints, testing::Not(IsEmpty())) << problem;
-        EXPECT_THAT(reading.Complaints[0].Text(), HasSubstr(problem));
-    }
-}
-
-TEST(Formats, ACutOffPairIsToldInOneSentence)
-{
-    const std::string bins = Bins("S", "P1");
-    const std::string whole = panels + "TH01\tred\t90\t150\t-\t4\tnone\t8\n";
-    struct Case
-    {
-        std::string Panels;
-        std::string Bins;
-        const char* Text;
-    };
-    for (const auto& [first, second, text] : {
-             Case{panels, bins.substr(0, bins.find("9\t97") + 4),
-                  "file2, line 6: The file ends in"},
-             {panels.substr(0, panels.find("70")), bins, "file1, line 6: The file ends in"},
-             {whole, bins.substr(0, bins.find("Marker Name\tAMEL")),
-              "file2, line 6: The file ends here without bins of \"AMEL\", \"TH01\";"},
-             {whole, bins.substr(0, bins.find("\nX")),
-              "file2, line 7: The file ends here without bins of \"AMEL\", \"TH01\";"},
-             {panels.substr(0, panels.find("AMEL")), bins,
-              "file1, line 5: The file ends here without the markers \"AMEL\" of the bins;"},
-             {panels + panels.substr(panels.find("D3S1358")), bins,
-              "file1, line 9: The panel has a marker of this name further up"},
-             {panels, bins + "\nMarker Name\tD3S1358\n8\t93\t1\t1\n",
-              "file2, line 10: The marker \"D3S1358\" has other bins here"},
-         })
-    {
-        const PanelReading reading = Read({first, second});
-        std::set<std::string> texts;
-        for (const PanelComplaint& complaint : reading.Complaints)
-            texts.insert(complaint.Text());
-        for (const PanelMarker& marker : reading.Markers)
-        {
-            for (const PanelComplaint& flaw : marker.Flaws)
-                texts.insert(flaw.Text());
-        }
-        EXPECT_THAT(texts, Contains(StartsWith(text)));
-        EXPECT_THAT(texts, SizeIs(testing::Le(2)));
-    }
 }
 
 TEST(Formats, AKitFileGivesNominalLoci)

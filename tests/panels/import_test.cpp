@@ -1,7 +1,6 @@
 #include "host/panels/import.h"
 #include "host/panels/panel_files.h"
 #include "host/panels/table/panel_writer.h"
-#include "host/panels/whole_file.h"
 #include "host/store/store.h"
 #include "tests/fakes/locales.h"
 #include "tests/panels/read_table.h"
@@ -11,7 +10,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 namespace Tamrivo
@@ -301,54 +299,6 @@ TEST_F(Import, TableKeepsTheColumnsOfAPanel)
     EXPECT_EQ(reading.Markers[0].Color, "red");
     EXPECT_EQ(reading.Markers[0].Offset, 73);
     EXPECT_EQ(reading.Markers[1].Offset, 208);
-}
-
-TEST_F(Import, FileReplacesAnotherOnlyWhenComplete)
-{
-    const auto write = [](std::ostream& out) { out << header << d3; };
-    std::ofstream(Path("out.tsv")) << "old";
-    EXPECT_THROW(WriteWholeFile(Path("out.tsv"), [](std::ostream&) { throw Cancelled(); }),
-                 Cancelled);
-    EXPECT_EQ(LoadPanelFile(Path("out.tsv")).Text, "old");
-    WriteWholeFile(Path("out.tsv"), write);
-    EXPECT_EQ(LoadPanelFile(Path("out.tsv")).Text, header + d3);
-    EXPECT_FALSE(std::filesystem::exists(Path("out.tsv.part")));
-    EXPECT_THROW(WriteWholeFile(Path("none/out.tsv"), write), Failure);
-    EXPECT_THROW(WriteWholeFile("/dev/full", write), Failure);
-    EXPECT_THROW(LoadPanelFile(Path("none.tsv")), Failure);
-    EXPECT_THROW(LoadPanelFile(m_directory), Failure);
-    EXPECT_THROW(OpenPanelFile(m_directory), Failure);
-}
-
-TEST_F(Import, FilesThatBelongTogetherAreReplacedTogether)
-{
-    const auto contents = [this] {
-        return LoadPanelFile(Path("a.txt")).Text + LoadPanelFile(Path("b.txt")).Text;
-    };
-    const auto files = [this](const std::string& text, const std::string& second) {
-        const auto write = [text](std::ostream& out) { out << text; };
-        return std::vector<FileToWrite>{{Path("a.txt"), write}, {Path(second), write}};
-    };
-    WriteWholeFiles(files("1", "b.txt"));
-    EXPECT_EQ(contents(), "11");
-    WriteWholeFiles(files("2", "b.txt"));
-    EXPECT_EQ(contents(), "22");
-    EXPECT_THROW(WriteWholeFiles(files("3", "a.txt")), Failure);
-    EXPECT_THROW(WriteWholeFiles(files("3", "none/b.txt")), Failure);
-    // The second one can't be replaced once both are complete.
-    auto late = files("3", "c.txt");
-    late[1].Write = [this](std::ostream& out) {
-        out << "3";
-        std::filesystem::create_directories(Path("c.txt"));
-    };
-    EXPECT_THROW(WriteWholeFiles(late), Failure);
-    EXPECT_EQ(contents(), "22");
-    std::filesystem::remove(Path("a.txt"));
-    std::filesystem::remove(Path("c.txt"));
-    EXPECT_THROW(WriteWholeFiles(late), Failure);
-    EXPECT_FALSE(std::filesystem::exists(Path("a.txt")));
-    for (const auto& entry : std::filesystem::directory_iterator(m_directory))
-        EXPECT_THAT(entry.path().extension(), testing::AnyOf(".txt", ".sqlite"));
 }
 
 } // namespace

@@ -87,6 +87,7 @@ TEST(PanelTable, NamesThePlaceOfWhatCantBeRead)
         {"P\tOK\t9\t98\t97\t99\t0\tred\t4\t90\t150\t62", "line 3, column Color: \"red\"", "line 2"},
         {"P\tA\t8\t94\t93\t95\t0\tblue\t4\t90\t150\t62\t5", "line 3: ", "expected 12"},
         {"P\tOK\t9\t98\t97\t99\t0\tbl", "line 3: The line has 8 cells", "cut off"},
+        {"P\tA\t8\t94\t93\t95\t0\tbl", "line 3: The line has 8 cells", "cut off"},
         {"P\tA\x7F\t8\t94\t93\t95\t0\tblue\t4\t90\t150\t62", "line 3, column Marker: \"A?\"",
          "control character"},
     };

@@ -75,12 +75,15 @@ private:
         const Group* group = GroupOfRow();
         if (group != nullptr && !group->IsWanted)
             return;
-        if (group != nullptr && !HasAllOfMarker())
-            return AddCountFlaw(m_reading.Markers[group->Index],
-                                "; the file may have been cut off here");
-        PanelMarker& marker = group != nullptr ? Agreeing(*group) : ReadMarker();
+        PanelMarker& marker = group != nullptr ? m_reading.Markers[group->Index] : NewMarker();
         if (!m_last->IsWanted)
             return;
+        if (!HasAllOfMarker())
+            return AddCountFlaw(marker, "; the file may have been cut off here");
+        if (group != nullptr)
+            CheckAgreement(marker, *group);
+        else
+            ReadMarker(marker);
         for (std::size_t at = m_header.ColumnCount(); at < m_lines.Cells().size(); ++at)
         {
             if (!m_lines.Cell(at).empty())
@@ -135,21 +138,19 @@ private:
                 m_last->FirstCells[position] == m_lines.Cell(position));
     }
 
-    PanelMarker& Agreeing(const Group& group)
+    void CheckAgreement(PanelMarker& marker, const Group& group) const
     {
-        PanelMarker& marker = m_reading.Markers[group.Index];
         for (const TableHeader::MarkerColumn& column : m_header.MarkerColumns())
         {
             const std::string_view first = column.Position < group.FirstCells.size()
                                                ? std::string_view(group.FirstCells[column.Position])
                                                : "";
-            CheckAgreement(marker, column.Name, m_lines.Cell(column.Position), first);
+            CheckCell(marker, column.Name, m_lines.Cell(column.Position), first);
         }
-        return marker;
     }
 
-    void CheckAgreement(PanelMarker& marker, std::string_view column, std::string_view cell,
-                        std::string_view first) const
+    void CheckCell(PanelMarker& marker, std::string_view column, std::string_view cell,
+                   std::string_view first) const
     {
         if (cell == first || EqualNoCase(TrimmedCell(cell), TrimmedCell(first)))
             return;
@@ -162,7 +163,8 @@ private:
                           ", the first of the marker " + marker.Marker);
     }
 
-    PanelMarker& ReadMarker()
+    /// The line's marker, of which so far only the names are known.
+    PanelMarker& NewMarker()
     {
         PanelMarker& marker = m_reading.Markers.emplace_back();
         marker.Line = m_lines.Number();
@@ -170,9 +172,18 @@ private:
                          m_header.Has(PanelColumn::AlleleInt1)};
         ReadNames(marker);
         m_last->IsWanted = m_panels.empty() || IsOfPanels(marker, m_panels);
+        return marker;
+    }
+
+    void ReadMarker(PanelMarker& marker) const
+    {
+        if (TrimmedCell(marker.Marker).empty())
+            m_row.AddFlaw(marker, "Marker", "nothing stands there; expected the name of a marker");
+        marker.Color = m_row.Text(PanelColumn::Color);
+        if (Trim(marker.Color).empty())
+            m_row.Expect(marker, PanelColumn::Color, "the colour of a dye");
         ReadMeasures(marker);
         ReadFields(marker);
-        return marker;
     }
 
     void ReadNames(PanelMarker& marker) const
@@ -181,12 +192,7 @@ private:
         marker.ShortName = m_row.Name(marker, PanelColumn::ShortName);
         marker.FullName = m_row.Name(marker, PanelColumn::FullName);
         marker.Marker = m_row.Name(marker, PanelColumn::Marker);
-        if (TrimmedCell(marker.Marker).empty())
-            m_row.AddFlaw(marker, "Marker", "nothing stands there; expected the name of a marker");
         marker.LocusTag = m_row.Name(marker, PanelColumn::LocusTag);
-        marker.Color = m_row.Text(PanelColumn::Color);
-        if (Trim(marker.Color).empty())
-            m_row.Expect(marker, PanelColumn::Color, "the colour of a dye");
     }
 
     void ReadMeasures(PanelMarker& marker) const

@@ -13,17 +13,16 @@ namespace Tamrivo
 namespace
 {
 
-void DrawValues(QPainter& painter, const QString& text, QPointF foot, const QRectF& band,
+/// At the upper edge, where no names are.
+void DrawValues(QPainter& painter, const QString& text, double middle, const QRectF& band,
                 const QPalette& palette)
 {
     constexpr double edge = 3;
-    constexpr double distance = 6;
     const QFontMetrics font = painter.fontMetrics();
     const double width = font.horizontalAdvance(text) + 2 * edge;
     const double height = font.height() + 2 * edge;
-    const double left = std::max(band.left(), std::min(foot.x() - width / 2, band.right() - width));
-    const double top = std::max(1.0, foot.y() - distance - height);
-    const QRectF box(left, top, width, height);
+    const double left = std::max(band.left(), std::min(middle - width / 2, band.right() - width));
+    const QRectF box(left, edge, width, height);
     painter.setPen(palette.color(QPalette::ToolTipText));
     painter.setBrush(palette.color(QPalette::ToolTipBase));
     painter.drawRect(box);
@@ -46,7 +45,7 @@ void DrawDraft(QPainter& painter, const LengthAxis& axis, const QRectF& band, co
     painter.drawRect(bin);
     const double size = axis.X(draft.Size);
     painter.drawLine(QPointF(size, band.top() - 3), QPointF(size, band.top() + 3));
-    DrawValues(painter, draft.Text, {bin.center().x(), band.top()}, band, palette);
+    DrawValues(painter, draft.Text, bin.center().x(), band, palette);
     painter.restore();
 }
 

@@ -24,8 +24,8 @@ struct BinDraft
     QString Text; ///< The values, for people.
 };
 
-/// Draws the bin with dashed outlines between upper and lower end of `band`, and the values above
-/// it, within the band's ends from left to right.
+/// Draws the bin with dashed outlines between upper and lower end of `band`, and the values at the
+/// upper edge of the picture, above the bin as far as the band's ends allow.
 void DrawDraft(QPainter& painter, const LengthAxis& axis, const QRectF& band, const BinDraft& draft,
                const QColor& shade, const QPalette& palette);
 

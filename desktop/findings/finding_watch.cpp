@@ -83,12 +83,12 @@ bool FindingWatch::Step()
         return true;
     m_run = std::make_unique<CheckRun>(m_reading->Source(), AllCheckRules());
     m_reading.reset();
-    return m_run->Total() > 0;
+    return true;
 }
 
 void FindingWatch::Finish()
 {
-    m_found = m_run->Found();
+    m_found = m_run->TakeFound();
     GiveUp();
     emit Changed();
 }

@@ -1,6 +1,7 @@
 #include "host/checks/check_run.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -8,12 +9,20 @@
 namespace Tamrivo
 {
 
+namespace
+{
+
+constexpr std::size_t lociOfPortion = 500;
+
+} // namespace
+
 CheckRun::CheckRun(CheckSource source, const ChosenRules& rules)
     : m_source(std::move(source)),
       m_rules(rules),
       m_uses(m_source.Count, 0),
       m_loci(m_source.Count),
-      m_tags(m_source.Count)
+      m_foundIn(m_source.Count),
+      m_portions(m_source.Count / lociOfPortion + 1)
 {
     Plan();
 }
@@ -41,23 +50,21 @@ bool CheckRun::Step()
 {
     if (m_done == Total())
         return false;
-    const auto [isGroup, number] = m_steps[m_done];
-    if (isGroup)
+    if (m_done >= m_steps.size())
+        Gather(m_done - m_steps.size());
+    else if (const auto [isGroup, number] = m_steps[m_done]; isGroup)
         CheckTogether(m_source.Groups[number]);
     else
         CheckOne(number);
     ++m_done;
-    if (m_done == Total())
-        Finish();
     return m_done < Total();
 }
 
 void CheckRun::CheckOne(std::size_t number)
 {
     CheckedLocus& locus = m_loci[number].emplace(m_source.Locus(number));
-    m_tags[number] = locus.Tag;
     if (IsWanted(number))
-        CheckLocus(locus, m_rules, m_found);
+        CheckLocus(locus, m_rules, m_foundIn[number]);
     if (m_uses[number] == 0)
         m_loci[number].reset();
 }
@@ -65,9 +72,20 @@ void CheckRun::CheckOne(std::size_t number)
 void CheckRun::CheckTogether(const CheckSource::Group& group)
 {
     LociTogether together{group.Name, {}, group.MissingTagIDs};
+    std::unordered_map<std::string_view, std::size_t> places;
     for (const std::size_t locus : group.Loci)
+    {
         together.Loci.push_back(&*m_loci[locus]);
-    CheckGroup(together, m_rules, m_found);
+        places.emplace(m_loci[locus]->Tag, locus);
+    }
+    std::vector<Finding> found;
+    CheckGroup(together, m_rules, found);
+    for (Finding& finding : found)
+    {
+        const auto place = places.find(finding.Tag);
+        auto& where = place == places.end() ? m_foundElsewhere : m_foundIn[place->second];
+        where.push_back(std::move(finding));
+    }
     for (const std::size_t locus : group.Loci)
     {
         if (--m_uses[locus] == 0)
@@ -80,27 +98,33 @@ bool CheckRun::IsWanted(std::size_t locus) const
     return m_source.IsWanted.empty() || m_source.IsWanted[locus];
 }
 
-void CheckRun::Finish()
+void CheckRun::Gather(std::size_t portion)
 {
-    std::unordered_map<std::string_view, std::size_t> places;
-    for (std::size_t at = 0; at < m_tags.size(); ++at)
-        places.emplace(m_tags[at], at);
-    std::vector<std::pair<std::size_t, Finding>> placed;
-    for (Finding& finding : m_found)
+    if (portion == 0)
     {
-        const auto found = places.find(finding.Tag);
-        const std::size_t place = found == places.end() ? m_tags.size() : found->second;
-        if (place == m_tags.size() || IsWanted(place))
-            placed.emplace_back(place, std::move(finding));
+        std::size_t count = m_foundElsewhere.size();
+        for (const auto& found : m_foundIn)
+            count += found.size();
+        m_found.reserve(count);
     }
-    std::ranges::stable_sort(placed, {}, [](const auto& finding) {
-        return std::pair(finding.first, finding.second.Rule);
-    });
+    const std::size_t begin = portion * lociOfPortion;
+    const std::size_t end = std::min(m_source.Count, begin + lociOfPortion);
+    for (std::size_t locus = begin; locus < end; ++locus)
+    {
+        if (IsWanted(locus))
+            Gather(m_foundIn[locus]);
+    }
+    if (portion + 1 == m_portions)
+        Gather(m_foundElsewhere);
+}
+
+void CheckRun::Gather(std::vector<Finding>& found)
+{
+    std::ranges::stable_sort(found, {}, &Finding::Rule);
     // Two loci of one panel that an analysis parameter uses as well are looked at twice.
-    placed.erase(std::unique(placed.begin(), placed.end()), placed.end());
-    m_found.clear();
-    for (auto& [place, finding] : placed)
-        m_found.push_back(std::move(finding));
+    const auto end = std::unique(found.begin(), found.end());
+    std::move(found.begin(), end, std::back_inserter(m_found));
+    found = {};
 }
 
 std::size_t CountOfErrors(const std::vector<Finding>& found)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Tamrivo
@@ -39,15 +40,18 @@ public:
     CheckRun(const CheckRun&) = delete;
     CheckRun& operator=(const CheckRun&) = delete;
 
-    /// Checks one more locus or group. False: there is none left, and the findings are in order.
-    /// Raises what reading the locus raises.
+    /// Checks one more locus or group, or, behind the last of them, gathers what was found in some
+    /// of the loci. False: all is done. Raises what reading the locus raises.
     bool Step();
-    /// Loci and groups that have been checked, and how many there are.
+    /// Steps that have been made, and how many there are.
     std::size_t Done() const { return m_done; }
-    std::size_t Total() const { return m_steps.size(); }
+    std::size_t Total() const { return m_steps.size() + m_portions; }
 
-    /// By locus in the source's order, and by rule; what no locus has comes last.
+    /// By locus in the source's order, and by rule; what no locus has comes last. Complete once the
+    /// last step is made.
     const std::vector<Finding>& Found() const { return m_found; }
+    /// The same, for who needs the run no longer.
+    std::vector<Finding> TakeFound() { return std::move(m_found); }
 
 private:
     struct NextStep
@@ -60,14 +64,17 @@ private:
     void CheckOne(std::size_t number);
     void CheckTogether(const CheckSource::Group& group);
     bool IsWanted(std::size_t locus) const;
-    void Finish();
+    void Gather(std::size_t portion);
+    void Gather(std::vector<Finding>& found);
 
     CheckSource m_source;
     ChosenRules m_rules;
     std::vector<NextStep> m_steps;
     std::vector<std::size_t> m_uses; ///< Of each locus: groups that are still to be checked.
     std::vector<std::optional<CheckedLocus>> m_loci;
-    std::vector<std::string> m_tags;
+    std::vector<std::vector<Finding>> m_foundIn; ///< Of each locus.
+    std::vector<Finding> m_foundElsewhere;       ///< What no locus has.
+    std::size_t m_portions;                      ///< Of loci, when the findings are gathered.
     std::size_t m_done = 0;
     std::vector<Finding> m_found;
 };

@@ -142,11 +142,13 @@ private:
         CheckSource source;
         source.Count = loci.size();
         source.Locus = [loci = std::move(loci), dyes = m_dyes](std::size_t at) mutable {
-            const std::size_t begin = at - at % LociAtOnce;
+            // As many as take a few milliseconds.
+            constexpr std::size_t portion = 100;
+            const std::size_t begin = at - at % portion;
             if (!loci[at]->LoadedAlleles())
                 LoadAlleles(LociWithoutAlleles(
                     std::span(std::as_const(loci))
-                        .subspan(begin, std::min(LociAtOnce, loci.size() - begin))));
+                        .subspan(begin, std::min(portion, loci.size() - begin))));
             CheckedLocus checked = CheckedLocusOf(*loci[at], dyes);
             checked.Owner = std::move(loci[at]);
             return checked;

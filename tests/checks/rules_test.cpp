@@ -211,7 +211,8 @@ TEST(CheckRules, GroupsSayWhichLociAreGone)
     CheckSource source;
     source.Groups = {{"analysis parameter Casework", {}, {17}}};
     CheckRun run(std::move(source), AllCheckRules());
-    EXPECT_FALSE(run.Step());
+    while (run.Step())
+    {}
     ASSERT_THAT(run.Found(), testing::SizeIs(1));
     EXPECT_EQ(run.Found()[0].Message, "The analysis parameter Casework names a locus that is gone, "
                                       "number 17; expected loci that the store has");

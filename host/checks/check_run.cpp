@@ -124,7 +124,7 @@ void CheckRun::Gather(std::vector<Finding>& found)
     // Two loci of one panel that an analysis parameter uses as well are looked at twice.
     const auto end = std::unique(found.begin(), found.end());
     std::move(found.begin(), end, std::back_inserter(m_found));
-    found = {};
+    found = std::vector<Finding>(); // Gives the memory back.
 }
 
 std::size_t CountOfErrors(const std::vector<Finding>& found)

@@ -145,7 +145,9 @@ TEST_F(StoreTest, AStoreThatCameBackIsOpenedAgainAndNoOther)
     EXPECT_TRUE(store.IsLost());
     EXPECT_EQ(FailureOf([&] { store.OpenAgain(); }).Number, StoreError::Unreachable);
     EXPECT_FALSE(std::filesystem::exists(Path())) << "none is made in its place";
-    Store(Path());
+    {
+        const Store another(Path());
+    }
     EXPECT_NE(FailureOf([&] { store.OpenAgain(); }).Description.find("another store"),
               std::string::npos);
 

@@ -118,7 +118,7 @@ inline constexpr Figure Figures[] = {
      LibraryInView},
     {"window_memory", "Memory of the window with 100,000 loci / of store and library", 2, "",
      MemoryOfWindow},
-    {"window_choose", "Choosing one of 100,000 loci, all their lanes in view", 16, "ms",
+    {"window_choose", "Choosing one of 100,000 loci, all their lanes in view", 50, "ms",
      ChoosingInWindow},
     {"window_scroll", "Scrolling the table of 100,000 loci", 16, "ms", ScrollingInWindow},
     {"first_paint", "First paint of the selector, 100,000 loci / its opening", 1.3, "", FirstPaint},

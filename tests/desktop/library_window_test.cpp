@@ -16,7 +16,6 @@
 #include <QTableWidget>
 #include <QTextBlock>
 
-#include <filesystem>
 #include <fstream>
 
 namespace Tamrivo::Testing
@@ -265,25 +264,6 @@ TEST_F(MainWindowTest, CommandsAreFoundByTheirName)
     Trigger(Do<&ViewCommands::UseDesktopTheme>);
     EXPECT_FALSE(m_window->Commands()[Do<&ViewCommands::UseDarkTheme>].isChecked());
     EXPECT_TRUE(Shown().contains("FGA-2"));
-}
-
-TEST_F(MainWindowTest, AStoreThatWentAwayIsOpenedAgainFromTheMessage)
-{
-    ClickRow("TH01");
-    PressInTable(Qt::Key_Return);
-    const std::string away = Address() + ".away";
-    std::filesystem::rename(Address(), away);
-    OnModal([&](QDialog& failure) {
-        std::filesystem::copy_file(away, Address());
-        Press(failure, "Open Again");
-    });
-    EditEnd(Editor(), "180", "190");
-    Settle();
-    EXPECT_EQ(m_window->statusBar()->currentMessage(), "Opened the store again.");
-    ASSERT_EQ(Editors().size(), 1U) << "with what was typed";
-    QTest::mouseClick(&Named(Editor(), "finish"), Qt::LeftButton);
-    Settle();
-    EXPECT_EQ(RowOf("TH01").siblingAtColumn(2).data().toString(), "120\u2013190");
 }
 
 TEST_F(MainWindowTest, F1OpensTheGuideAtWhatHasTheFocus)

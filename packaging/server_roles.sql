@@ -11,6 +11,8 @@ END
 $$;
 
 GRANT SELECT ON ALL TABLES IN SCHEMA public TO tamrivo_reader, tamrivo_editor;
+-- A check and a backup ask for the last number.
+GRANT SELECT ON SEQUENCE ObjectNumber TO tamrivo_reader, tamrivo_editor;
 
 GRANT INSERT, UPDATE, DELETE
     ON Locus, Allele, AnalysisParameter, AnalysisParameterTag, Project, Dye, Setting

@@ -6,6 +6,7 @@
 #include "host/panels/export_scope.h"
 #include "host/panels/panel_files.h"
 #include "host/panels/table/kit_table_writer.h"
+#include "host/panels/table/panel_writer.h"
 #include "host/panels/whole_file.h"
 #include "host/store/store.h"
 
@@ -49,11 +50,42 @@ void WriteFiles(const ExportOptions& options, const ExportPlan& plan, const Loci
                    [&](std::ostream& out) { AppendToKitTable(out, table.Text, plan, progress); });
 }
 
+void PrintExported(Context& context, std::size_t loci, const std::vector<std::string>& files)
+{
+    context.Out << "Exported " << CountOfLoci(loci) << " to " << files.front()
+                << (files.size() > 1 ? " and " + files.back() : "") << ".\n";
+}
+
+/// On a terminal the table itself shows how far it is.
+LociProgress ProgressOfOutput(ProgressLine& progress)
+{
+    return isatty(STDOUT_FILENO) == 1 ? LociProgress() : progress.Counting("Exporting");
+}
+
+/// Everything in the program's own format, which needs no plan.
+void ExportAll(Context& context, Store& store, const ExportOptions& options)
+{
+    ProgressLine progress(context.Err);
+    if (options.Files.empty())
+    {
+        WritePanelTable(context.Out, store, ProgressOfOutput(progress));
+        return;
+    }
+    std::size_t count = 0;
+    WriteWholeFile(options.Files.front(), [&](std::ostream& out) {
+        count = WritePanelTable(out, store, progress.Counting("Exporting"));
+    });
+    progress.Clear();
+    PrintExported(context, count, options.Files);
+}
+
 void Export(Context& context, ExportOptions options)
 {
     options.Choice.Format = FindFormat(options.Format).value_or(PanelFormat::PanelTable);
     CheckFiles(options);
     Store store(context.StoreLocation);
+    if (options.Choice.Format == PanelFormat::PanelTable && options.Scope.IsAll())
+        return ExportAll(context, store, options);
     for (const std::string& tag : options.Scope.Tags)
         RequireLocus(store, tag);
     ProgressLine progress(context.Err);
@@ -62,17 +94,14 @@ void Export(Context& context, ExportOptions options)
     progress.Clear();
     if (options.Files.empty())
     {
-        // On a terminal the table itself shows how far it is.
-        WriteExport(context.Out, plan,
-                    isatty(STDOUT_FILENO) == 1 ? LociProgress() : progress.Counting("Exporting"));
+        WriteExport(context.Out, plan, ProgressOfOutput(progress));
         if (!plan.Losses.empty())
             context.Err << plan.Losses << '\n';
         return;
     }
     WriteFiles(options, plan, progress.Counting("Exporting"));
     progress.Clear();
-    context.Out << "Exported " << CountOfLoci(plan.Count()) << " to " << options.Files.front()
-                << (options.Files.size() > 1 ? " and " + options.Files.back() : "") << ".\n";
+    PrintExported(context, plan.Count(), options.Files);
     if (!plan.Losses.empty())
         context.Out << plan.Losses << '\n';
 }

@@ -18,6 +18,8 @@ struct ExportScope
     std::vector<std::string> Tags = {};
     std::string Parameter = {}; ///< Its loci come in its order.
     std::string Panel = {};     ///< The primer set, case aside.
+
+    bool IsAll() const { return Tags.empty() && Parameter.empty() && Panel.empty(); }
 };
 
 /// The loci of the scope. Raises `StoreError::NotFound` for a name that nothing has, and failures

@@ -2,8 +2,11 @@
 
 #include "host/database/columns.h"
 #include "host/database/database.h"
+#include "host/database/execute.h"
 #include "host/store/allele_row.h"
+#include "host/store/locus_reader.h"
 #include "host/store/locus_table.h"
+#include "host/store/store.h"
 
 #include <algorithm>
 #include <string>
@@ -86,6 +89,29 @@ void LoadAlleles(const std::vector<StoredLocus*>& loci)
         for (StoredLocus* locus : loci)
             locus->SetAlleles(alleles[locus->LocusID()]);
     });
+}
+
+std::size_t CountCurrentLoci(Store& store)
+{
+    return store.SharedDatabase().Run("The loci are not counted", [](soci::session& session) {
+        long long count = 0;
+        Execute(session, "SELECT COUNT(*) FROM Locus WHERE IsCurrent = 1", soci::into(count));
+        return static_cast<std::size_t>(count);
+    });
+}
+
+void ForEachCurrentLocus(Store& store, const std::function<void(Locus&, std::size_t)>& handler)
+{
+    Database& database = store.SharedDatabase();
+    LocusReader reader(database, "IsCurrent = 1");
+    for (std::size_t at = 0; const auto read = reader.Next(); ++at)
+    {
+        database.Progress();
+        const auto locus = As<StoredLocus>(store.Manager().Create("Locus"));
+        locus->SetState(read->State);
+        locus->SetIdentity(read->Identity);
+        handler(*locus, at);
+    }
 }
 
 void ForEachWithAlleles(std::span<const std::shared_ptr<BusinessObject>> loci,

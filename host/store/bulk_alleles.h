@@ -11,6 +11,8 @@
 namespace Tamrivo
 {
 
+class Store;
+
 // Who goes through many loci would ask the store for the alleles of each; these read them for
 // hundreds of loci with one query.
 
@@ -34,6 +36,12 @@ std::vector<StoredLocus*> LociWithoutAlleles(std::span<const std::shared_ptr<Obj
 /// Loads the alleles of the loci, which are of one store. Raises `StoreError::Conflict` when one of
 /// them is no longer as it was read.
 void LoadAlleles(const std::vector<StoredLocus*>& loci);
+
+std::size_t CountCurrentLoci(Store& store);
+
+/// Calls the handler with each current locus of a store, whose alleles are loaded, in the order of
+/// their numbers, and with its place. The memory doesn't grow with the store.
+void ForEachCurrentLocus(Store& store, const std::function<void(Locus&, std::size_t)>& handler);
 
 /// Calls the handler with each locus, whose alleles are loaded then, and with its place. Those that
 /// were not loaded before are forgotten afterwards, so that the memory doesn't grow with the list.

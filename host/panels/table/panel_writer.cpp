@@ -7,6 +7,7 @@
 #include "host/panels/panel_marker.h"
 #include "host/panels/table/panel_table.h"
 #include "host/store/bulk_alleles.h"
+#include "host/store/store.h"
 
 #include <algorithm>
 #include <cmath>
@@ -104,6 +105,21 @@ private:
 };
 
 } // namespace
+
+std::size_t WritePanelTable(std::ostream& out, Store& store, const LociProgress& progress)
+{
+    const Dyes dyes = store.Dyes();
+    const std::size_t total = CountCurrentLoci(store);
+    PanelTableWriter writer(out, dyes);
+    std::size_t count = 0;
+    ForEachCurrentLocus(store, [&](Locus& locus, std::size_t done) {
+        if (progress)
+            progress(done, std::max(total, done));
+        writer.Write(locus);
+        count = done + 1;
+    });
+    return count;
+}
 
 void WritePanelTable(std::ostream& out, std::span<const std::shared_ptr<BusinessObject>> loci,
                      const Dyes& dyes, const LociProgress& progress)

@@ -88,9 +88,11 @@ TEST_F(Commands, NameWhatIsWrongWithATableAndImportNothing)
     EXPECT_THAT(m_err, AllOf(HasSubstr("mixed.tsv, line 5: SE33 of Q: The colour purple"),
                              HasSubstr("Nothing was imported: 1 locus can't come in")));
     EXPECT_TRUE(Json({"list"}).empty());
-    EXPECT_EQ(Run({"import", Write("bad.tsv", table + "P\tA\t8\tx\n")}), 1);
+    EXPECT_EQ(Run({"import", Write("bad.tsv", table + "P\tA\t8\tx\t\t\t\t\t\t\n")}), 1);
     EXPECT_THAT(m_err, AllOf(HasSubstr("bad.tsv, line 5: A of P: line 5, column Size: \"x\""),
                              HasSubstr("line 5, column Repeat: nothing")));
+    EXPECT_EQ(Run({"import", Write("short.tsv", table + "P\tA\t8\tx\n")}), 1);
+    EXPECT_THAT(m_err, HasSubstr("The line has 4 cells; expected 10; the file may have been cut"));
     EXPECT_EQ(Run({"import", mixed, "--panel", "R"}), 1);
     EXPECT_EQ(Run({"import", Path("none.tsv")}), 1);
     EXPECT_TRUE(Json({"list"}).empty());

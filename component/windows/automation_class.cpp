@@ -2,6 +2,7 @@
 
 #include "automation/classes.h"
 #include "component/windows/face.h"
+#include "component/windows/notation.h"
 
 #include <algorithm>
 
@@ -10,6 +11,7 @@ namespace Tamrivo
 
 IUnknown* CreateForAutomation(const CreatableClass& created)
 {
+    TakeNotationOfPerson();
     const auto isMeant = [&](const Automation::Creatable& each) {
         return created.Name.ends_with(each.Name) &&
                created.Name.size() == each.Name.size() + std::string_view("Tamrivo.").size();

@@ -2,6 +2,7 @@
 
 #include "component/windows/text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <new>
 #include <utility>
@@ -13,6 +14,14 @@ namespace
 {
 
 constexpr auto automationBase = static_cast<HRESULT>(0x800A0000);
+
+/// Whether the code tells that the called object's program is no longer there.
+bool IsGone(HRESULT result)
+{
+    constexpr HRESULT codes[] = {RPC_E_DISCONNECTED, CO_E_OBJNOTCONNECTED, RPC_E_SERVER_DIED,
+                                 static_cast<HRESULT>(0x800706BA)}; // No server answers.
+    return std::ranges::find(codes, result) != std::end(codes);
+}
 
 std::string Hexadecimal(HRESULT result)
 {
@@ -103,7 +112,10 @@ ErrorRecord RecordOf(HRESULT result, EXCEPINFO& info, std::string_view member)
     SysFreeString(info.bstrHelpFile);
     if (record.Source.empty())
         record.Source = "Host";
-    if (record.Description.empty())
+    if (record.Description.empty() && IsGone(code))
+        record.Description = "The client's object is gone, and " + std::string(member) +
+                             " can't be called: its program has ended";
+    else if (record.Description.empty())
         record.Description = "The client's object has failed in " + std::string(member) +
                              " with the result code " + Hexadecimal(code);
     return record;

@@ -83,5 +83,8 @@ page.Open parameters
 page.Click "cmdSaveAs"
 
 If host.Count <> 2 Then WScript.Quit 1
+' The page keeps its host as long as it lives.
+Set host = Nothing
+page.Save
 WScript.Echo "done"
 WScript.Quit 0

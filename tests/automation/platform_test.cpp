@@ -169,6 +169,54 @@ TEST_F(Platform, AnswersThroughTheDualInterface)
     EXPECT_STREQ(info.bstrDescription, L"The page isn't open; call Open first");
 }
 
+/// A host whose program has ended.
+class GoneHost : public IDispatch
+{
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
+    {
+        const bool isKnown = riid == IID_IUnknown || riid == IID_IDispatch;
+        *object = isKnown ? this : nullptr;
+        return isKnown ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return RPC_E_DISCONNECTED; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override
+    {
+        return RPC_E_DISCONNECTED;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override
+    {
+        return RPC_E_DISCONNECTED;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                                     UINT*) override
+    {
+        return RPC_E_DISCONNECTED;
+    }
+};
+
+TEST_F(Platform, SaysThatAHostIsGone)
+{
+    GoneHost host;
+    const auto selector = Create(ClassNames[2]);
+    VARIANT value{};
+    V_VT(&value) = VT_DISPATCH;
+    V_DISPATCH(&value) = &host;
+    DISPID put = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{&value, &put, 1, 1};
+    EXPECT_EQ(selector->Invoke(NumberOf(*selector, L"Host"), IID_NULL, LOCALE_USER_DEFAULT,
+                               DISPATCH_PROPERTYPUTREF, &parameters, nullptr, nullptr, nullptr),
+              S_OK);
+    Arguments answer;
+    answer.AddText(L"yes");
+    EXCEPINFO info{};
+    EXPECT_EQ(Call(*selector, L"Answer", answer, &info), DISP_E_EXCEPTION);
+    EXPECT_STREQ(info.bstrDescription, L"The client's object is gone, and Answer can't be called: "
+                                       L"its program has ended");
+}
+
 /// Values of every kind, good and bad.
 class RandomValues
 {

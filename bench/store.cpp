@@ -95,6 +95,32 @@ double LookupSeconds(int count)
     });
 }
 
+/// "FragStart = FragStart, …": every column written as it is.
+std::string AssignmentsOfLocus()
+{
+    std::string assignments;
+    LocusRow row;
+    row.VisitColumns([&](std::string_view name, const auto&) {
+        assignments.append(assignments.empty() ? "" : ", ").append(name).append(" = ");
+        assignments.append(name);
+    });
+    return assignments;
+}
+
+std::shared_ptr<Locus> SavedLocusWithAlleles(ObjectManager& manager)
+{
+    auto locus = SampleLocus(manager, 0);
+    for (int number = 0; number < Alleles; ++number)
+    {
+        auto allele = CreateObject<Allele>(manager, "Allele");
+        allele->AlleleText1 = std::to_string(number);
+        allele->AlleleReal1 = 100.25 + 4 * number;
+        locus->Alleles().Add(allele);
+    }
+    manager.Save(*locus, true);
+    return locus;
+}
+
 } // namespace
 
 double QueryOfLoci()
@@ -111,26 +137,12 @@ double SaveOfLocus()
 {
     TemporaryStore store;
     ObjectManager& manager = store.Get().Manager();
-    const auto locus = SampleLocus(manager, 0);
-    for (int number = 0; number < Alleles; ++number)
-    {
-        auto allele = CreateObject<Allele>(manager, "Allele");
-        allele->AlleleText1 = std::to_string(number);
-        allele->AlleleReal1 = 100.25 + 4 * number;
-        locus->Alleles().Add(allele);
-    }
-    manager.Save(*locus, true);
+    const auto locus = SavedLocusWithAlleles(manager);
 
     TemporaryStore copy;
     copy.Get().Manager().Save(*SampleLocus(copy.Get().Manager(), 0), true);
     const BareConnection connection = Connect(copy.Path());
-    std::string assignments;
-    LocusRow row;
-    row.VisitColumns([&](std::string_view name, const auto&) {
-        assignments.append(assignments.empty() ? "" : ", ").append(name).append(" = ");
-        assignments.append(name);
-    });
-    const BareStatement update = Prepare(connection, "UPDATE Locus SET " + assignments +
+    const BareStatement update = Prepare(connection, "UPDATE Locus SET " + AssignmentsOfLocus() +
                                                          ", Revision = Revision + 1 "
                                                          "WHERE LocusID = 2");
     const BareStatement remove = Prepare(connection, "DELETE FROM Allele WHERE LocusID = 2");

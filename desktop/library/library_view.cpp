@@ -240,6 +240,24 @@ void LibraryView::FocusSearch()
     m_search->Focus();
 }
 
+std::vector<LaneLocus> LibraryView::LanesOfChoice() const
+{
+    std::vector<LaneLocus> lanes;
+    const auto add = [&lanes](const LibraryLocus& locus) {
+        lanes.push_back({locus.Tag, locus.DyeIndex, locus.FragStart, locus.FragEnd});
+    };
+    const auto chosen = m_table->ChosenRows();
+    if (chosen.size() > 1)
+    {
+        for (const int row : chosen)
+            add(m_model->LocusAt(row));
+        return lanes;
+    }
+    for (const std::uint32_t position : m_model->Positions())
+        add(m_library->Loci()[position]);
+    return lanes;
+}
+
 void LibraryView::ShowPreview()
 {
     if (!m_library)
@@ -264,24 +282,7 @@ void LibraryView::ShowPreview()
         ++m_lanesNumber;
     m_lanesAreOfChosen = lanesAreOfChosen;
     content.LanesNumber = m_lanesNumber;
-    content.Lanes = [this] {
-        std::vector<LaneLocus> lanes;
-        const auto add = [&](const LibraryLocus& locus) {
-            lanes.push_back({locus.Tag, locus.DyeIndex, locus.FragStart, locus.FragEnd});
-        };
-        const auto chosen = m_table->ChosenRows();
-        if (chosen.size() > 1)
-        {
-            for (const int row : chosen)
-                add(m_model->LocusAt(row));
-        }
-        else
-        {
-            for (const std::uint32_t position : m_model->Positions())
-                add(m_library->Loci()[position]);
-        }
-        return lanes;
-    };
+    content.Lanes = [this] { return LanesOfChoice(); };
     // Where several are chosen, the lanes are theirs alone.
     m_preview->Picture().SetChosen(content.Count == 1 ? tags : std::vector<std::string>());
     m_preview->Show(std::move(content));

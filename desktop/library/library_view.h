@@ -68,6 +68,7 @@ signals:
 
 private:
     void Filter();
+    std::vector<LaneLocus> LanesOfChoice() const;
     void ShowPreview();
     void TakeFindings();
     void ShowFindings();

@@ -75,14 +75,14 @@ void FindingWatch::GoOn()
 
 bool FindingWatch::Step()
 {
-    if (m_run)
+    if (m_run && !m_reading)
         return m_run->Step();
-    if (!m_reading)
+    if (m_run)
+        m_reading.reset(); // With very many loci that is a step of its own.
+    else if (!m_reading)
         m_reading = std::make_unique<CheckReading>(*m_store);
-    if (m_reading->Step())
-        return true;
-    m_run = std::make_unique<CheckRun>(m_reading->Source(), AllCheckRules());
-    m_reading.reset();
+    else if (!m_reading->Step())
+        m_run = std::make_unique<CheckRun>(m_reading->Source(), AllCheckRules());
     return true;
 }
 

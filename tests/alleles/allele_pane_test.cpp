@@ -1,3 +1,4 @@
+#include "core/numbers.h"
 #include "tests/alleles/allele_pane_fixture.h"
 #include "tests/fakes/locales.h"
 
@@ -17,6 +18,34 @@ TEST_F(AllelePaneTest, ShowsTheRowsBySizeAndLeavesTheLocusAlone)
     Pane->SetLocus(nullptr);
     EXPECT_EQ(Names(), List{});
     EXPECT_THROW(User::AddAllele(Form.Alleles), User::Refusal);
+}
+
+TEST_F(AllelePaneTest, ARowOfASizeTakesTheRoomAndTheNameThatAreFree)
+{
+    Pane->SetLocus(Locus);
+    for (const auto& row : Pane->Rows())
+        row->AlleleReal4 = ToDouble(row->AlleleText1);
+    struct Case
+    {
+        double Size;
+        double From;
+        double To;
+        std::string Name;
+    };
+    for (const Case& one :
+         {Case{62, 61.5, 62.5, "8.2"}, Case{64.8, 64.5, 65.3, "9.1"}, Case{72, 71.5, 72.5, "11"},
+          Case{56, 55.5, 56.5, "7"}, Case{64.1, 64.5, 64.6, ""}})
+    {
+        const AlleleFields fields = Pane->FieldsOfNew(one.Size);
+        EXPECT_NEAR(fields.AlleleReal2, std::min(one.From, one.Size), 1e-9) << one.Size;
+        EXPECT_NEAR(fields.AlleleReal3, one.To, 1e-9) << one.Size;
+        EXPECT_EQ(fields.AlleleText1, one.Name) << one.Size;
+    }
+    EXPECT_EQ(User::AddAlleleOfSize(Form.Alleles, 62), 2);
+    EXPECT_EQ(Names(), (List{"8", "8.2", "9", "10"}));
+    EXPECT_EQ(Pane->Steps(), 1U);
+    User::EditAllele(Form.Alleles, 3, NameColumn, "x");
+    EXPECT_EQ(Pane->FieldsOfNew(65).AlleleText1, "") << "not named by repeats";
 }
 
 TEST_F(AllelePaneTest, EditsReachTheLocusAndKeepTheOrder)

@@ -2,6 +2,7 @@
 
 #include "console/commands/command.h"
 #include "console/shell/terminal_source.h"
+#include "host/database/database.h"
 #include "host/framework/environment.h"
 #include "host/store/store.h"
 
@@ -58,6 +59,8 @@ void RunShell(Context& context, const ShellOptions& options)
 
     Store store(context.StoreLocation);
     store.SetReason(context.Reason);
+    if (store.IsReadOnly())
+        context.Err << "The store is read-only: " << store.SharedDatabase().WhyReadOnly() << ".\n";
     Shell shell(store, *source, context.Out, context.Err,
                 options.KeepGoing ? AfterError::KeepGoing : AfterError::Stop);
     context.Status = shell.Run();

@@ -54,6 +54,19 @@ bool IsRevision(const std::string& at)
     return !at.empty() && std::ranges::all_of(at, [](char c) { return c >= '0' && c <= '9'; });
 }
 
+/// The condition on a record to be what `--at` names, or one before it.
+std::string ConditionOn(const std::string& at)
+{
+    if (!IsRevision(at))
+        return "WrittenAt <= " +
+               std::to_string(MomentOf(at, OfDay::End).time_since_epoch().count());
+    if (at.size() > 9)
+        throw Failure(ErrorNumber::InvalidArgument, "History", at + " is too large a revision");
+    return "Revision = " + at;
+}
+
+constexpr const char* HadTag = "Kind = 'Locus' AND NameKey = :Key AND NameKey <> ''";
+
 } // namespace
 
 void History::ForEach(const HistoryFilter& filter,
@@ -156,35 +169,42 @@ std::optional<HistoryRecord> History::ReadOne(const std::string& condition,
     });
 }
 
+std::optional<HistoryRecord> History::LastOfLocus(std::int32_t number, const std::string& condition)
+{
+    return ReadOne("Kind = 'Locus' AND ObjectNumber = " + std::to_string(number) + " AND " +
+                       condition + " ORDER BY Revision DESC",
+                   "");
+}
+
+std::optional<HistoryRecord> History::DeletedLocusRecordAt(const std::string& tag,
+                                                           const std::string& at)
+{
+    const auto last =
+        ReadOne(std::string(HadTag) +
+                    " AND NOT EXISTS (SELECT 1 FROM Locus WHERE LocusID = ObjectNumber) ORDER BY "
+                    "Number DESC",
+                LookupKey(tag));
+    return last ? LastOfLocus(last->ObjectNumber, ConditionOn(at)) : std::nullopt;
+}
+
 HistoryRecord History::LocusRecordAt(const std::string& tag, const std::string& at)
 {
     const std::string key = LookupKey(tag);
-    std::string upTo = "Revision = " + at;
-    if (!IsRevision(at))
-        upTo =
-            "WrittenAt <= " + std::to_string(MomentOf(at, OfDay::End).time_since_epoch().count());
-    else if (at.size() > 9)
-        throw Failure(ErrorNumber::InvalidArgument, "History", at + " is too large a revision");
-
-    const auto ofObject = [&](std::int32_t number) {
-        return ReadOne("Kind = 'Locus' AND ObjectNumber = " + std::to_string(number) + " AND " +
-                           upTo + " ORDER BY Revision DESC",
-                       "");
-    };
+    const std::string upTo = ConditionOn(at);
     if (const std::int32_t number = FindLocusNumber(m_database, tag))
     {
-        if (auto record = ofObject(number))
+        if (auto record = LastOfLocus(number, upTo))
             return *record;
     }
-    const std::string hadTag = "Kind = 'Locus' AND NameKey = :Key AND NameKey <> ''";
-    if (const auto last = ReadOne(hadTag + " AND " + upTo + " ORDER BY Number DESC", key))
+    if (const auto last =
+            ReadOne(std::string(HadTag) + " AND " + upTo + " ORDER BY Number DESC", key))
     {
-        if (auto record = ofObject(last->ObjectNumber))
+        if (auto record = LastOfLocus(last->ObjectNumber, upTo))
             return *record;
     }
-    if (const auto last = ReadOne(hadTag + " ORDER BY Number DESC", key))
+    if (const auto last = ReadOne(std::string(HadTag) + " ORDER BY Number DESC", key))
     {
-        if (auto record = ofObject(last->ObjectNumber))
+        if (auto record = LastOfLocus(last->ObjectNumber, upTo))
             return *record;
         throw Failure(
             StoreError::NotFound, "History",

@@ -68,6 +68,10 @@ public:
     /// Raises `StoreError::NotFound`, `ErrorNumber::InvalidArgument`.
     HistoryRecord LocusRecordAt(const std::string& tag, const std::string& at);
 
+    /// The same of the last deleted locus that had the tag, whoever has it now; none without one.
+    std::optional<HistoryRecord> DeletedLocusRecordAt(const std::string& tag,
+                                                      const std::string& at);
+
     /// The record of the same object before this one.
     std::optional<HistoryRecord> Before(const HistoryRecord& record);
 
@@ -85,6 +89,8 @@ private:
     void HandOver(const std::vector<HistoryRecord>& page,
                   const std::function<void(const HistoryRecord&)>& handler);
     std::optional<HistoryRecord> ReadOne(const std::string& condition, const std::string& value);
+    /// The last record of a locus that meets a condition.
+    std::optional<HistoryRecord> LastOfLocus(std::int32_t number, const std::string& condition);
 
     Database& m_database;
 };

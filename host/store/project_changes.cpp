@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "host/database/database.h"
 #include "host/database/execute.h"
+#include "host/loci/counts.h"
 #include "host/loci/keys.h"
 #include "host/store/history_content.h"
 #include "host/store/history_writer.h"
@@ -87,8 +88,9 @@ void DeleteProject(Store& store, const std::string& name)
         const std::size_t loci = TagsIn(database, number).size();
         if (loci > 0)
             throw Failure(ErrorNumber::InvalidArgument, "Store",
-                          "The project \"" + name + "\" is not deleted: " + std::to_string(loci) +
-                              " loci are in it. Move them to another one first (tamrivo set TAG "
+                          "The project \"" + name + "\" is not deleted: " + CountOfLoci(loci) +
+                              (loci == 1 ? " is" : " are") +
+                              " in it. Move them to another one first (tamrivo set TAG "
                               "--project NAME)");
         database.Run("The project \"" + name + "\" is not deleted", [&](soci::session& session) {
             Execute(session, "DELETE FROM Project WHERE ProjectID = :ID", soci::use(number));

@@ -114,7 +114,10 @@ std::shared_ptr<Locus> Store::LocusAt(const std::string& tag, const std::string&
 std::string Store::RestoreLocus(const std::string& tag, const std::string& at,
                                 const std::string& newTag)
 {
-    return RestoreLocus(Tamrivo::History(*m_database).LocusRecordAt(tag, at), newTag);
+    Tamrivo::History history(*m_database);
+    // Who asks for another tag means the locus that can't have its own.
+    const auto deleted = newTag.empty() ? std::nullopt : history.DeletedLocusRecordAt(tag, at);
+    return RestoreLocus(deleted ? *deleted : history.LocusRecordAt(tag, at), newTag);
 }
 
 std::string Store::RestoreLocus(const HistoryRecord& record, const std::string& newTag)

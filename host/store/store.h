@@ -81,7 +81,8 @@ public:
     std::shared_ptr<Locus> LocusAt(const std::string& tag, const std::string& at);
     /// Stores that state as a new change of the locus, which keeps its number, also when it was
     /// deleted since. Gives its tag.
-    /// @param newTag the tag that it gets instead of the one it had; may be empty
+    /// @param newTag the tag that it gets instead of the one it had; may be empty. With one, a
+    ///     deleted locus that had `tag` goes before the stored one that has it now
     /// Raises `StoreError::NameTaken` when another locus has the tag now.
     std::string RestoreLocus(const std::string& tag, const std::string& at,
                              const std::string& newTag);

@@ -56,6 +56,9 @@ void BackUpStore(Store& from, const std::string& file, bool mayOverwrite)
     {
         fs::remove(part, error);
         fs::remove(part + "-journal", error);
+        if (CurrentError().Number == StoreError::DiskFull)
+            RaiseNotWritten(file, "there is no room left on its disk. Make room, or name another "
+                                  "place");
         throw;
     }
 }

@@ -68,8 +68,11 @@ protected:
     static std::string Exported(Store& store)
     {
         std::ostringstream out;
+        std::ostringstream listed;
         const auto loci = CurrentLoci(store.Manager(), "");
-        WritePanelTable(out, loci->Members(), store.Dyes());
+        WritePanelTable(listed, loci->Members(), store.Dyes());
+        EXPECT_EQ(WritePanelTable(out, store), static_cast<std::size_t>(loci->Count()));
+        EXPECT_EQ(out.str(), listed.str());
         return out.str();
     }
 

@@ -4,6 +4,7 @@
 #include "contracts/allele.h"
 #include "host/database/backend.h"
 #include "host/store/history.h"
+#include "host/store/integrity.h"
 
 #include <gmock/gmock.h>
 
@@ -173,6 +174,7 @@ TEST_F(ServerTest, RolesMayWhatTheyAreFor)
     EXPECT_TRUE(reader.IsReadOnly());
     EXPECT_THAT(Names(reader.FindLocus("A")->Alleles()), ::testing::ElementsAre("1"));
     EXPECT_EQ(FailureOf([&] { Save(reader, "B"); }).Number, StoreError::ReadOnly);
+    EXPECT_THAT(CheckIntegrity(reader), ::testing::IsEmpty());
     ExpectToldFirst(as("rita"));
 
     {

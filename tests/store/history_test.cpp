@@ -160,7 +160,8 @@ TEST_F(HistoryTest, AnyStateComesBackUnderItsNumber)
     Save(store, "A");
     EXPECT_THAT(FailureOf([&] { store.RestoreLocus("B", "2", "A"); }).Description,
                 HasSubstr("--as TAG"));
-    EXPECT_EQ(store.RestoreLocus("B", "2", "C"), "C");
+    EXPECT_EQ(store.RestoreLocus("A", "2", "C"), "C") << "not the one that has the tag now";
+    EXPECT_EQ(store.LocusAt("A", "1")->LocusTag(), "A");
     EXPECT_EQ(store.FindLocus("C")->LocusID(), number);
     for (const char* at : {"3", "99", "2001-01-01"})
         EXPECT_EQ(FailureOf([&] { store.LocusAt("B", at); }).Number, StoreError::NotFound) << at;

@@ -29,7 +29,7 @@ enum Column
     Entry,
     Color,
     Name,
-    Loci,
+    LociUsing,
 };
 
 QComboBox* ColorBox(const std::string& chosen, const QPalette& palette, QWidget* parent)
@@ -102,7 +102,7 @@ void DyesDialog::AddRow(const Dye& dye, std::size_t loci)
         m_table->setItem(row, column, item);
     };
     fixed(Entry, ToQString(DyeEntry(row)));
-    fixed(Loci, QString::number(loci));
+    fixed(LociUsing, QString::number(loci));
     m_table->setCellWidget(row, Color, ColorBox(dye.Color, palette(), m_table));
     m_table->setItem(row, Name, new QTableWidgetItem(ToQString(dye.Name)));
 }

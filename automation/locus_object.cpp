@@ -128,7 +128,7 @@ const Class& AlleleObject::ClassOf() const
 
 Value AlleleObject::Do(std::size_t position, const List& arguments)
 {
-    return DoRow(*this, AlleleRows, position, arguments);
+    return DoRow(*this, AlleleFieldRows, position, arguments);
 }
 
 Value AlleleObject::GetField(const Member& member, const List&)

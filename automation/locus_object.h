@@ -125,8 +125,8 @@ inline constexpr auto LocusMembers = MembersOf(LocusOwnRows, LocusFieldRows);
 inline constexpr Class LocusClass{"Locus", "3C1B2D54-6D0F-4E0B-9E2B-5A6D6A3F1B01",
                                   "A locus and its alleles.", LocusMembers};
 
-inline constexpr auto AlleleRows = FieldRows<AlleleObject>(AlleleFieldTable);
-inline constexpr auto AlleleMembers = MembersOf(AlleleRows);
+inline constexpr auto AlleleFieldRows = FieldRows<AlleleObject>(AlleleFieldTable);
+inline constexpr auto AlleleMembers = MembersOf(AlleleFieldRows);
 inline constexpr Class AlleleClass{"Allele", "8E5F0A7C-1D52-4C39-8B63-2F4E9D7C6A02",
                                    "An allele of a locus.", AlleleMembers};
 

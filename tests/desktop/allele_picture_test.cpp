@@ -23,7 +23,12 @@ protected:
     }
 
     void Press(QPoint place) { QTest::mousePress(m_picture, Qt::LeftButton, {}, place); }
-    void Move(QPoint place) { QTest::mouseMove(m_picture, place); }
+    /// Comes from beside, since a pointer that stands there already wouldn't move.
+    void Move(QPoint place)
+    {
+        QTest::mouseMove(m_picture, place + QPoint(0, 1));
+        QTest::mouseMove(m_picture, place);
+    }
     void Release(QPoint place) { QTest::mouseRelease(m_picture, Qt::LeftButton, {}, place); }
 
     void Drag(double from, double to)

@@ -22,14 +22,14 @@ std::size_t Below(Random& random, std::size_t count)
     return random() % count;
 }
 
-struct Definition
+struct PanelLocus
 {
     std::string Tag;
     LocusFields Fields;
     std::vector<AlleleFields> Alleles;
 };
 
-using Panel = std::vector<Definition>;
+using Panel = std::vector<PanelLocus>;
 
 /// A panel as kits have them: four dyes with four loci each, whose sizes drift along the ladder and
 /// are measured to a hundredth, with microvariants and bins of unlike width.
@@ -42,7 +42,7 @@ Panel SimulatedPanel(Random& random)
         double from = 80 + 10 * unit(random);
         for (int number = 0; number < 4; ++number)
         {
-            Definition locus{"L" + std::to_string(panel.size()), {}, {}};
+            PanelLocus locus{"L" + std::to_string(panel.size()), {}, {}};
             const int repeatLength = Below(random, 8) == 0 ? 5 : 4;
             const double stretch = 0.95 + 0.1 * unit(random);
             const double wave = 0.25 * unit(random);
@@ -116,7 +116,7 @@ void Move(AlleleFields& allele, double distance)
 struct Fault
 {
     const char* What;
-    bool (*Make)(Random&, Panel&, Definition&, AlleleFields&);
+    bool (*Make)(Random&, Panel&, PanelLocus&, AlleleFields&);
     std::set<std::string_view> Right;
 };
 
@@ -126,7 +126,7 @@ const std::set<std::string_view> sizeRules = {"outside-bin", "size-name", "order
 
 const Fault faults[] = {
     {"a neighbour's name",
-     [](Random&, Panel&, Definition& locus, AlleleFields& allele) {
+     [](Random&, Panel&, PanelLocus& locus, AlleleFields& allele) {
          AlleleFields& neighbour =
              &allele == &locus.Alleles.front() ? *(&allele + 1) : *(&allele - 1);
          allele.AlleleText1 = neighbour.AlleleText1;
@@ -134,7 +134,7 @@ const Fault faults[] = {
      },
      nameRules},
     {"a name one repeat off",
-     [](Random& random, Panel&, Definition&, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus&, AlleleFields& allele) {
          RepeatName name = *ReadRepeatName(allele.AlleleText1);
          name.Repeats += static_cast<std::int32_t>(Sign(random));
          allele.AlleleText1 = name.Text();
@@ -142,7 +142,7 @@ const Fault faults[] = {
      },
      nameRules},
     {"9.3 as 93 or 9",
-     [](Random& random, Panel&, Definition&, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus&, AlleleFields& allele) {
          const std::size_t point = allele.AlleleText1.find('.');
          if (point == std::string::npos)
              return false;
@@ -151,7 +151,7 @@ const Fault faults[] = {
      },
      nameRules},
     {"two digits of a size swapped",
-     [](Random& random, Panel&, Definition&, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus&, AlleleFields& allele) {
          std::string digits = std::to_string(std::lround(100 * allele.AlleleReal1));
          const std::size_t at = Below(random, digits.size() - 1);
          std::swap(digits[at], digits[at + 1]);
@@ -162,19 +162,19 @@ const Fault faults[] = {
      },
      sizeRules},
     {"a size one nt off, its bin with it",
-     [](Random& random, Panel&, Definition&, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus&, AlleleFields& allele) {
          Move(allele, Sign(random));
          return true;
      },
      sizeRules},
     {"a size one repeat off",
-     [](Random& random, Panel&, Definition& locus, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus& locus, AlleleFields& allele) {
          allele.AlleleReal1 += Sign(random) * locus.Fields.RepeatLength;
          return true;
      },
      sizeRules},
     {"a bin limit mistyped",
-     [](Random& random, Panel&, Definition&, AlleleFields& allele) {
+     [](Random& random, Panel&, PanelLocus&, AlleleFields& allele) {
          double& limit = Below(random, 2) == 0 ? allele.AlleleReal2 : allele.AlleleReal3;
          limit += Sign(random) * (1 + static_cast<double>(Below(random, 9))) *
                   std::pow(10, Below(random, 3));
@@ -182,21 +182,21 @@ const Fault faults[] = {
      },
      {"outside-bin", "bin-overlap", "odd-bin"}},
     {"a wrong dye",
-     [](Random& random, Panel&, Definition& locus, AlleleFields&) {
+     [](Random& random, Panel&, PanelLocus& locus, AlleleFields&) {
          locus.Fields.DyeIndex =
              (locus.Fields.DyeIndex + 1 + static_cast<std::int32_t>(Below(random, 3))) % 4;
          return true;
      },
      {"bin-overlap", "range-overlap"}},
     {"a row doubled",
-     [](Random&, Panel&, Definition& locus, AlleleFields& allele) {
+     [](Random&, Panel&, PanelLocus& locus, AlleleFields& allele) {
          locus.Alleles.push_back(allele);
          return true;
      },
      {"same-name", "same-bin"}},
     {"a row of another locus",
-     [](Random& random, Panel& panel, Definition& locus, AlleleFields&) {
-         const Definition& other = panel[Below(random, panel.size())];
+     [](Random& random, Panel& panel, PanelLocus& locus, AlleleFields&) {
+         const PanelLocus& other = panel[Below(random, panel.size())];
          locus.Alleles.push_back(other.Alleles[Below(random, other.Alleles.size())]);
          return other.Tag != locus.Tag;
      },
@@ -220,7 +220,7 @@ TEST(Faults, AreFoundByTheRightRuleAndPanelsWithoutThemAreClean)
         for (const Fault& fault : faults)
         {
             Panel panel = clean;
-            Definition& locus = panel[Below(random, panel.size())];
+            PanelLocus& locus = panel[Below(random, panel.size())];
             AlleleFields& allele = locus.Alleles[Below(random, locus.Alleles.size())];
             if (!fault.Make(random, panel, locus, allele))
                 continue;

@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -25,6 +26,7 @@ protected:
     MainWindowTest()
     {
         m_session.reset();
+        QSettings().clear();
         OpenWindow();
         ClickGroup("Casework");
         ClickGroup("Library");

@@ -16,7 +16,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void Refuse(const std::string& path, const std::string& why)
+[[noreturn]] void RefuseToWrite(const std::string& path, const std::string& why)
 {
     throw Failure(ErrorNumber::InvalidArgument, "PanelFile",
                   "The file \"" + path + "\" can't be written: " + why);
@@ -59,7 +59,7 @@ public:
             m_file.Write(out);
         out.close();
         if (!out)
-            Refuse(m_file.Path, std::generic_category().message(errno));
+            RefuseToWrite(m_file.Path, std::generic_category().message(errno));
     }
 
     /// @param isAlone no other file is replaced after this one
@@ -74,7 +74,7 @@ public:
         if (!error)
             fs::rename(Beside(".part"), m_target, error);
         if (error)
-            Refuse(m_file.Path, error.message());
+            RefuseToWrite(m_file.Path, error.message());
         m_isReplaced = true;
     }
 
@@ -113,7 +113,7 @@ void WriteWholeFiles(const std::vector<FileToWrite>& files)
     {
         const Replacement& added = replacements.emplace_back(file);
         if (&added != &replacements.front() && added.IsFor(replacements.front()))
-            Refuse(file.Path, "it would be written twice; give two names");
+            RefuseToWrite(file.Path, "it would be written twice; give two names");
         added.Write();
     }
     for (Replacement& replacement : replacements)

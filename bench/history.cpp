@@ -17,8 +17,6 @@ constexpr int ManyRecords = 1'000'000;
 constexpr int FewRecords = 1'000;
 constexpr int RecordsOfLocus = 10;
 
-volatile long long sink = 0;
-
 /// A store with a locus of ten records, and so many of other loci.
 TemporaryStore& StoreOfRecords(int count)
 {
@@ -81,7 +79,7 @@ double HistoryOfLocus()
             History(store.SharedDatabase()).ForEach(filter, [&](const HistoryRecord& record) {
                 sum += record.Number;
             });
-            sink = sum;
+            Keep(sum);
         });
     });
 }

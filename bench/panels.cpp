@@ -16,8 +16,6 @@ namespace Tamrivo::Bench
 namespace
 {
 
-volatile long long sink = 0;
-
 void Step(const BareStatement& statement, const BareConnection& connection)
 {
     Require(sqlite3_step(statement.get()) == SQLITE_DONE, connection);
@@ -44,7 +42,7 @@ void BareScanOfAlleles(const BareConnection& connection)
                 sum += sqlite3_column_int(select.get(), column++);
         });
     }
-    sink = sum;
+    Keep(sum);
 }
 
 void Import(const std::string& text, Store& store)

@@ -17,9 +17,6 @@ namespace
 constexpr int FewLoci = 100;
 constexpr int Alleles = 30;
 
-/// Kept so that no measured work is optimised away.
-volatile long long sink = 0;
-
 /// How a bare scan reads a column.
 enum class ColumnKind
 {
@@ -68,7 +65,7 @@ void BareScan(const BareConnection& connection)
             ++column;
         }
     }
-    sink = sum;
+    Keep(sum);
 }
 
 /// A query whose members can be looked up, against a scan that only reads.
@@ -91,7 +88,7 @@ double LookupSeconds(int count)
         tags.push_back(SampleTag(number * (count / FewLoci)));
     return FastestOf(200, [&] {
         for (const std::string& tag : tags)
-            sink = reinterpret_cast<long long>(loci->Item(tag).get());
+            Keep(reinterpret_cast<long long>(loci->Item(tag).get()));
     });
 }
 
@@ -198,7 +195,7 @@ double AlleleGeneration()
     locus.RepeatLength = 1;
     locus.AlleleNamingConventionTypeID = AlleleNamingConvention::Alphabetic;
     return 1000 *
-           FastestOf(20, [&] { sink = static_cast<long long>(GenerateAlleleRows(locus).size()); });
+           FastestOf(20, [&] { Keep(static_cast<long long>(GenerateAlleleRows(locus).size())); });
 }
 
 } // namespace Tamrivo::Bench

@@ -8,6 +8,13 @@
 namespace Tamrivo::Bench
 {
 
+/// Takes the result of measured work, so that the work isn't optimised away.
+template <class Result>
+void Keep(Result result)
+{
+    [[maybe_unused]] const volatile Result kept = result;
+}
+
 /// How long one call takes, seconds. What the work gives is destroyed after the clock has stopped.
 template <class Work>
 double SecondsOf(Work&& work)

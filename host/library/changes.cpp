@@ -1,6 +1,7 @@
 #include "host/library/changes.h"
 
 #include "core/text.h"
+#include "host/loci/locus_tag.h"
 #include "host/store/store.h"
 
 namespace Tamrivo
@@ -18,8 +19,7 @@ std::shared_ptr<Locus> Required(Store& store, const std::string& tag)
 
 void SaveUnder(Store& store, Locus& locus, const std::string& tag)
 {
-    if (Trim(tag).empty())
-        throw Failure(ErrorNumber::InvalidArgument, "Store", "A locus needs a tag");
+    RequireLocusTag(tag);
     locus.SetLocusTag(tag);
     store.Manager().Save(locus, true);
 }

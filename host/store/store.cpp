@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "host/database/database.h"
+#include "host/loci/locus_tag.h"
 #include "host/store/dye_table.h"
 #include "host/store/first_records.h"
 #include "host/store/history.h"
@@ -127,6 +128,7 @@ std::string Store::RestoreLocus(const HistoryRecord& record, const std::string& 
         LocusState state = LocusStateOf(record);
         if (!newTag.empty())
             state.Tag = newTag;
+        RequireLocusTag(state.Tag);
         RequireFreeTag(record.ObjectNumber, state.Tag);
         // The project may have gone since.
         if (!state.Fields.ProjectName.empty())

@@ -157,6 +157,8 @@ TEST_F(Commands, ChangeAndFindLoci)
     EXPECT_EQ(Run({"rename", "TH01 (q)", "TH01-green"}), 0);
     EXPECT_EQ(m_out, "Renamed TH01 (Q) to TH01-green.\n");
     EXPECT_EQ(Run({"rename", "D3S1358", "th01-green"}), 1);
+    EXPECT_EQ(Run({"duplicate", "TH01-green", std::string(129, 'x')}), 1);
+    EXPECT_THAT(m_err, HasSubstr("at most 128 characters, and this one has 129"));
     EXPECT_EQ(Run({"duplicate", "TH01-green", "Copy"}), 0);
     EXPECT_EQ(Run({"set", "copy", "D3S1358", "--dye", "Red", "--project", "New"}), 0);
     EXPECT_EQ(m_out, "Changed 2 loci.\n");

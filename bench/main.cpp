@@ -4,6 +4,7 @@
 // "over". The status is 1 when one is over its bound, 2 when a name is unknown.
 
 #include "bench/figures.h"
+#include "bench/sample_store.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -48,6 +49,10 @@ int main(int argc, char** argv)
     bool ok = true;
     try
     {
+        // SOCI makes tables at its first query, which must outlive the stores that are kept.
+        {
+            const TemporaryStore first;
+        }
         for (const Figure& figure : Figures)
         {
             if (names.empty() || std::ranges::find(names, figure.Name) != names.end())

@@ -26,7 +26,8 @@ struct HistoryRecord;
 ///
 /// Every member and every object that comes out of the store may raise the failures of
 /// `StoreError`. A write either happens whole, and is then durable, or leaves the store as it was.
-/// Objects stay usable after the store object is gone; they keep the connection open.
+/// Objects stay usable after the store object is gone; they keep the connection open. A store must
+/// end before the program's static objects do, some of which the database's library needs.
 class Store
 {
 public:

@@ -71,7 +71,7 @@ ImportDialog::ImportDialog(Store& store, const Actions& actions, QWidget* parent
 
     m_tree->setFocus();
     const int line = fontMetrics().lineSpacing();
-    RestorePlace(*this, {76 * line, 38 * line});
+    RestorePlace(*this, {94 * line, 44 * line});
 }
 
 ImportDialog::~ImportDialog()
